@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The drawing in the real window: what a user waits for after a click, repaint included.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QGraphicsView>
+#include <QTest>
+#include <memory>
+
+#include "editor/cell_click.h"
+#include "editor/invariants.h"
+#include "model/grid.h"
+#include "support/temp_folder.h"
+#include "ui/child_window.h"
+#include "ui/child_windows.h"
+#include "ui/mdi.h"
+#include "ui/program.h"
+
+namespace idrova {
+namespace {
+
+class NoBoxes final : public MessageBoxes {
+  public:
+    Answer Show(const MessageBox& /*box*/) override { return Answer::Cancel; }
+};
+
+/// The main window with a grid of 100 x 100 cells and `pipes` pipes that touch nothing.
+class Plant {
+  public:
+    explicit Plant(int pipes) {
+        mdi_.resize(1360, 1080);
+        project.GridSize = kMaxGridSize;
+        mdi_.Windows().Close("FrmCel");
+        mdi_.ShowMode();
+        mdi_.show();
+        benchmark::DoNotOptimize(QTest::qWaitForWindowExposed(&mdi_));
+        view_ = mdi_.Windows().Find("FrmCel")->findChild<QGraphicsView*>("Drawing");
+        for (int i = 0; i < pipes; ++i) {
+            Click(1 + 4 * (i % 25), 1 + i / 25, MouseButton::Left);
+            Click(3 + 4 * (i % 25), 1 + i / 25, MouseButton::Left);
+        }
+    }
+
+    void Click(int column, int row, MouseButton button) {
+        CellClick(project, program_->editor, CellAt(column, row, project.GridSize), button, boxes_);
+    }
+
+    /// A press of the mouse, and everything shown that it changed.
+    void Press(int column, int row, Qt::MouseButton button) {
+        const ScreenPoint at = CellCentre(project, CellAt(column, row, project.GridSize));
+        QTest::mousePress(view_->viewport(), button, {}, view_->mapFromScene(QPointF(at.x, at.y)));
+        QApplication::processEvents();
+    }
+
+    void Redraw() {
+        mdi_.ShowNetwork();
+        view_->viewport()->repaint();
+    }
+
+  private:
+    TempFolder folder_;
+    NoBoxes boxes_;
+    std::unique_ptr<Program> program_ = std::make_unique<Program>(folder_.Path(), boxes_);
+    MDI mdi_{*program_};
+    QGraphicsView* view_ = nullptr;
+
+  public:
+    Project& project = program_->project;
+    Editor& editor = program_->editor;
+};
+
+void SelectPipe(benchmark::State& state) {
+    Plant plant(kMaxPipes);
+    int row = 1;
+    for (auto _ : state) {
+        plant.Press(2, row, Qt::RightButton);
+        row = 9 - row;
+    }
+}
+BENCHMARK(SelectPipe)->Unit(benchmark::kMillisecond);
+
+void CompletePipe(benchmark::State& state) {
+    Plant plant(kMaxPipes - 1);
+    for (auto _ : state) {
+        state.PauseTiming();
+        plant.Click(50, 50, MouseButton::Left);
+        state.ResumeTiming();
+        plant.Press(50, 60, Qt::LeftButton);
+        state.PauseTiming();
+        plant.project.numtubo = kMaxPipes - 1;  // room for the next
+        plant.project.npres -= 2;
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(CompletePipe)->Unit(benchmark::kMillisecond);
+
+void FullRedraw(benchmark::State& state) {
+    Plant plant(kMaxPipes);
+    plant.editor.DataShown = state.range(0) != 0;
+    for (auto _ : state) plant.Redraw();
+}
+BENCHMARK(FullRedraw)->Arg(0)->Arg(1)->ArgName("data")->Unit(benchmark::kMillisecond);
+
+void CheckInvariants(benchmark::State& state) {
+    const Plant plant(kMaxPipes);
+    for (auto _ : state) benchmark::DoNotOptimize(BrokenInvariants(plant.project, plant.editor));
+}
+BENCHMARK(CheckInvariants)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace idrova
+
+int main(int argc, char* argv[]) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    benchmark::Initialize(&argc, argv);
+    const QApplication application(argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

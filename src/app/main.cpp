@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QStandardPaths>
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "model/settings.h"
+#include "shell/start_up.h"
+#include "ui/frm_start.h"
+#include "ui/logo_picture.h"
+#include "ui/mdi.h"
+#include "ui/program.h"
+#include "ui/qt_message_boxes.h"
+#include "ui/qt_text.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The project files named on the command line, as full paths.
+std::vector<fs::path> NamedFiles() {
+    std::vector<fs::path> files;
+    const QStringList arguments = QApplication::arguments();
+    for (qsizetype i = 1; i < arguments.size(); ++i) {
+        files.push_back(fs::absolute(idrova::PathFromQt(arguments[i])).lexically_normal());
+    }
+    return files;
+}
+
+fs::path EnterWorkingFolder(idrova::MessageBoxes& boxes) {
+    const fs::path executable = idrova::PathFromQt(QApplication::applicationFilePath());
+    const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    fs::path folder = idrova::WorkingFolder(executable, idrova::PathFromQt(data));
+    const fs::path shared = executable.parent_path().parent_path() / "share" / "idrova";
+    const idrova::Status prepared = idrova::PrepareWorkingFolder(folder, shared);
+    if (!prepared) boxes.Show({prepared.Error(), "Idrova"});
+    std::error_code ignored;
+    fs::current_path(folder, ignored);
+    return folder;
+}
+
+/// Where users keep their projects: their documents, or their home.
+fs::path ProjectsFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return idrova::PathFromQt(QDir(documents).exists() ? documents : QDir::homePath());
+}
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+    QApplication application(argc, argv);
+    idrova::SetDecimalPoint();
+    QApplication::setApplicationName("idrova");
+    QApplication::setApplicationVersion(idrova::ToQt(idrova::VersionText()));
+    QApplication::setDesktopFileName(idrova::kApplicationId);
+    QApplication::setWindowIcon(idrova::LogoIcon());
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    idrova::QtMessageBoxes boxes;
+    const std::vector<fs::path> files = NamedFiles();
+    const auto program = std::make_unique<idrova::Program>(EnterWorkingFolder(boxes), boxes);
+    program->lastFolder = ProjectsFolder();
+    std::unique_ptr<idrova::MDI> mdi;
+    idrova::FrmStart(boxes, [&] {
+        mdi = std::make_unique<idrova::MDI>(*program);
+        QApplication::setQuitOnLastWindowClosed(true);
+        mdi->show();
+        for (const fs::path& file : files) mdi->OpenFile(file);
+    });
+    return QApplication::exec();
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/json_output.h"
+
+#include <nlohmann/json.hpp>
+
+#include "base/number_text.h"
+#include "hydraulics/run_results.h"
+#include "results/report_figures.h"
+
+namespace idrova {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+std::string OutcomeName(RunEnd end) {
+    switch (end) {
+        case RunEnd::Refused:
+            return "refused";
+        case RunEnd::Empty:
+            return "empty";
+        case RunEnd::Settled:
+            return "settled";
+        case RunEnd::Unsettled:
+            return "unsettled";
+        case RunEnd::Singular:
+            return "singular";
+        case RunEnd::NotFinite:
+            return "not finite";
+    }
+    return "";
+}
+
+std::string IconName(BoxIcon icon) {
+    switch (icon) {
+        case BoxIcon::None:
+            return "none";
+        case BoxIcon::Information:
+            return "information";
+        case BoxIcon::Exclamation:
+            return "exclamation";
+        case BoxIcon::Critical:
+            return "critical";
+        case BoxIcon::Question:
+            return "question";
+    }
+    return "";
+}
+
+Json MessageList(const std::vector<MessageBox>& messages) {
+    Json list = Json::array();
+    for (const MessageBox& box : messages) {
+        list.push_back({{"title", box.title}, {"text", box.text}, {"icon", IconName(box.icon)}});
+    }
+    return list;
+}
+
+Json PipeList(const WorkNetwork& results, const Settings& settings) {
+    Json list = Json::array();
+    for (int i = 1; i <= results.WorkPipeCount; ++i) {
+        const PipeRec& pipe = results.WorkPipes[i];
+        if (!pipe.IsDrawn()) continue;
+        const PipeFigures figures = FiguresOf(pipe, results, settings);
+        list.push_back({{"number", i},
+                        {"from", pipe.StartPoint},
+                        {"to", pipe.EndPoint},
+                        {"flow_kg_s", DecimalDouble(pipe.FlowRate)},
+                        {"velocity_m_s", figures.speed},
+                        {"reynolds", figures.reynolds},
+                        {"drop_Pa", DecimalDouble(figures.drop)},
+                        {"known", !results.WorkFlowUnknown[i]}});
+    }
+    return list;
+}
+
+Json PointList(const WorkNetwork& results) {
+    Json list = Json::array();
+    for (int i = 1; i <= results.WorkPointCount; ++i) {
+        const PointRec& point = results.WorkPoints[i];
+        if (!point.IsDrawn()) continue;
+        list.push_back({{"number", i},
+                        {"pressure_Pa", DecimalDouble(point.Pressure)},
+                        {"known", !results.WorkPressureUnknown[i]}});
+    }
+    return list;
+}
+
+/// Pumps stand in drawings: a table has none.
+Json PumpList(const Project& project) {
+    Json list = Json::array();
+    if (project.Mode != WorkMode::Graphic) return list;
+    for (int i = 1; i <= project.CellCount(); ++i) {
+        const CellRec& cell = project.Cells[i];
+        if (!HoldsComponent(cell, CellKind::Pump)) continue;
+        list.push_back({{"cell", i},
+                        {"name", cell.Name},
+                        {"flow_kg_s", DecimalDouble(cell.Result)},
+                        {"in_range", IsInRange(cell)}});
+    }
+    return list;
+}
+
+}  // namespace
+
+std::string JsonText(const Project& project, const RunRecord& run) {
+    const Outcome& outcome = run.outcome;
+    Json json = {{"outcome", OutcomeName(outcome.end)},
+                 {"passes", outcome.passes},
+                 {"residual", outcome.residual},
+                 {"worst_pipe", outcome.worstPipe},
+                 {"notes", outcome.notes},
+                 {"messages", MessageList(run.messages)},
+                 {"pipes", Json::array()},
+                 {"points", Json::array()},
+                 {"pumps", Json::array()}};
+    if (run.results != nullptr) {
+        json["pipes"] = PipeList(*run.results, project);
+        json["points"] = PointList(*run.results);
+        json["pumps"] = PumpList(project);
+    }
+    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace idrova

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/options.h"
+
+#include <CLI/CLI.hpp>
+#include <utility>
+#include <vector>
+
+#include "base/number_text.h"
+#include "calc/exit_status.h"
+
+namespace idrova {
+namespace {
+
+constexpr double kAbsoluteZero = -273.15;  ///< degrees Celsius
+
+using Range = bool (*)(double);
+
+bool Any(double /*number*/) {
+    return true;
+}
+bool Positive(double number) {
+    return number > 0;
+}
+bool NotNegative(double number) {
+    return number >= 0;
+}
+bool AboveAbsoluteZero(double number) {
+    return number > kAbsoluteZero;
+}
+
+double NumberIn(const std::string& option, const std::string& text, Range range) {
+    const auto number = ParseNumber(text);
+    if (!number) throw CLI::ValidationError(option, text + " is not a number");
+    if (!range(*number)) throw CLI::ValidationError(option, text + " is out of range");
+    return *number;
+}
+
+template <typename Target>
+CLI::Option* AddNumber(CLI::App& app, const std::string& option, Target& target,
+                       const std::string& help, Range range) {
+    const auto store = [option, &target, range](const std::string& text) {
+        target = NumberIn(option, text, range);
+    };
+    return app.add_option_function<std::string>(option, store, help)->type_name("NUMBER");
+}
+
+template <typename Value>
+void AddChoice(CLI::App& app, const std::string& option, Value& target, const std::string& help,
+               const std::vector<std::pair<std::string, Value>>& choices) {
+    std::string names;
+    for (const auto& [name, value] : choices) names += (names.empty() ? "" : "|") + name;
+    const auto store = [option, &target, names, choices](const std::string& text) {
+        for (const auto& [name, value] : choices) {
+            if (name != text) continue;
+            target = value;
+            return;
+        }
+        throw CLI::ValidationError(option, text + " is none of " + names);
+    };
+    app.add_option_function<std::string>(option, store, help)->type_name(names);
+}
+
+void AddFluidOptions(CLI::App& app, Options& options) {
+    CLI::Option* fluid =
+        app.add_option("--fluid", options.fluid, "Fluid of the database (the first one)")
+            ->type_name("NUMBER|NAME");
+    CLI::Option* density = AddNumber(app, "--density", options.properties.density,
+                                     "Density of the fluid, kg/m3", Positive);
+    CLI::Option* viscosity = AddNumber(app, "--viscosity", options.properties.viscosity,
+                                       "Dynamic viscosity, N s/m2", Positive);
+    CLI::Option* compressibility =
+        AddNumber(app, "--compressibility", options.properties.compressibility,
+                  "Compressibility factor of a gas (0, a liquid)", NotNegative);
+    density->needs(viscosity)->excludes(fluid);
+    viscosity->needs(density);
+    compressibility->needs(density);
+}
+
+void AddComputationOptions(CLI::App& app, Options& options) {
+    AddChoice<WorkMode>(app, "--mode", options.mode, "What to compute (graphic)",
+                        {{"graphic", WorkMode::Graphic}, {"table", WorkMode::Table}});
+    AddNumber(app, "--roughness", options.roughness, "Roughness of the pipes, m (0.0001)",
+              NotNegative);
+    AddChoice<Section>(app, "--section", options.section, "Section of the pipes (circular)",
+                       {{"circular", Section::Circular}, {"rectangular", Section::Rectangular}});
+    AddChoice<Equation>(
+        app, "--equation", options.equation, "Equation of the pipes (incompressible)",
+        {{"incompressible", Equation::Incompressible}, {"compressible", Equation::Compressible}});
+    AddNumber(app, "--temperature", options.temperature,
+              "Temperature of a compressible fluid, degrees Celsius (0)", AboveAbsoluteZero);
+    AddNumber(app, "--base-pressure", options.basePressure, "Base pressure, bar (0)", Any);
+    app.add_option("--seed", options.seed, "Repeatable start values of the iteration")
+        ->type_name("NUMBER");
+}
+
+void AddResultOptions(CLI::App& app, Options& options) {
+    AddChoice<Unit>(app, "--pressure-unit", options.pressureUnit,
+                    "Unit of the report's pressures (bar)",
+                    {{"bar", Unit::Bar}, {"mbar", Unit::MilliBar}});
+    app.add_flag("--append", options.append, "Add the report to out.dat, do not replace it");
+    app.add_flag("--json", options.json, "Print the results as JSON, not the report");
+    app.add_flag("--no-report", options.noReport, "Neither print nor write the report");
+    CLI::Option* save = app.add_option("--save", options.save, "Write the project with its results")
+                            ->type_name("FILE");
+    app.add_flag("--force", options.force, "Let --save replace an existing file")->needs(save);
+}
+
+}  // namespace
+
+std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::ostream& out,
+                                        std::ostream& err) {
+    Options options;
+    CLI::App app("Computes the pressures and flow rates of a fluid distribution network.",
+                 "idrova-calc");
+    app.set_version_flag("--version", "idrova-calc " + VersionText());
+    app.add_option("PROJECT.iv", options.project, "Project to compute")->required()->type_name("");
+    app.add_option("--data", options.data,
+                   "Folder of the databases and of out.dat (the current folder)")
+        ->type_name("DIR");
+    AddFluidOptions(app, options);
+    AddComputationOptions(app, options);
+    AddResultOptions(app, options);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        const bool fine = app.exit(error, out, err) == 0;
+        return static_cast<int>(fine ? ExitStatus::Settled : ExitStatus::WrongUse);
+    }
+    return options;
+}
+
+}  // namespace idrova

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <variant>
+
+#include "model/settings.h"
+
+namespace idrova {
+
+/// A fluid by its properties, without a database.
+struct FluidProperties {
+    std::optional<double> density;    ///< kg/m3; of a gas, at 0 degrees Celsius and 101325 Pa
+    std::optional<double> viscosity;  ///< dynamic, N s/m2
+    double compressibility = 0;       ///< 0 for a liquid
+};
+
+/// What the command line asks for.
+struct Options {
+    std::filesystem::path project;
+    std::filesystem::path data;  ///< folder of the databases and of the results file
+
+    std::string fluid;           ///< record number or name; empty for the first record
+    FluidProperties properties;  ///< used when the density is given
+
+    WorkMode mode = WorkMode::Graphic;
+    Section section = Section::Circular;
+    Equation equation = Equation::Incompressible;
+    Unit pressureUnit = Unit::Bar;
+    std::optional<double> roughness;  ///< m
+    double temperature = 0;           ///< degrees Celsius
+    double basePressure = 0;          ///< bar
+    std::optional<std::uint32_t> seed;
+
+    bool append = false;
+    bool json = false;
+    bool noReport = false;
+    std::filesystem::path save;  ///< empty when the project is not to be saved
+    bool force = false;
+};
+
+/// The options, or the exit status with which the program ends at once: help and version were
+/// printed to `out`, what is wrong to `err`.
+std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::ostream& out,
+                                        std::ostream& err);
+
+}  // namespace idrova

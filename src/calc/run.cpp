@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "calc/run.h"
+
+#include <memory>
+#include <ostream>
+
+#include "base/number_text.h"
+#include "calc/fluid_choice.h"
+#include "calc/json_output.h"
+#include "calc/printed_boxes.h"
+#include "hydraulics/compute_network.h"
+#include "hydraulics/run_settings.h"
+#include "model/project_file.h"
+#include "physdata/messages.h"
+#include "physdata/pipe_settings.h"
+#include "physdata/pump_constants.h"
+#include "results/report.h"
+#include "results/results_file.h"
+#include "table/table_network.h"
+
+namespace idrova {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kSaveTitle = "Save file";
+
+class ProjectRun {
+  public:
+    ProjectRun(const Options& options, std::ostream& out, std::ostream& err)
+        : options_(options), out_(out), err_(err), boxes_(err) {}
+
+    ExitStatus Do() {
+        if (!Prepare()) return ExitStatus::WrongUse;
+        const Outcome outcome = Compute();
+        PrintNotes(outcome);
+        const bool saved = Save();
+        const bool printed = Print(outcome);
+        return saved && printed && !reportFailed_ ? StatusOf(outcome.end) : ExitStatus::WrongUse;
+    }
+
+  private:
+    bool Prepare() {
+        InitialiseProject(*project_);
+        ApplySettings();
+        return SaveIsAllowed() && ChooseFluid(*project_, options_, boxes_) && Open() &&
+               CompletePumps();
+    }
+
+    void ApplySettings() {
+        project_->Mode = options_.mode;
+        project_->SectionType = options_.section;
+        project_->Roughness = options_.roughness.value_or(project_->Roughness);
+        project_->FluidTemperature = ToSingle(options_.temperature);
+        project_->BasePressure = ToSingle(options_.basePressure * kPascalPerBar);
+        project_->ResultsInSequence = options_.append;
+        ChoosePressureUnit(*project_, options_.pressureUnit);
+    }
+
+    bool SaveIsAllowed() {
+        std::error_code ignored;
+        if (options_.save.empty() || options_.force || !fs::exists(options_.save, ignored)) {
+            return true;
+        }
+        boxes_.Show({options_.save.string() + " exists; --force replaces it", kSaveTitle});
+        return false;
+    }
+
+    bool Open() {
+        if (OpenProject(*project_, options_.project, boxes_) != OpenOutcome::Opened) return false;
+        std::error_code ignored;
+        project_->ProjectName = fs::absolute(options_.project, ignored).lexically_normal().string();
+        return true;
+    }
+
+    bool CompletePumps() {
+        const Result<PumpDb> pumps = ReadRecords<PumpRecord>(options_.data);
+        if (!pumps) {
+            boxes_.Show({pumps.Error(), kPumpsTitle});
+            return false;
+        }
+        TellFault(RecordFault::None, pumps->fault, PumpRecord::kFile, pumps->count, kPumpsTitle,
+                  boxes_);
+        CompletePumpConstants(*project_, *pumps);
+        return true;
+    }
+
+    Outcome Compute() {
+        const bool gas = options_.equation == Equation::Compressible;
+        if (gas && !ChooseCompressible(*project_, boxes_)) return {};
+        if (!FillNetwork()) return {};
+        const RunServices services{
+            .boxes = boxes_, .writeReport = [this] { KeepResults(); }, .seed = options_.seed};
+        return ComputeNetwork(*project_, *work_, false, services);
+    }
+
+    bool FillNetwork() {
+        if (options_.mode == WorkMode::Graphic) {
+            CopyNetwork(*project_, *work_);
+            return true;
+        }
+        TableTexts texts;
+        FillTable(*project_, texts);
+        return TableToNetwork(*project_, texts, *work_, boxes_);
+    }
+
+    /// The results as they are reported, before the base pressure is added to them.
+    void KeepResults() {
+        results_ = std::make_unique<WorkNetwork>(*work_);
+        if (options_.noReport) return;
+        report_ = ReportText(*project_, *work_, CurrentReportTime());
+        reportFailed_ = !WriteReport(*project_, report_, options_.data, boxes_);
+    }
+
+    void PrintNotes(const Outcome& outcome) {
+        if (outcome.end != RunEnd::Settled && outcome.end != RunEnd::Refused) {
+            err_ << OutcomeLine(outcome) << '\n';
+        }
+        for (const std::string& note : outcome.notes) err_ << note << '\n';
+    }
+
+    bool Save() {
+        if (options_.save.empty() || !results_) return true;
+        const Status saved = WriteProject(*project_, options_.save);
+        if (!saved) boxes_.Show({saved.Error(), kSaveTitle});
+        return static_cast<bool>(saved);
+    }
+
+    bool Print(const Outcome& outcome) {
+        if (options_.json) {
+            out_ << JsonText(*project_, {outcome, boxes_.Shown(), results_.get()});
+        } else {
+            out_ << report_;
+        }
+        if (out_.flush()) return true;
+        err_ << "The results cannot be printed\n";
+        return false;
+    }
+
+    static ExitStatus StatusOf(RunEnd end) {
+        switch (end) {
+            case RunEnd::Settled:
+                return ExitStatus::Settled;
+            case RunEnd::Refused:
+            case RunEnd::Empty:
+                return ExitStatus::Refused;
+            case RunEnd::Unsettled:
+            case RunEnd::Singular:
+            case RunEnd::NotFinite:
+                return ExitStatus::Unsettled;
+        }
+        return ExitStatus::Unsettled;
+    }
+
+    const Options& options_;
+    std::ostream& out_;
+    std::ostream& err_;
+    PrintedBoxes boxes_;
+    std::unique_ptr<Project> project_ = std::make_unique<Project>();
+    std::unique_ptr<WorkNetwork> work_ = std::make_unique<WorkNetwork>();
+    std::unique_ptr<WorkNetwork> results_;
+    std::string report_;
+    bool reportFailed_ = false;
+};
+
+}  // namespace
+
+ExitStatus RunProject(const Options& options, std::ostream& out, std::ostream& err) {
+    return ProjectRun(options, out, err).Do();
+}
+
+}  // namespace idrova

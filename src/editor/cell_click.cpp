@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/cell_click.h"
+
+#include "editor/component_insertion.h"
+#include "editor/grid_view.h"
+#include "editor/pipe_insertion.h"
+#include "editor/selection.h"
+
+namespace idrova {
+namespace {
+
+void LeftClick(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+    editor.framesEnabled = false;
+    if (IsArmed(editor)) {
+        InsertComponent(project, editor, cell, boxes);
+        AbortInsertion(editor);
+    } else {
+        InsertPipePoint(project, editor, cell, boxes);
+    }
+}
+
+void RightClick(Project& project, Editor& editor, int cell) {
+    editor.framesEnabled = true;
+    if (editor.state == InsertState::FirstPoint) {
+        SelectCell(project, editor, cell);
+    } else {
+        AbortInsertion(editor);
+    }
+}
+
+}  // namespace
+
+void CellClick(Project& project, Editor& editor, int place, MouseButton button,
+               MessageBoxes& boxes) {
+    const int cell = CellShownAt(project, editor, place);
+    if (cell == 0) return;
+    editor.DataShown = false;
+    if (button == MouseButton::Left) {
+        LeftClick(project, editor, cell, boxes);
+    } else {
+        RightClick(project, editor, cell);
+    }
+}
+
+void AbortByKey(Editor& editor) {
+    if (editor.state == InsertState::FirstPoint) return;
+    AbortInsertion(editor);
+    editor.DataShown = false;
+    editor.framesEnabled = true;
+}
+
+}  // namespace idrova

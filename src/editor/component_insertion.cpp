@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/component_insertion.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "base/number_text.h"
+#include "editor/messages.h"
+#include "editor/pipe_ends.h"
+
+namespace idrova {
+namespace {
+
+constexpr float kToTheRight = 1;
+constexpr float kDownwards = 2;
+
+/// The pipe whose cut or joint the component of a cell stands on: the one that crosses the cell, or
+/// the first that ends there.
+int PipeAtCell(const Project& project, int cell) {
+    const CellRec& record = project.Cells[cell];
+    if (record.Kind == CellKind::Crossed) return static_cast<int>(record.Param1);
+    for (int i = 1; i <= project.numtubo; ++i) {
+        const PipeRec& pipe = project.Pipes[i];
+        if (!pipe.IsDrawn()) continue;
+        for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
+            if (project.Points[point].Cell == cell) return i;
+        }
+    }
+    return 0;
+}
+
+bool IsPlainConnection(const CellRec& cell) {
+    return cell.IsComponent() && !cell.Placed;
+}
+
+std::optional<FixedMessage> Refusal(const Project& project, int cell) {
+    if (project.Cells[cell].Kind != CellKind::Crossed) return kNotInPipe;
+    if (LivePointIn(project, cell) != 0) return kOnExtreme;
+    if (project.numtubo + 1 > kMaxPipes) return kTooManyPipes;
+    if (project.npres + 2 > kMaxPoints) return kTooManyPoints;
+    return std::nullopt;
+}
+
+/// The pipe keeps its near end and ends in the cell; the appended piece goes on from there to the
+/// far end.
+void CutPipe(Project& project, int number, int cell) {
+    PipeRec& piece = project.Pipes[AddPipe(project)];
+    PipeRec& pipe = project.Pipes[number];
+    const PipeEnd far = FarEnd(pipe);
+    const int farPoint = PointAt(pipe, far);
+    PutEnd(project, pipe, far, AddPoint(project, cell));
+    PutEnd(project, piece, PipeEnd::Start, AddPoint(project, cell));
+    PutEnd(project, piece, PipeEnd::End, farPoint);
+    piece.FlowRate = pipe.FlowRate;
+    piece.Length = pipe.Length;
+    piece.Diameter = pipe.Diameter;
+}
+
+CellRec ComponentRecord(const ComponentChoice& choice, InsertState state, const PipeRec& pipe) {
+    CellRec cell;
+    cell.Name = choice.CompName;
+    cell.Placed = true;
+    cell.Param1 = ToSingle(choice.CompValue1);
+    cell.Param2 = ToSingle(choice.CompValue2);
+    if (state == InsertState::Loss) {
+        cell.Kind = CellKind::Loss;
+        return cell;
+    }
+    cell.Kind = CellKind::Pump;
+    cell.PumpConstant = ToSingle(choice.CompValue3);
+    cell.MinFlow = choice.ChosenPump.qMin;
+    cell.MaxFlow = choice.ChosenPump.qMax;
+    cell.Direction = pipe.Y1 == pipe.Y2 ? kToTheRight : kDownwards;
+    cell.PipeAxis = cell.Direction;
+    return cell;
+}
+
+}  // namespace
+
+void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind kind) {
+    const bool armed = IsArmed(editor);
+    editor.componentKind = kind;
+    editor.componentPosition = lists.CompCount(kind) > 0 ? 0 : -1;
+    ChooseComponent(editor.choice, lists, kind, editor.componentPosition);
+    if (!armed) return;
+    AbortInsertion(editor);
+    if (editor.componentPosition < 0) return;
+    editor.state = kind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
+}
+
+void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position) {
+    if (position < 0 || position >= lists.CompCount(editor.componentKind)) return;
+    editor.componentPosition = position;
+    ChooseComponent(editor.choice, lists, editor.componentKind, position);
+}
+
+void RefreshComponentChoice(Editor& editor, const ComponentLists& lists) {
+    const auto names = ComponentNames(lists, editor.componentKind);
+    const auto chosen = std::ranges::find(names, editor.choice.CompName);
+    if (chosen == names.end()) {
+        ChooseComponentKind(editor, lists, editor.componentKind);
+    } else {
+        ChooseComponentAt(editor, lists, static_cast<int>(chosen - names.begin()));
+    }
+}
+
+void ArmInsertion(Editor& editor, MessageBoxes& boxes) {
+    editor.DataShown = false;
+    if (editor.componentPosition < 0) {
+        boxes.Show(kSelectComponent);
+        return;
+    }
+    AbortInsertion(editor);
+    editor.state = editor.componentKind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
+}
+
+void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+    CellRec& record = project.Cells[cell];
+    const int pipe = PipeAtCell(project, cell);
+    if (!IsPlainConnection(record)) {
+        if (const auto refusal = Refusal(project, cell)) {
+            boxes.Show(*refusal);
+            return;
+        }
+        CutPipe(project, pipe, cell);
+        if (project.CurrentPipe == pipe) editor.pipeSelected = false;
+    }
+    record = ComponentRecord(editor.choice, editor.state, project.Pipes[pipe]);
+    RebuildPipeCells(project);
+}
+
+}  // namespace idrova

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/message_boxes.h"
+#include "editor/editor_state.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// `Combo1`: chooses the kind and with it the first component of its list. An armed insertion goes
+/// on with the new kind; it is aborted when the list is empty.
+void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind kind);
+
+/// `Combo3`: chooses the component in a list position (from 0); other positions change nothing.
+void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position);
+
+/// The lists were loaded again: keeps the position of the chosen name, or chooses the first.
+void RefreshComponentChoice(Editor& editor, const ComponentLists& lists);
+
+/// `Command3`: the next left click places the chosen component. Told in a box when none is chosen.
+void ArmInsertion(Editor& editor, MessageBoxes& boxes);
+
+/// Places the chosen component in a cell of a pipe and cuts the pipe there; a cell whose component
+/// was deleted takes it without a cut. What is refused is told in a box and changes nothing.
+void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes);
+
+}  // namespace idrova

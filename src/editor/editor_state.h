@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "model/project.h"
+#include "physdata/component_lists.h"
+
+namespace idrova {
+
+/// What the next left click on the drawing means.
+enum class InsertState {
+    FirstPoint = 1,  ///< first point of a pipe
+    EndPoint = 2,    ///< end point of the pipe begun
+    Pump = 4,        ///< place of the chosen pump
+    Loss = 5,        ///< place of the chosen concentrated loss
+};
+
+/// What the plant editor remembers beside the project. What the windows show of the insertion (hint
+/// lines, blinking button, enabled frames) follows from it.
+struct Editor {
+    InsertState state = InsertState::FirstPoint;
+    int firstCell = 0;          ///< first cell of the pipe begun; 0 unless `EndPoint`
+    int selectedComponent = 0;  ///< cell of the component last selected; 0 when none
+    bool pipeSelected = false;  ///< `CurrentPipe` was selected on the drawing: it is highlighted
+    bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
+    bool DataShown = false;     ///< pressures and flow directions are shown on the drawing
+    int ScrX = 1, ScrY = 1;     ///< column and row that the drawing shows first
+
+    CellKind componentKind = CellKind::Pump;  ///< `Combo1`
+    int componentPosition = -1;               ///< `Combo3`; -1 when its list is empty
+    ComponentChoice choice;
+};
+
+bool IsArmed(const Editor& editor);
+
+/// The hint window's lines.
+std::array<std::string_view, 4> HintLines(const Editor& editor);
+
+/// Drops whatever is begun: a pipe without its end, an armed component.
+void AbortInsertion(Editor& editor);
+
+/// What is left of the editor when its network goes: nothing begun, selected or labelled, scrolled
+/// to the first cell. The component choice stays.
+void ClearDrawing(Editor& editor);
+
+/// Fits the editor to a network that was put in place of the one shown, and derives its crossed
+/// cells.
+void RedrawProject(Project& project, Editor& editor);
+
+}  // namespace idrova

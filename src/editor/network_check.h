@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/project.h"
+
+namespace idrova {
+
+using Faults = std::vector<std::string>;
+
+/// How pipes, points and cells of a sound project fit together: each adds what it finds to
+/// `faults`.
+void CheckPipes(const Project& project, Faults& faults);
+void CheckPoints(const Project& project, Faults& faults);
+void CheckCells(const Project& project, Faults& faults);
+
+/// "what number", for a fault.
+std::string Named(const char* what, int number);
+
+}  // namespace idrova

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/panel_edits.h"
+
+#include <algorithm>
+
+#include "base/number_text.h"
+#include "editor/messages.h"
+#include "model/pipe_sizes.h"
+
+namespace idrova {
+namespace {
+
+PipeRec* CurrentPipe(Project& project) {
+    return project.CurrentPipe == 0 ? nullptr : &project.Pipes[project.CurrentPipe];
+}
+
+PointPanel& PanelOf(PipePanel& panel, PipeEnd end) {
+    return end == PipeEnd::Start ? panel.start : panel.end;
+}
+
+/// Takes `text` into a box that allows no negative number; returns the number.
+double TakeSize(std::string& box, std::string_view text) {
+    const double value = ReadNumber(text);
+    box = value < 0 ? "0" : text;
+    return value < 0 ? 0 : value;
+}
+
+/// Nothing was typed yet where the record still holds 0.
+void EmptyZero(std::string& box, float stored) {
+    if (stored == 0) box.clear();
+}
+
+}  // namespace
+
+void SetNominalSize(PipeRec& pipe, int size) {
+    pipe.Diameter = static_cast<float>(InnerDiameters[size] / kMillimetresPerMetre);
+    pipe.OuterSize = static_cast<float>(OuterDiameters[size] / kMillimetresPerMetre);
+}
+
+void ChooseFlow(Project& project, PipePanel& panel, bool known) {
+    const PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    project.FlowUnknown[project.CurrentPipe] = !known;
+    ShowFlow(project, panel);
+    EmptyZero(panel.kgPerHour, pipe->FlowRate);
+    EmptyZero(panel.cubicMetresPerHour, pipe->FlowRate);
+}
+
+void TypeKgPerHour(Project& project, PipePanel& panel, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr || !panel.flowKnown) return;
+    const double kgPerHour = ReadNumber(text);
+    panel.kgPerHour = text;
+    panel.cubicMetresPerHour = CubicMetresText(project, kgPerHour);
+    pipe->FlowRate = ToSingle(kgPerHour / kSecondsPerHour);
+}
+
+bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view text,
+                            MessageBoxes& boxes) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr || !panel.flowKnown) return true;
+    if (project.FluidDensity == 0) {
+        panel.cubicMetresPerHour.clear();
+        boxes.Show(kFluidForVolumeFlow);
+        return false;
+    }
+    panel.cubicMetresPerHour = text;
+    pipe->FlowRate = ToSingle(ReadNumber(text) * project.FluidDensity / kSecondsPerHour);
+    panel.kgPerHour = ScaledText(pipe->FlowRate, kSecondsPerHour);
+    return true;
+}
+
+void TypeLength(Project& project, PipePanel& panel, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    pipe->Length = ToSingle(TakeSize(panel.length, text));
+}
+
+void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    pipe->Diameter = ToSingle(TakeSize(panel.innerSize, text) / kMillimetresPerMetre);
+    panel.nominalSize = panel.section.nominalSizes ? NominalSizeOf(pipe->Diameter) : 0;
+}
+
+void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    pipe->OuterSize = ToSingle(TakeSize(panel.outerSize, text) / kMillimetresPerMetre);
+}
+
+void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr || size < 1 || size > kNominalSizes) return;
+    SetNominalSize(*pipe, size);
+    panel.nominalSize = size;
+    panel.innerSize = GeneralText(InnerDiameters[size]);
+    panel.outerSize = GeneralText(OuterDiameters[size]);
+}
+
+void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    const std::int16_t height = ToInt16(ReadNumber(text));
+    PanelOf(panel, end).height = ReadNumber(text) > 0 ? text : "0";
+    (end == PipeEnd::Start ? pipe->Z1 : pipe->Z2) = std::max<std::int16_t>(height, 0);
+}
+
+void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known) {
+    const PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    const int point = PointAt(*pipe, end);
+    project.PressureUnknown[point] = !known;
+    ShowPressure(project, point, PanelOf(panel, end));
+    EmptyZero(PanelOf(panel, end).given, project.Points[point].Pressure);
+}
+
+void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_view text) {
+    const PipeRec* pipe = CurrentPipe(project);
+    PointPanel& box = PanelOf(panel, end);
+    if (pipe == nullptr || !box.known) return;
+    box.given = text;
+    project.Points[PointAt(*pipe, end)].Pressure =
+        ToSingle(ReadNumber(text) * project.PressureUnitFactor);
+}
+
+void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    pipe->FlowFromPoint = static_cast<std::int16_t>(PointAt(*pipe, end));
+    panel.start.reference = end == PipeEnd::Start;
+    panel.end.reference = end == PipeEnd::End;
+}
+
+}  // namespace idrova

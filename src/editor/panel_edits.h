@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+#include "base/message_boxes.h"
+#include "editor/pipe_ends.h"
+#include "editor/pipe_panel.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// The user's edits of the command panel. Each takes what a box holds after the change, writes the
+/// number it begins with at once into the record of `CurrentPipe` or of its point, and leaves in
+/// `panel` what all boxes hold then. Without a current pipe nothing happens; numbers beyond a
+/// single are stored as the largest single.
+
+/// `Option6`.
+void ChooseFlow(Project& project, PipePanel& panel, bool known);
+
+/// `Text12`; only while the flow is known. Fills the volume flow.
+void TypeKgPerHour(Project& project, PipePanel& panel, std::string_view text);
+
+/// `Text13`; only while the flow is known. Fills the mass flow. Without a fluid it is told in a
+/// box, false: the text is dropped, nothing is stored and the focus belongs to `Text12`.
+bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view text,
+                            MessageBoxes& boxes);
+
+/// `Text6`, `Text7`, `Text8`: m, mm, mm. A negative number becomes "0".
+void TypeLength(Project& project, PipePanel& panel, std::string_view text);
+void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text);
+void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text);
+
+/// `Combo2`: a nominal size (1 .. 12); fills both diameters.
+void ChoosePipeSize(Project& project, PipePanel& panel, int size);
+
+/// `Text5`, `Text11`: m, rounded to whole ones. What is not above 0 becomes "0".
+void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_view text);
+
+/// `Option1`, `Option2`.
+void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known);
+
+/// `Text10`, `Text9`, in the pressure unit; only while the pressure is known.
+void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_view text);
+
+/// `Option3`, `Option4`: the end that a positive flow leaves.
+void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end);
+
+/// Writes the diameters of a nominal size (1 .. 12).
+void SetNominalSize(PipeRec& pipe, int size);
+
+}  // namespace idrova

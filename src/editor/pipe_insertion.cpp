@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/pipe_insertion.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "editor/messages.h"
+#include "editor/pipe_ends.h"
+
+namespace idrova {
+namespace {
+
+/// Number of pipes that a new pipe with these ends cuts in two, counted once for each end.
+int CountSplits(const Project& project, ScreenPoint first, ScreenPoint second) {
+    int splits = 0;
+    for (int j = 1; j <= project.numtubo; ++j) {
+        const PipeRec& pipe = project.Pipes[j];
+        if (!pipe.IsDrawn()) continue;
+        splits += static_cast<int>(RunsThrough(pipe, first));
+        splits += static_cast<int>(RunsThrough(pipe, second));
+    }
+    return splits;
+}
+
+std::optional<FixedMessage> CapacityRefusal(const Project& project, int first, int second) {
+    const int splits =
+        CountSplits(project, CellCentre(project, first), CellCentre(project, second));
+    if (project.numtubo + 1 + splits > kMaxPipes) return kTooManyPipes;
+    int points = project.npres;
+    for (const int cell : {first, second}) {
+        if (LivePointIn(project, cell) == 0) ++points;
+    }
+    if (points > kMaxPoints) return kTooManyPoints;
+    return std::nullopt;
+}
+
+std::optional<FixedMessage> FirstPointRefusal(const Project& project, int cell) {
+    if (project.numtubo + 1 > kMaxPipes) return kTooManyPipes;
+    if (project.Cells[cell].IsComponent()) return kCellOccupied;
+    return std::nullopt;
+}
+
+std::optional<FixedMessage> EndPointRefusal(const Project& project, int first, int cell) {
+    if (project.Cells[cell].IsComponent()) return kCellOccupied;
+    if (cell == first) return kLengthZero;
+    const ScreenPoint from = CellCentre(project, first);
+    const ScreenPoint to = CellCentre(project, cell);
+    if (from.x != to.x && from.y != to.y) return kNotOrthogonal;
+    return CapacityRefusal(project, first, cell);
+}
+
+int PointFor(Project& project, int cell) {
+    const int there = LivePointIn(project, cell);
+    return there != 0 ? there : AddPoint(project, cell);
+}
+
+struct Split {
+    int pipe = 0;   ///< cut in two
+    int point = 0;  ///< where
+};
+
+/// The first pipe that an end of pipe `number` lies inside of; of its ends the near one first.
+std::optional<Split> FindSplit(const Project& project, int number) {
+    const PipeRec& pipe = project.Pipes[number];
+    const PipeEnd far = FarEnd(pipe);
+    for (int j = 1; j <= project.numtubo; ++j) {
+        if (!project.Pipes[j].IsDrawn()) continue;
+        for (const PipeEnd end : {Other(far), far}) {
+            if (RunsThrough(project.Pipes[j], PlaceOf(pipe, end)))
+                return Split{j, PointAt(pipe, end)};
+        }
+    }
+    return std::nullopt;
+}
+
+/// The first half keeps the number and the data; the appended half has the second end and no data.
+void SplitPipe(Project& project, const Split& split) {
+    PipeRec& half = project.Pipes[AddPipe(project)];
+    PipeRec& pipe = project.Pipes[split.pipe];
+    PutEnd(project, half, PipeEnd::Start, split.point);
+    PutEnd(project, half, PipeEnd::End, pipe.EndPoint);
+    PutEnd(project, pipe, PipeEnd::End, split.point);
+}
+
+void SplitCrossedPipes(Project& project, int number) {
+    while (const std::optional<Split> split = FindSplit(project, number)) {
+        SplitPipe(project, *split);
+    }
+}
+
+void CompletePipe(Project& project, int first, int second) {
+    const int number = AddPipe(project);
+    PipeRec& pipe = project.Pipes[number];
+    PutEnd(project, pipe, PipeEnd::Start, PointFor(project, first));
+    PutEnd(project, pipe, PipeEnd::End, PointFor(project, second));
+    SplitCrossedPipes(project, number);
+    RebuildPipeCells(project);
+    project.CurrentPipe = project.numtubo;
+}
+
+}  // namespace
+
+void InsertPipePoint(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+    if (editor.state != InsertState::EndPoint) {
+        if (const auto refusal = FirstPointRefusal(project, cell)) {
+            boxes.Show(*refusal);
+            return;
+        }
+        editor.state = InsertState::EndPoint;
+        editor.firstCell = cell;
+        return;
+    }
+    const int first = editor.firstCell;
+    AbortInsertion(editor);
+    if (const auto refusal = EndPointRefusal(project, first, cell)) {
+        boxes.Show(*refusal);
+        return;
+    }
+    CompletePipe(project, first, cell);
+    editor.pipeSelected = false;
+}
+
+}  // namespace idrova

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/plant_drawing.h"
+
+#include <array>
+
+#include "base/number_text.h"
+#include "editor/data_labels.h"
+#include "editor/grid_view.h"
+#include "editor/pipe_ends.h"
+
+namespace idrova {
+namespace {
+
+constexpr int kLeader = 300;  ///< reach of a leader line, screen units
+
+void DrawPipes(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    for (int i = 1; i <= project.numtubo; ++i) {
+        const PipeRec& pipe = project.Pipes[i];
+        if (!pipe.IsDrawn()) continue;
+        const auto part = ShownPart(project, editor, pipe);
+        if (!part) continue;
+        const bool selected = editor.pipeSelected && i == project.CurrentPipe;
+        surface.PipeLine(i, part->from, part->to,
+                         selected ? drawing_colour::kSelectedPipe : drawing_colour::kPipe);
+    }
+}
+
+void PlacePointMarker(const Project& project, const Editor& editor, ScreenPoint centre,
+                      DrawingSurface& surface) {
+    const ScreenPoint shown = Shown(project, editor, centre);
+    if (IsOnGrid(project, shown)) surface.PointMarker(shown);
+}
+
+/// A component's icon stands for the two points in its cell.
+void DrawMarkers(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    for (int i = 1; i <= project.npres; ++i) {
+        const PointRec& point = project.Points[i];
+        if (!point.IsDrawn() || !IconFile(project.Cells[point.Cell]).empty()) continue;
+        PlacePointMarker(project, editor, {point.X, point.Y}, surface);
+    }
+    if (editor.state == InsertState::EndPoint) {
+        PlacePointMarker(project, editor, CellCentre(project, editor.firstCell), surface);
+    }
+}
+
+void DrawIcons(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    for (int cell = 1; cell <= project.CellCount(); ++cell) {
+        const std::string_view file = IconFile(project.Cells[cell]);
+        if (file.empty()) continue;
+        const ScreenPoint corner = Shown(project, editor, PointFromCell(project, cell));
+        if (IsOnGrid(project, corner)) surface.CellIcon(corner, file);
+    }
+}
+
+void DrawSelectedPipe(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    if (!editor.pipeSelected) return;
+    const PipeRec& pipe = project.Pipes[project.CurrentPipe];
+    for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
+        const ScreenPoint from = Shown(project, editor, PlaceOf(pipe, end));
+        if (!IsOnGrid(project, from)) continue;
+        const int point = PointAt(pipe, end);
+        const int aside = end == FarEnd(pipe) ? kLeader : -kLeader;
+        surface.LeaderLabel(
+            from, {from.x + aside, from.y - kLeader}, GeneralText(point),
+            project.PressureUnknown[point] ? drawing_colour::kUnknown : drawing_colour::kKnown);
+    }
+}
+
+void DrawSelectedComponent(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    const int cell = editor.selectedComponent;
+    if (cell == 0) return;
+    const ScreenPoint from = Shown(project, editor, CellCentre(project, cell));
+    if (!IsOnGrid(project, from)) return;
+    surface.LeaderLabel(from, {from.x - kLeader, from.y - kLeader},
+                        GeneralText(cell) + " " + project.Cells[cell].Name, drawing_colour::kKnown);
+}
+
+}  // namespace
+
+std::string_view IconFile(const CellRec& cell) {
+    if (!cell.Placed) return {};
+    if (cell.Kind == CellKind::Loss) return "IMG\\PERC.ico";
+    constexpr std::array<std::string_view, 4> pumps = {"IMG\\arrt.ico", "IMG\\ardn.ico",
+                                                       "IMG\\arlt.ico", "IMG\\arup.ico"};
+    for (int direction = 1; direction <= 4; ++direction) {
+        if (cell.Direction == static_cast<float>(direction)) return pumps[direction - 1];
+    }
+    return {};
+}
+
+void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    surface.Grid(editor.ScrX, editor.ScrY);
+    DrawPipes(project, editor, surface);
+    DrawMarkers(project, editor, surface);
+    DrawIcons(project, editor, surface);
+    DrawSelectedPipe(project, editor, surface);
+    DrawSelectedComponent(project, editor, surface);
+    ApplyDataLabels(project, editor, surface);
+}
+
+}  // namespace idrova

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "editor/drawing_surface.h"
+#include "editor/editor_state.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// Draws the whole plant as project and editor now stand: grid, pipes, point markers, icons, the
+/// labels of what is selected, and the data labels when they are shown. Changes neither.
+void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface);
+
+/// The icon of a placed component, relative to the program folder; empty for any other cell.
+std::string_view IconFile(const CellRec& cell);
+
+}  // namespace idrova

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/iteration.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "hydraulics/linear_solver.h"
+#include "hydraulics/network_system.h"
+#include "hydraulics/pipe_drop.h"
+#include "hydraulics/solution_check.h"
+
+namespace idrova {
+namespace {
+
+constexpr double kResidualFloor = 1e-6;       ///< Pa; below it a drop counts as none
+constexpr double kLowestMeanPressure = 1000;  ///< Pa
+
+class Stage {
+  public:
+    Stage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+          const FlowGuesses& start, ComponentRows rows)
+        : project_(project), plan_(plan), work_(work), system_(plan.Order()) {
+        result_.rows = rows;
+        moved_.fill(true);
+        result_.solution.resize(plan.Order() + 1);
+        state_.guess = start;
+        StartMeanPressures();
+    }
+
+    StageResult Run(const PassReport& report) {
+        bool ended = false;
+        while (!ended) {
+            ++result_.passes;
+            SolvePass();
+            if (!result_.finite) return std::move(result_);
+            const bool guessesRest = Relax();
+            const bool pressuresRest = RefreshMeanPressures();
+            report(result_.passes, result_.residual);
+            ended = result_.passes > kPassLimit ||
+                    (pressuresRest && (result_.residual < kTotalTolerance || guessesRest));
+        }
+        KeepGivenValues();
+        CheckSolution(project_, plan_, work_, state_, result_);
+        return std::move(result_);
+    }
+
+  private:
+    template <typename Visit>
+    void ForUnknownFlows(Visit visit) const {
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            if (work_.WorkPipes[i].IsDrawn() && work_.WorkFlowUnknown[i]) visit(i);
+        }
+    }
+
+    double Drop(int i, double flow) const {
+        const PipeRec& pipe = work_.WorkPipes[i];
+        return PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+                        state_.meanPressure[i]);
+    }
+
+    float ResistanceAt(int i, double guess) const {
+        return guess == 0 ? 0 : static_cast<float>(std::abs(Drop(i, guess) / guess));
+    }
+
+    void StartMeanPressures() {
+        double sum = 0;
+        int given = 0;
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            if (!work_.WorkPoints[i].IsDrawn() || work_.WorkPressureUnknown[i]) continue;
+            sum += work_.WorkPoints[i].Pressure;
+            ++given;
+        }
+        const double mean = given == 0 ? 0 : sum / given;
+        state_.meanPressure.fill(MeanAbsolutePressure(project_, mean, mean));
+    }
+
+    void SolvePass() {
+        ForUnknownFlows([this](int i) {
+            if (moved_[i]) state_.resistance[i] = ResistanceAt(i, state_.guess[i]);
+        });
+        AssembleNetworkSystem(project_, plan_, work_, state_, result_.rows, system_);
+        result_.singular = SolveLinearSystem(system_.matrix, system_.order, system_.rightSide,
+                                             Inverse::NotWanted) == Solve::Singular;
+        std::copy(system_.rightSide.begin(), system_.rightSide.end(), result_.solution.begin() + 1);
+        result_.finite = std::all_of(result_.solution.begin(), result_.solution.end(),
+                                     [](double x) { return std::isfinite(x); });
+    }
+
+    /// Measures every pipe and moves the guesses of those that are off half way to the solution.
+    /// True when none had to move.
+    bool Relax() {
+        bool atRest = true;
+        result_.residual = 0;
+        ForUnknownFlows([&](int i) {
+            const double q = result_.Flow(plan_, i);
+            const PipeResidual residual = Measure(i, q);
+            result_.pipes[i] = residual;
+            result_.residual += residual.relative;
+            moved_[i] = residual.relative > kPipeTolerance;
+            if (!moved_[i]) return;
+            state_.guess[i] = (q + state_.guess[i]) / 2;
+            atRest = false;
+        });
+        return atRest;
+    }
+
+    PipeResidual Measure(int i, double q) const {
+        const double linearised = std::abs(state_.resistance[i] * q);
+        const double drop = Drop(i, q);
+        PipeResidual residual;
+        if (drop != 0) residual.relative = std::abs(drop - linearised) / std::abs(drop);
+        if ((linearised == 0 && drop < kResidualFloor) ||
+            (drop == 0 && linearised < kResidualFloor)) {
+            residual.relative = 0;
+        }
+        return residual;
+    }
+
+    /// True when no mean pressure moved.
+    bool RefreshMeanPressures() {
+        if (project_.EquationType != Equation::Compressible) return true;
+        bool atRest = true;
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            const PipeRec& pipe = work_.WorkPipes[i];
+            if (!pipe.IsDrawn()) continue;
+            const double mean =
+                MeanAbsolutePressure(project_, result_.Pressure(plan_, pipe.StartPoint),
+                                     result_.Pressure(plan_, pipe.EndPoint));
+            double& kept = state_.meanPressure[i];
+            moved_[i] = moved_[i] || mean != kept;
+            const double shift = std::abs(mean - kept) / kept;
+            result_.pipes[i].meanPressureShift = shift;
+            if (shift > kMeanPressureTolerance) atRest = false;
+            kept = mean;
+        }
+        return atRest;
+    }
+
+    /// The solve only reproduces what is given to its last digits.
+    void KeepGivenValues() {
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            const PipeRec& pipe = work_.WorkPipes[i];
+            if (!pipe.IsDrawn() || work_.WorkFlowUnknown[i]) continue;
+            result_.SetFlow(plan_, i, std::abs(pipe.FlowRate));
+        }
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            const PointRec& point = work_.WorkPoints[i];
+            if (!point.IsDrawn() || work_.WorkPressureUnknown[i]) continue;
+            result_.SetPressure(plan_, i, point.Pressure);
+        }
+    }
+
+    const Project& project_;
+    const NetworkPlan& plan_;
+    const WorkNetwork& work_;
+    LinearSystem system_;
+    PassState state_;
+    StageResult result_;
+    std::array<bool, kMaxPipes + 1> moved_{};  ///< guess or mean pressure differs from last pass
+};
+
+}  // namespace
+
+StageResult RunStage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+                     const FlowGuesses& start, ComponentRows rows, const PassReport& report) {
+    return Stage(project, plan, work, start, rows).Run(report);
+}
+
+double MeanAbsolutePressure(const Settings& settings, double start, double end) {
+    const double base = kAtmosphere + settings.BasePressure;
+    // Flow empties one end to a vacuum at most: the mean is no less than half of the other end.
+    const double least = (base + std::max(start, end)) / 2;
+    return std::max({base + (start + end) / 2, least, kLowestMeanPressure});
+}
+
+}  // namespace idrova

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/loose_part.h"
+
+#include <array>
+#include <numeric>
+
+namespace idrova {
+namespace {
+
+/// Sets of points that are joined to each other.
+class Parts {
+  public:
+    Parts() { std::iota(parent_.begin(), parent_.end(), 0); }
+
+    int Of(int point) const {
+        while (parent_[point] != point) point = parent_[point];
+        return point;
+    }
+
+    void Join(int point, int other) { parent_[Of(point)] = Of(other); }
+
+  private:
+    std::array<int, kMaxPoints + 1> parent_{};
+};
+
+}  // namespace
+
+int PipeWithoutGivenPressure(const NetworkPlan& plan, const WorkNetwork& work) {
+    Parts parts;
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        const PipeRec& pipe = work.WorkPipes[i];
+        if (pipe.IsDrawn()) parts.Join(pipe.StartPoint, pipe.EndPoint);
+    }
+    for (const Component& component : plan.components) parts.Join(component.high, component.low);
+
+    std::array<bool, kMaxPoints + 1> hasPressure{};
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        if (work.WorkPoints[i].IsDrawn() && !work.WorkPressureUnknown[i]) {
+            hasPressure[parts.Of(i)] = true;
+        }
+    }
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        const PipeRec& pipe = work.WorkPipes[i];
+        if (pipe.IsDrawn() && !hasPressure[parts.Of(pipe.StartPoint)]) return i;
+    }
+    return 0;
+}
+
+}  // namespace idrova

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/network_plan.h"
+
+namespace idrova {
+namespace {
+
+/// +1 when the component's delivery (its high-pressure end) is point b, -1 when it is point a, 0
+/// when the drawing does not tell: the pieces' x or y sums decide, by the pump's direction.
+int DeliverySide(const CellRec& cell, const PipeRec& pipeA, const PipeRec& pipeB) {
+    const int alongX = (pipeB.X1 + pipeB.X2) - (pipeA.X1 + pipeA.X2);
+    const int alongY = (pipeB.Y1 + pipeB.Y2) - (pipeA.Y1 + pipeA.Y2);
+    int side = 0;
+    if (cell.Direction == 1) side = alongX;
+    if (cell.Direction == 2) side = alongY;
+    if (cell.Direction == 3) side = -alongX;
+    if (cell.Direction == 4) side = -alongY;
+    if (side == 0) return 0;
+    return side > 0 ? 1 : -1;
+}
+
+struct EndPoints {
+    int a = 0, b = 0;
+};
+
+EndPoints PointsInCell(const WorkNetwork& work, int cell) {
+    EndPoints points;
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        if (work.WorkPoints[i].Cell != cell) continue;
+        (points.a == 0 ? points.a : points.b) = i;
+    }
+    return points;
+}
+
+int LastPipeAt(const WorkNetwork& work, int point) {
+    int last = 0;
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        if (work.WorkPipes[i].IsDrawn() && work.WorkPipes[i].IsEnd(point)) last = i;
+    }
+    return last;
+}
+
+void PlacePump(const CellRec& cell, const WorkNetwork& work, EndPoints points,
+               Component& component) {
+    const PipeRec& pipeA = work.WorkPipes[component.pipeA];
+    const int side = DeliverySide(cell, pipeA, work.WorkPipes[component.pipeB]);
+    if (side == 0) return;
+    component.high = side > 0 ? points.b : points.a;
+    component.low = side > 0 ? points.a : points.b;
+    // A positive flow of A that leaves point a runs from b to a.
+    const bool runsToA = pipeA.FlowFromPoint == points.a;
+    component.throughSign = runsToA == (side < 0) ? 1 : -1;
+}
+
+/// Upstream is where pipe A's reference direction brings the flow from.
+void PlaceLoss(const WorkNetwork& work, EndPoints points, Component& component) {
+    const bool runsToA = work.WorkPipes[component.pipeA].FlowFromPoint == points.a;
+    component.high = runsToA ? points.b : points.a;
+    component.low = runsToA ? points.a : points.b;
+}
+
+Component PlanComponent(const Project& project, const WorkNetwork& work, int cell) {
+    Component component;
+    component.cell = cell;
+    const EndPoints points = PointsInCell(work, cell);
+    if (points.b == 0) return component;
+    component.pipeA = LastPipeAt(work, points.a);
+    component.pipeB = LastPipeAt(work, points.b);
+    if (component.pipeA == 0 || component.pipeB == 0) return component;
+
+    const int fromA = work.WorkPipes[component.pipeA].FlowFromPoint;
+    component.signA = fromA == points.a || fromA == points.b ? 1 : -1;
+    component.signB = work.WorkPipes[component.pipeB].FlowFromPoint == points.b ? 1 : -1;
+    const CellRec& record = project.Cells[cell];
+    if (record.Kind == CellKind::Pump && record.Placed) {
+        PlacePump(record, work, points, component);
+    } else {
+        PlaceLoss(work, points, component);
+    }
+    return component;
+}
+
+void CountPipe(const PipeRec& pipe, NetworkPlan& plan) {
+    ++plan.pipesAtPoint[pipe.StartPoint];
+    if (pipe.EndPoint != pipe.StartPoint) ++plan.pipesAtPoint[pipe.EndPoint];
+}
+
+void NumberPipes(const WorkNetwork& work, NetworkPlan& plan) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        if (!work.WorkPipes[i].IsDrawn()) continue;
+        CountPipe(work.WorkPipes[i], plan);
+        plan.flowUnknown[i] = ++plan.unknowns;
+        ++plan.equations;
+        if (!work.WorkFlowUnknown[i]) ++plan.knownTerms;
+    }
+}
+
+void NumberPoints(const WorkNetwork& work, NetworkPlan& plan) {
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        if (plan.pipesAtPoint[i] > 1) ++plan.equations;
+        if (!work.WorkPoints[i].IsDrawn()) continue;
+        plan.pressureUnknown[i] = ++plan.unknowns;
+        if (!work.WorkPressureUnknown[i]) ++plan.knownTerms;
+    }
+}
+
+}  // namespace
+
+NetworkPlan PlanNetwork(const Project& project, const WorkNetwork& work, Components components) {
+    NetworkPlan plan;
+    NumberPipes(work, plan);
+    NumberPoints(work, plan);
+    if (components == Components::LeftOut) return plan;
+    for (int cell = 1; cell <= project.CellCount(); ++cell) {
+        if (!project.Cells[cell].IsComponent()) continue;
+        plan.components.push_back(PlanComponent(project, work, cell));
+        plan.equations += 2;
+    }
+    return plan;
+}
+
+}  // namespace idrova

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "hydraulics/work_network.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// A pump or loss of the drawing and how it hangs in the network.
+struct Component {
+    int cell = 0;
+    int pipeA = 0, pipeB = 0;  ///< the pieces on either side; 0 when missing
+    int high = 0, low = 0;     ///< the row states p(high) - p(low); 0 when there is no such point
+    int signA = 1, signB = 1;  ///< of the two flows in the continuity row
+    int throughSign = 1;  ///< times the flow of pipe A: the flow from suction to delivery (pump) or
+                          ///< from upstream to downstream (loss)
+};
+
+/// What stays the same through a run: the numbers of the unknowns, the counts, the components.
+struct NetworkPlan {
+    std::array<int, kMaxPipes + 1> flowUnknown{};       ///< of each drawn pipe, from 1; else 0
+    std::array<int, kMaxPoints + 1> pressureUnknown{};  ///< of each drawn point, from 1; else 0
+    std::array<int, kMaxPoints + 1> pipesAtPoint{};     ///< drawn pipes that end in each point
+    int unknowns = 0;
+    int equations = 0;
+    int knownTerms = 0;
+    std::vector<Component> components;  ///< in cell order
+
+    int Order() const { return equations + knownTerms; }
+};
+
+/// The components belong to the drawing: they have no part in a table or in a single pipe.
+enum class Components { Counted, LeftOut };
+
+/// Numbers drawn pipes, then drawn points, and counts equations and known terms.
+NetworkPlan PlanNetwork(const Project& project, const WorkNetwork& work, Components components);
+
+}  // namespace idrova

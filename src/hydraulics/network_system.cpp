@@ -1,0 +1,199 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/network_system.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "hydraulics/pipe_drop.h"
+
+namespace idrova {
+namespace {
+
+/// The two ends of a pipe as the equations see them.
+struct PipeEnds {
+    const PointRec& start;
+    const PointRec& end;
+    int startUnknown;  ///< 0 when the pressure is given
+    int endUnknown;
+};
+
+class Assembly {
+  public:
+    Assembly(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+             const PassState& state, ComponentRows rows, LinearSystem& system)
+        : project_(project),
+          plan_(plan),
+          work_(work),
+          state_(state),
+          rows_(rows),
+          system_(system) {}
+
+    void Run() {
+        std::fill(system_.matrix.begin(), system_.matrix.end(), 0.0);
+        std::fill(system_.rightSide.begin(), system_.rightSide.end(), 0.0);
+        ForDrawnPipes([this](int i) {
+            if (!work_.WorkFlowUnknown[i]) KnownFlowLaw(i);
+        });
+        ForDrawnPipes([this](int i) {
+            if (work_.WorkFlowUnknown[i]) UnknownFlowLaw(i);
+        });
+        ForDrawnPipes([this](int i) {
+            if (!work_.WorkFlowUnknown[i]) KnownFlow(i);
+        });
+        KnownPressures();
+        Continuity();
+        for (const Component& component : plan_.components) {
+            ComponentPressure(component);
+            ComponentContinuity(component);
+        }
+    }
+
+  private:
+    template <typename Visit>
+    void ForDrawnPipes(Visit visit) {
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            if (work_.WorkPipes[i].IsDrawn()) visit(i);
+        }
+    }
+
+    void Add(int unknown, double coefficient) { system_.At(row_, unknown) += coefficient; }
+    void AddRight(double term) { system_.rightSide[static_cast<std::size_t>(row_ - 1)] += term; }
+
+    PipeEnds EndsOf(const PipeRec& pipe) const {
+        const int s = pipe.StartPoint;
+        const int t = pipe.EndPoint;
+        return {work_.WorkPoints[s], work_.WorkPoints[t],
+                work_.WorkPressureUnknown[s] ? plan_.pressureUnknown[s] : 0,
+                work_.WorkPressureUnknown[t] ? plan_.pressureUnknown[t] : 0};
+    }
+
+    double Hydrostatic(const PipeRec& pipe) const {
+        return project_.FluidDensity * kGravity * (pipe.Z2 - pipe.Z1);
+    }
+
+    /// What the pass starts from: the guess, rounded as the record will hold it, or the given flow.
+    float WorkingFlow(int i) const {
+        return work_.WorkFlowUnknown[i] ? static_cast<float>(state_.guess[i])
+                                        : std::abs(work_.WorkPipes[i].FlowRate);
+    }
+
+    /// pS - pT on the left, with what is given of it moved to the right.
+    void PressureDifference(const PipeEnds& ends) {
+        if (ends.startUnknown != 0) {
+            Add(ends.startUnknown, 1);
+        } else {
+            AddRight(-ends.start.Pressure);
+        }
+        if (ends.endUnknown != 0) {
+            Add(ends.endUnknown, -1);
+        } else {
+            AddRight(ends.end.Pressure);
+        }
+    }
+
+    /// pS - pT = s drop + rho g (zT - zS). With both pressures given the row stays without
+    /// coefficients, which makes the system singular: one of the three is too many.
+    void KnownFlowLaw(int i) {
+        ++row_;
+        const PipeRec& pipe = work_.WorkPipes[i];
+        const PipeEnds ends = EndsOf(pipe);
+        AddRight(Hydrostatic(pipe));
+        if (ends.startUnknown == 0 && ends.endUnknown == 0) return;
+        double flow = pipe.FlowRate;
+        const double drop = PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+                                     state_.meanPressure[i]);
+        PressureDifference(ends);
+        AddRight(pipe.DirectionSign() * drop);
+    }
+
+    /// pS - pT - s R q = rho g (zT - zS); multiplied by s when both pressures are given.
+    void UnknownFlowLaw(int i) {
+        ++row_;
+        const PipeRec& pipe = work_.WorkPipes[i];
+        const PipeEnds ends = EndsOf(pipe);
+        const int s = pipe.DirectionSign();
+        const double resistance = state_.resistance[i];
+        if (ends.startUnknown == 0 && ends.endUnknown == 0) {
+            const double difference = static_cast<double>(ends.start.Pressure) - ends.end.Pressure;
+            Add(plan_.flowUnknown[i], resistance);
+            AddRight(s * difference);
+            AddRight(-s * Hydrostatic(pipe));
+            return;
+        }
+        PressureDifference(ends);
+        Add(plan_.flowUnknown[i], -s * resistance);
+        AddRight(Hydrostatic(pipe));
+    }
+
+    void KnownFlow(int i) {
+        ++row_;
+        Add(plan_.flowUnknown[i], 1);
+        AddRight(WorkingFlow(i));
+    }
+
+    void KnownPressures() {
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            if (!work_.WorkPoints[i].IsDrawn() || work_.WorkPressureUnknown[i]) continue;
+            ++row_;
+            Add(plan_.pressureUnknown[i], 1);
+            AddRight(work_.WorkPoints[i].Pressure);
+        }
+    }
+
+    /// The sum of the flows that reach a junction is 0.
+    void Continuity() {
+        std::array<int, kMaxPoints + 1> rowOf{};
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            if (plan_.pipesAtPoint[i] > 1) rowOf[i] = ++row_;
+        }
+        const int next = row_;
+        ForDrawnPipes([&](int i) {
+            const PipeRec& pipe = work_.WorkPipes[i];
+            if (pipe.StartPoint == pipe.EndPoint) return;
+            for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
+                row_ = rowOf[point];
+                if (row_ != 0) Add(plan_.flowUnknown[i], pipe.FlowFromPoint == point ? -1 : 1);
+            }
+        });
+        row_ = next;
+    }
+
+    void ComponentPressure(const Component& component) {
+        ++row_;
+        if (component.high == 0) return;
+        const PipeRec& pipeA = work_.WorkPipes[component.pipeA];
+        const double flow = WorkingFlow(component.pipeA);
+        const PressureJump jump =
+            JumpAt(project_, project_.Cells[component.cell], component, pipeA, flow, rows_);
+        Add(plan_.pressureUnknown[component.high], 1);
+        Add(plan_.pressureUnknown[component.low], -1);
+        AddRight(jump.value);
+        if (rows_ == ComponentRows::Lagged) return;
+        Add(plan_.flowUnknown[component.pipeA], -jump.slope);
+        AddRight(-jump.slope * flow);
+    }
+
+    void ComponentContinuity(const Component& component) {
+        ++row_;
+        if (component.pipeB == 0) return;
+        Add(plan_.flowUnknown[component.pipeA], component.signA);
+        Add(plan_.flowUnknown[component.pipeB], component.signB);
+    }
+
+    const Project& project_;
+    const NetworkPlan& plan_;
+    const WorkNetwork& work_;
+    const PassState& state_;
+    ComponentRows rows_;
+    LinearSystem& system_;
+    int row_ = 0;
+};
+
+}  // namespace
+
+void AssembleNetworkSystem(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+                           const PassState& state, ComponentRows rows, LinearSystem& system) {
+    Assembly(project, plan, work, state, rows, system).Run();
+}
+
+}  // namespace idrova

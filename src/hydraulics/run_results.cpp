@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/run_results.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "base/number_text.h"
+#include "hydraulics/loose_part.h"
+#include "hydraulics/messages.h"
+
+namespace idrova {
+namespace {
+
+constexpr double kSameHead = 1e-5;        ///< relative
+constexpr double kNegligibleFlow = 1e-5;  ///< of the largest
+
+double RelativeDifference(double start, double end) {
+    if (start != 0) return std::abs(end - start) / std::abs(start);
+    if (end != 0) return 1;
+    return 0;
+}
+
+bool IsOverdetermined(const WorkNetwork& work, int i) {
+    const PipeRec& pipe = work.WorkPipes[i];
+    return pipe.IsDrawn() && !work.WorkFlowUnknown[i] &&
+           !work.WorkPressureUnknown[pipe.StartPoint] && !work.WorkPressureUnknown[pipe.EndPoint];
+}
+
+bool HasNegativeGivenFlow(const WorkNetwork& work, int i) {
+    const PipeRec& pipe = work.WorkPipes[i];
+    return pipe.IsDrawn() && !work.WorkFlowUnknown[i] && pipe.FlowRate < 0;
+}
+
+void NotePipes(const WorkNetwork& work, const StageResult& result,
+               std::vector<std::string>& notes) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        if (HasNegativeGivenFlow(work, i)) {
+            notes.push_back("Pipe " + GeneralText(i) +
+                            " has a negative flow given, which was taken as positive");
+        }
+        if (IsOverdetermined(work, i)) {
+            notes.push_back("Pipe " + GeneralText(i) +
+                            " has its flow and both end pressures given: one of the three is too"
+                            " many");
+        }
+        if (result.pipes[i].belowVacuum) {
+            notes.push_back("The gas in pipe " + GeneralText(i) + " would fall below a vacuum");
+        } else if (!result.pipes[i].settled) {
+            notes.push_back("Pipe " + GeneralText(i) +
+                            " has not settled: " + PercentText(result.pipes[i].relative));
+        }
+    }
+}
+
+/// The second stage turns a loss given by its coefficient with the flow; a fixed drop and the
+/// first stage keep to the pipe's reference direction.
+void NoteComponent(const CellRec& cell, const Component& component, const StageResult& result,
+                   double flow, std::vector<std::string>& notes) {
+    if (!cell.Placed || component.throughSign * flow >= 0) return;
+    const std::string number = GeneralText(component.cell);
+    const bool turns = result.rows == ComponentRows::Sloped && cell.Param2 == 0;
+    if (cell.Kind == CellKind::Pump) {
+        notes.push_back("The pump in cell " + number + " runs backwards");
+    } else if (!turns) {
+        notes.push_back("Loss in cell " + number +
+                        " is crossed against its direction: use Flow rates direction and compute"
+                        " again");
+    }
+}
+
+}  // namespace
+
+std::string PercentText(double share) {
+    const double percent = share * 100;
+    if (!(percent < 0.995)) return GeneralText(std::round(percent)) + " %";
+    const double rounded = std::max(std::round(percent * 100), 1.0) / 100;
+    return "0" + GeneralText(rounded) + " %";
+}
+
+void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+                      StageResult& result) {
+    double largest = 0;
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        if (!work.WorkPipes[i].IsDrawn()) continue;
+        largest = std::max(largest, std::abs(result.Flow(plan, i)));
+    }
+    const double weight = project.FluidDensity * kGravity;
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        const PipeRec& pipe = work.WorkPipes[i];
+        if (!pipe.IsDrawn() || !work.WorkFlowUnknown[i]) continue;
+        const double start = result.Pressure(plan, pipe.StartPoint) + weight * pipe.Z1;
+        const double end = result.Pressure(plan, pipe.EndPoint) + weight * pipe.Z2;
+        if (RelativeDifference(start, end) >= kSameHead) continue;
+        if (std::abs(result.Flow(plan, i)) > kNegligibleFlow * largest) continue;
+        result.SetFlow(plan, i, 0);
+    }
+}
+
+void StoreResults(Project& project, const NetworkPlan& plan, WorkNetwork& work,
+                  const StageResult& result, bool intoProject) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        PipeRec& pipe = work.WorkPipes[i];
+        if (!pipe.IsDrawn()) continue;
+        pipe.FlowRate = ToSingle(result.Flow(plan, i));
+        if (intoProject) project.Pipes[i].FlowRate = pipe.FlowRate;
+    }
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        PointRec& point = work.WorkPoints[i];
+        if (!point.IsDrawn()) continue;
+        point.Pressure = ToSingle(result.Pressure(plan, i));
+        if (intoProject) project.Points[i].Pressure = point.Pressure;
+    }
+    for (const Component& component : plan.components) {
+        if (component.pipeA == 0) continue;
+        project.Cells[component.cell].Result = work.WorkPipes[component.pipeA].FlowRate;
+    }
+}
+
+std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& plan,
+                                     const WorkNetwork& work, const StageResult& result) {
+    std::vector<std::string> notes;
+    const int loose = PipeWithoutGivenPressure(plan, work);
+    if (loose != 0) {
+        notes.push_back("No pressure is given in the part of the network that holds pipe " +
+                        GeneralText(loose));
+    }
+    if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
+    NotePipes(work, result, notes);
+    for (const int cell : result.unsettledCells) {
+        notes.push_back("The component in cell " + GeneralText(cell) + " has not settled");
+    }
+    for (const Component& component : plan.components) {
+        if (component.pipeA == 0) continue;
+        NoteComponent(project.Cells[component.cell], component, result,
+                      result.Flow(plan, component.pipeA), notes);
+    }
+    return notes;
+}
+
+bool IsInRange(const CellRec& pump) {
+    const float flow = std::abs(pump.Result);
+    return pump.MinFlow <= flow && flow <= pump.MaxFlow;
+}
+
+void CheckWorkingPoints(const Project& project, const NetworkPlan& plan, MessageBoxes& boxes) {
+    std::string outOfRange;
+    for (const Component& component : plan.components) {
+        const CellRec& cell = project.Cells[component.cell];
+        if (cell.Kind != CellKind::Pump || !cell.Placed || IsInRange(cell)) continue;
+        outOfRange += StrText(component.cell) + " ,";
+    }
+    if (!outOfRange.empty()) boxes.Show(OutOfRangePumps(outOfRange));
+}
+
+void AddBasePressure(Project& project, WorkNetwork& work, MessageBoxes& boxes) {
+    float lowest = 0;
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        PointRec& point = work.WorkPoints[i];
+        if (!point.IsDrawn()) continue;
+        point.Pressure += project.BasePressure;
+        lowest = std::min(lowest, point.Pressure);
+    }
+    if (lowest >= 0) return;
+    const MessageBox question = NegativePressures(project.BasePressure / kPascalPerBar);
+    if (boxes.Show(question) == Answer::Yes) project.BasePressure = -lowest;
+}
+
+}  // namespace idrova

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+
+#include "model/project.h"
+
+namespace idrova {
+
+/// The working copy that a computation runs on: filled from the drawing, from the table or from
+/// the single-pipe window. Same records and capacities as the project; slot 0 unused. Entries
+/// above the counts keep what they held.
+struct WorkNetwork {
+    std::array<PipeRec, kMaxPipes + 1> WorkPipes;
+    std::array<PointRec, kMaxPoints + 1> WorkPoints;
+    std::array<bool, kMaxPipes + 1> WorkFlowUnknown{};
+    std::array<bool, kMaxPoints + 1> WorkPressureUnknown{};
+    int WorkPipeCount = 0;
+    int WorkPointCount = 0;
+    int EquationCount = 0;  ///< equations of the last run
+};
+
+/// Copies the drawn network, deleted slots included.
+void CopyNetwork(const Project& project, WorkNetwork& work);
+
+}  // namespace idrova

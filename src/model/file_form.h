@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "base/message_boxes.h"
+#include "model/project.h"
+
+namespace idrova {
+
+enum class FilePurpose { Open, Save };
+
+/// What the project file window shows; the texts are named after its controls.
+struct FileForm {
+    FilePurpose purpose = FilePurpose::Open;
+    std::string folder;            ///< the chosen folder
+    std::string pattern = "*.iv";  ///< what the file list shows
+    std::string Text1 = "*.iv";    ///< filter
+    std::string Text2;             ///< full path
+    std::string Text3;             ///< file name
+    std::string Text4;             ///< project description
+};
+
+std::string_view FileFormCaption(FilePurpose purpose);
+
+FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder);
+
+void ChooseFolder(FileForm& form, const std::filesystem::path& folder);
+
+/// A filter with one of the characters : ; / \ is not applied.
+void TypeFilter(FileForm& form, std::string_view text);
+
+/// A name with one of those characters is refused in a box and emptied.
+void TypeName(FileForm& form, std::string_view text, MessageBoxes& boxes);
+
+/// Takes a file of the list, and shows the description it holds. The project is not touched.
+void ClickFile(FileForm& form, std::string_view name, MessageBoxes& boxes);
+void DoubleClickFile(FileForm& form, std::string_view name);
+
+/// Opens or saves. False, with nothing done, when there is no name; else the window closes.
+/// The project takes name, title and description of the form, unless the file could not be written,
+/// could not be read or is malformed: then it stays as it was.
+bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes,
+                     const HandOvers& handOvers);
+
+/// The description that a project file holds; empty when it has none or cannot be read.
+std::string DescriptionIn(const std::filesystem::path& path);
+
+}  // namespace idrova

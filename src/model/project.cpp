@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/project.h"
+
+#include <algorithm>
+
+#include "model/grid.h"
+
+namespace idrova {
+namespace {
+
+void MarkCrossed(Project& project, int pipe, int cell) {
+    if (cell < 1 || cell > project.CellCount()) return;
+    CellRec& crossed = project.Cells[static_cast<std::size_t>(cell)];
+    if (crossed.Kind != CellKind::Empty) return;
+    crossed.Kind = CellKind::Crossed;
+    crossed.Param1 = static_cast<float>(pipe);
+}
+
+void MarkCellsOf(Project& project, int number) {
+    const PipeRec& pipe = project.Pipes[static_cast<std::size_t>(number)];
+    const bool horizontal = pipe.Y1 == pipe.Y2;
+    const auto [from, to] =
+        horizontal ? std::minmax(pipe.X1, pipe.X2) : std::minmax(pipe.Y1, pipe.Y2);
+    const int step = horizontal ? project.Grid.CellWidth : project.Grid.CellHeight;
+    for (int at = from; at <= to; at += step) {
+        const int cell =
+            horizontal ? CellFromPoint(project, at, pipe.Y1) : CellFromPoint(project, pipe.X1, at);
+        MarkCrossed(project, number, cell);
+    }
+}
+
+}  // namespace
+
+std::string VersionText() {
+    return std::string(kVersionNumber) + kVersionRelease;
+}
+
+std::string WindowTitle(std::string_view name) {
+    return "Idrova " + VersionText() + " - [" + std::string(name) + "]";
+}
+
+void InitialiseProject(Project& project) {
+    static_cast<Settings&>(project) = Settings{};
+    if (project.ProjectName.empty()) project.ProjectName = kNewProject;
+    project.ProjectDescription.clear();
+    project.GridSize = 50;
+    ClearNetwork(project);
+}
+
+void ClearNetwork(Project& project) {
+    project.numtubo = project.npres = project.numins = 0;
+    project.CurrentPipe = 0;
+    project.Pipes.fill({});
+    project.Points.fill({});
+    project.Cells.fill({});
+    project.FlowUnknown.fill(true);
+    project.PressureUnknown.fill(true);
+    project.CellIsNode.fill(false);
+    project.TableRows.fill({});
+}
+
+void ResetProject(Project& project, const HandOvers& handOvers) {
+    handOvers.ClearDrawing();
+    for (int i = 1; i <= project.npres; ++i) {
+        project.PressureUnknown[static_cast<std::size_t>(i)] = true;
+        project.Points[static_cast<std::size_t>(i)].Pressure = 0;
+    }
+    project.Cells.fill(CellRec{});
+    project.CellIsNode.fill(false);
+    project.numtubo = 0;
+    project.npres = 0;
+    project.CurrentPipe = 0;
+    handOvers.RereadComponents();
+}
+
+void RebuildPipeCells(Project& project) {
+    for (CellRec& cell : project.Cells) {
+        if (cell.Kind == CellKind::Crossed) cell = CellRec{};
+    }
+    for (int i = 1; i <= project.numtubo; ++i) {
+        PipeRec& pipe = project.Pipes[static_cast<std::size_t>(i)];
+        if (!pipe.IsEnd(pipe.FlowFromPoint)) pipe.FlowFromPoint = pipe.StartPoint;
+        if (pipe.IsDrawn()) MarkCellsOf(project, i);
+    }
+}
+
+}  // namespace idrova

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/project_file.h"
+
+#include "base/file.h"
+#include "model/messages.h"
+#include "model/project_content.h"
+#include "model/project_keys.h"
+
+namespace idrova {
+namespace {
+
+namespace fs = std::filesystem;
+
+bool FileExists(const fs::path& path) {
+    std::error_code error;
+    return fs::exists(path, error) && !fs::is_directory(path, error);
+}
+
+/// What the view of the current mode shows goes first, while the counts are still those it drew.
+void LeaveNetwork(Project& project, const HandOvers& handOvers) {
+    if (project.Mode == WorkMode::Graphic) ResetProject(project, handOvers);
+    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
+}
+
+void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
+    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
+    ResetProject(project, handOvers);
+    ClearNetwork(project);
+    project.ProjectName = kNewProject;
+    handOvers.ShowTitle(project.ProjectName);
+}
+
+}  // namespace
+
+Status WriteProject(Project& project, const fs::path& path) {
+    Status written = WriteWholeFile(path, ProjectFileText(project), OldFile::KeptBeside);
+    if (written) project.numins = CountTableRows(project);
+    return written;
+}
+
+SaveOutcome SaveProject(Project& project, const fs::path& path, MessageBoxes& boxes) {
+    if (FileExists(path) && boxes.Show(kOverwriteFile) != Answer::Yes) return SaveOutcome::Declined;
+    if (const Status written = WriteProject(project, path); !written) {
+        boxes.Show(SaveFailed(written.Error()));
+        return SaveOutcome::Failed;
+    }
+    return SaveOutcome::Saved;
+}
+
+Status ReadProjectText(std::string_view text, Project& project) {
+    if (IsBeforeVersion25(text)) return Failure{std::string(kFileTooOld.text)};
+    const Result<ProjectContent> content = ParseProject(text, project.GridSize);
+    if (!content) return Failure{content.Error()};
+    PutContent(*content, project);
+    return Done{};
+}
+
+OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& boxes,
+                        const HandOvers& handOvers) {
+    std::error_code error;
+    if (!fs::exists(path, error) && !error) {
+        boxes.Show(kFileMissing);
+        return OpenOutcome::Missing;
+    }
+    const Result<std::string> text = ReadWholeFile(path, kLargestProjectFile);
+    if (!text) {
+        boxes.Show(OpenFailed(text.Error()));
+        return OpenOutcome::Unreadable;
+    }
+    if (IsBeforeVersion25(*text)) {
+        boxes.Show(kFileTooOld);
+        RefuseOldVersion(project, handOvers);
+        return OpenOutcome::TooOld;
+    }
+    const Result<ProjectContent> content = ParseProject(*text, project.GridSize);
+    if (!content) {
+        boxes.Show(ProjectMalformed(content.Error()));
+        return OpenOutcome::Malformed;
+    }
+    LeaveNetwork(project, handOvers);
+    PutContent(*content, project);
+    handOvers.ShowNetwork();
+    return OpenOutcome::Opened;
+}
+
+}  // namespace idrova

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "physdata/fluid_commands.h"
+
+#include <utility>
+
+#include "base/number_text.h"
+#include "physdata/messages.h"
+
+namespace idrova {
+
+void UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes) {
+    project.FluidDensity = ReadNumber(fields.density);
+    project.FluidViscosity = ReadNumber(fields.viscosity);
+    project.FluidCompressibility = ReadNumber(fields.compressibility);
+    const std::string number = selected > 0 ? "[" + GeneralText(selected) + "] " : "";
+    project.FluidName = number + fields.name;
+    if (project.numtubo > 0) boxes.Show(kRedefineVolumeFlows);
+}
+
+EditOutcome SaveFluid(FluidDb& db, int selected, const FluidFields& fields,
+                      const std::filesystem::path& folder, MessageBoxes& boxes) {
+    if (!db.Holds(selected)) return Refuse(kNoFluidToSave, boxes);
+    FluidRecord fluid = TypedFluid(fields);
+    fluid.userDefined = db[selected].userDefined;
+    if (!NameFits(fluid))
+        return Refuse(BadName(FluidRecord::kNameLimit, kAskSaveFluid.title), boxes);
+    if (boxes.Show(kAskSaveFluid) != Answer::Yes) return EditOutcome::Declined;
+    FluidDb next = db;
+    next[selected] = std::move(fluid);
+    return StoreRecords(db, std::move(next), folder, kAskSaveFluid.title, boxes);
+}
+
+EditOutcome SaveFluidAs(FluidDb& db, const FluidFields& fields, bool predefined,
+                        const std::filesystem::path& folder, MessageBoxes& boxes) {
+    FluidRecord fluid = TypedFluid(fields);
+    fluid.userDefined = predefined ? 0 : -1;
+    if (!NameFits(fluid))
+        return Refuse(BadName(FluidRecord::kNameLimit, kAskSaveFluidAs.title), boxes);
+    if (boxes.Show(kAskSaveFluidAs) != Answer::Yes) return EditOutcome::Declined;
+    if (db.IsFull()) return Refuse(kTooManyFluids, boxes);
+    return StoreRecords(db, WithRecord(db, std::move(fluid)), folder, kAskSaveFluidAs.title, boxes);
+}
+
+EditOutcome DeleteFluid(FluidDb& db, int slot, const std::filesystem::path& folder,
+                        MessageBoxes& boxes) {
+    if (!db.Holds(slot)) return Refuse(kNoFluidToDelete, boxes);
+    if (boxes.Show(kAskDeleteFluid) != Answer::Ok) return EditOutcome::Declined;
+    const EditOutcome stored =
+        StoreRecords(db, WithoutRecord(db, slot), folder, kAskDeleteFluid.title, boxes);
+    if (stored == EditOutcome::Done) LoadFluids(db, folder, boxes);
+    return stored;
+}
+
+}  // namespace idrova

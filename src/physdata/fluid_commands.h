@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "base/message_boxes.h"
+#include "model/project.h"
+#include "physdata/fluids.h"
+
+namespace idrova {
+
+/// The buttons of the fluid window. `selected` is the slot last chosen in its list, 0 for none;
+/// `folder` holds the database. Typed numbers that exceed a single become the largest single.
+
+/// "Use": the typed values become the current fluid, named "[selected] name" (the name alone when
+/// none was chosen). A project with pipes is told that volume flows must be given again.
+void UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes);
+
+/// "Save": the typed values into the chosen fluid, whose `userDefined` stays.
+EditOutcome SaveFluid(FluidDb& db, int selected, const FluidFields& fields,
+                      const std::filesystem::path& folder, MessageBoxes& boxes);
+
+/// "Save as": the typed values as a new fluid. `predefined` is the check box.
+EditOutcome SaveFluidAs(FluidDb& db, const FluidFields& fields, bool predefined,
+                        const std::filesystem::path& folder, MessageBoxes& boxes);
+
+/// "Delete": the fluid in `slot`; the database is then loaded again.
+EditOutcome DeleteFluid(FluidDb& db, int slot, const std::filesystem::path& folder,
+                        MessageBoxes& boxes);
+
+}  // namespace idrova

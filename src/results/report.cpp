@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/report.h"
+
+#include <chrono>
+#include <ctime>
+#include <string_view>
+
+#include "base/print_zones.h"
+#include "model/pipe_sizes.h"
+#include "results/report_figures.h"
+
+namespace idrova {
+namespace {
+
+constexpr std::string_view kReportStart =
+    "****************************************************************";
+
+/// Stood before a nominal size on the dot-matrix printers of old; it is part of the format.
+constexpr char kNominalSizeMark = '\x16';
+
+std::string_view ModeText(WorkMode mode) {
+    switch (mode) {
+        case WorkMode::Graphic:
+            return "Graphic";
+        case WorkMode::Table:
+            return "Table";
+        case WorkMode::SinglePipe:
+            return "Single computation";
+    }
+    return "";
+}
+
+std::string NominalDesignation(float diameter) {
+    const int size = NominalSizeOf(diameter);
+    if (size == 0) return "";
+    return kNominalSizeMark + std::string(NominalSizeNames[size]);
+}
+
+/// Single precision throughout: seven digits are what a stored value is good for.
+float Scaled(float value, double factor) {
+    return static_cast<float>(value * factor);
+}
+
+class ReportPrinter {
+  public:
+    ReportPrinter(const Project& project, const WorkNetwork& work)
+        : project_(project), work_(work) {}
+
+    void Heading(const ReportTime& when) {
+        EmptyLine();
+        Line(kReportStart);
+        out_.Text("RESULTS CALCULATION    (ver.").NextZone();
+        out_.Text(kVersionNumber).Text(kVersionRelease).Text(")").NextZone();
+        out_.Text(when.date).NextZone().Text(when.time).EndLine();
+        out_.Text("Project: ").NextZone().Text(project_.ProjectName).EndLine();
+        out_.Text("Mode: ").Text(ModeText(project_.Mode)).EndLine();
+    }
+
+    void Conditions() {
+        const bool gas = project_.EquationType == Equation::Compressible;
+        const bool circular = project_.SectionType == Section::Circular;
+        EmptyLine();
+        out_.Text("Fluid: ").Text(project_.FluidName).EndLine();
+        out_.Text("Density [kg/mc]: ").NextZone().Number(project_.FluidDensity).NextZone();
+        out_.Text("viscosity: ").NextZone().Number(project_.FluidViscosity).EndLine();
+        EmptyLine();
+        out_.Text("Roughness[m]: ").NextZone().Number(project_.Roughness).EndLine();
+        EmptyLine();
+        out_.Text("Correlation: ").NextZone();
+        Line(gas ? "Compressible gas" : "Incompressible fluid");
+        out_.Text("Section: ").NextZone();
+        Line(circular ? "Circular" : "Rectangular");
+        EmptyLine();
+    }
+
+    void Points() {
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            const PointRec& point = work_.WorkPoints[i];
+            if (point.IsDrawn()) Point(i, point);
+        }
+        EmptyLine();
+    }
+
+    void PressureDifferences() {
+        ForDrawnPipes([this](int number, const PipeRec& pipe) {
+            const PipeFigures figures = FiguresOf(pipe, work_, project_);
+            out_.Text("pipe" + StrText(number)).NextZone();
+            out_.Text("P" + StrText(int{pipe.StartPoint}) + "-P" + StrText(int{pipe.EndPoint}));
+            out_.NextZone().Text("[Pa]").NextZone().Number(figures.drop).NextZone();
+            out_.Text("[Pa/m]").NextZone().Number(figures.dropPerMetre).EndLine();
+        });
+        EmptyLine();
+    }
+
+    void PipeBlocks() {
+        ForDrawnPipes([this](int number, const PipeRec& pipe) { PipeBlock(number, pipe); });
+    }
+
+    void Pumps() {
+        EmptyLine();
+        Line("PUMPS INSERTED");
+        ForComponents(CellKind::Pump, [this](const CellRec& pump) {
+            Line(pump.Name);
+            out_.Text("Min flow rate, max [kg/h]").NextZone();
+            out_.Number(Scaled(pump.MinFlow, kSecondsPerHour)).NextZone();
+            out_.Number(Scaled(pump.MaxFlow, kSecondsPerHour)).EndLine();
+            Row("Flow rate calculated [kg/h]", Scaled(pump.Result, kSecondsPerHour));
+        });
+    }
+
+    void Losses() {
+        EmptyLine();
+        Line("INSERTED CONCENTRATED PRESSURE DROPS");
+        ForComponents(CellKind::Loss, [this](const CellRec& loss) {
+            Line(loss.Name);
+            if (loss.Param2 != 0) Row("Fixed drop [Pa]", loss.Param2);
+            if (loss.Param1 != 0) Row("Coefficient", loss.Param1);
+        });
+    }
+
+    const std::string& Bytes() const { return out_.Bytes(); }
+
+  private:
+    void EmptyLine() { out_.EndLine(); }
+    void Line(std::string_view text) { out_.Text(text).EndLine(); }
+    void Row(std::string_view label, float value) {
+        out_.Text(label).NextZone().Number(value).EndLine();
+    }
+    void PatternRow(std::string_view label, double value) {
+        out_.Text(label).NextZone().Text(FormatNumber(value, "####.###")).EndLine();
+    }
+
+    void Point(int number, const PointRec& point) {
+        const bool bar = project_.PressureUnit == Unit::Bar;
+        const bool known = !work_.WorkPressureUnknown[number];
+        const float shown = point.Pressure / project_.PressureUnitFactor;
+        out_.Text("Point" + StrText(number)).NextZone();
+        out_.Text("Pressure [Pa],").Text(bar ? "[bar]" : "[mbar]").NextZone();
+        out_.Number(point.Pressure).NextZone();
+        out_.Text(FormatNumber(shown, "###.###")).NextZone();
+        out_.Text(known ? "Known" : "").EndLine();
+    }
+
+    void PipeBlock(int number, const PipeRec& pipe) {
+        const PipeFigures figures = FiguresOf(pipe, work_, project_);
+        out_.Text("pipe").NextZone().Number(number).EndLine();
+        out_.Text("   Flow rate [kg/h],[mc/h]").NextZone();
+        out_.Number(Scaled(pipe.FlowRate, kSecondsPerHour)).NextZone();
+        out_.Number(Scaled(pipe.FlowRate, kSecondsPerHour / project_.FluidDensity)).EndLine();
+        SectionLine(pipe);
+        Row("   Lenght [m]", pipe.Length);
+        out_.Text("   Height [m] Z1").NextZone().Number(int{pipe.Z1}).NextZone();
+        out_.Text("Z2").NextZone().Number(int{pipe.Z2}).EndLine();
+        PatternRow("   Speed [m/s]", figures.speed);
+        PatternRow("   Reynolds", figures.reynolds);
+    }
+
+    void SectionLine(const PipeRec& pipe) {
+        const float side = Scaled(pipe.Diameter, kMillimetresPerMetre);
+        if (project_.SectionType == Section::Circular) {
+            out_.Text("   Diameter [mm]").NextZone().Number(side).NextZone();
+            return Line(NominalDesignation(pipe.Diameter));
+        }
+        out_.Text("   Side a [mm]").NextZone().Number(side).NextZone();
+        out_.Text("   Side b [mm]").NextZone();
+        out_.Number(Scaled(pipe.OuterSize, kMillimetresPerMetre)).EndLine();
+    }
+
+    template <typename Print>
+    void ForDrawnPipes(const Print& print) {
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            const PipeRec& pipe = work_.WorkPipes[i];
+            if (pipe.IsDrawn()) print(i, pipe);
+        }
+    }
+
+    template <typename Print>
+    void ForComponents(CellKind kind, const Print& print) {
+        for (int i = 1; i <= project_.CellCount(); ++i) {
+            const CellRec& cell = project_.Cells[i];
+            if (HoldsComponent(cell, kind)) print(cell);
+        }
+    }
+
+    const Project& project_;
+    const WorkNetwork& work_;
+    PrintZoneWriter out_;
+};
+
+std::string ClockText(const std::tm& local, const char* format) {
+    std::string text(sizeof "2026-11-22 21:55:26", '\0');
+    text.resize(std::strftime(text.data(), text.size(), format, &local));
+    return text;
+}
+
+}  // namespace
+
+ReportTime CurrentReportTime() {
+    const std::time_t now = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
+    std::tm local{};
+    localtime_r(&now, &local);
+    // Numbers only: these conversions do not depend on the locale.
+    return {ClockText(local, "%Y-%m-%d"), ClockText(local, "%H:%M:%S")};
+}
+
+std::string ReportText(const Project& project, const WorkNetwork& work, const ReportTime& when) {
+    ReportPrinter report(project, work);
+    report.Heading(when);
+    report.Conditions();
+    report.Points();
+    report.PressureDifferences();
+    report.PipeBlocks();
+    report.Pumps();
+    report.Losses();
+    return report.Bytes();
+}
+
+}  // namespace idrova

@@ -1,0 +1,249 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/menu_table.h"
+
+#include <array>
+
+namespace idrova {
+
+namespace {
+
+using enum MenuKind;
+
+constexpr MenuEntry kMenuTable[] = {
+    {.name = "File", .parent = "", .caption = "File", .kind = Menu},
+    {.name = "Nuovo",
+     .parent = "File",
+     .caption = "New",
+     .shortcut = "Ctrl+N",
+     .tip = "Leave the current project and start an empty one"},
+    {.name = "Apri",
+     .parent = "File",
+     .caption = "Open",
+     .shortcut = "Ctrl+O",
+     .tip = "Open a project file"},
+    {.name = "Salva",
+     .parent = "File",
+     .caption = "Save",
+     .shortcut = "Ctrl+S",
+     .tip = "Save the project; the previous version is kept beside it"},
+    {.name = "Salva2",
+     .parent = "File",
+     .caption = "Save as",
+     .mnemonic = 5,
+     .shortcut = "Ctrl+Shift+S",
+     .tip = "Save the project under a new name"},
+    {.name = "Stampa",
+     .parent = "File",
+     .caption = "Print results",
+     .shortcut = "Ctrl+P",
+     .tip = "Print the report of the last computation",
+     .separated = true},
+    {.name = "Risultati",
+     .parent = "File",
+     .caption = "Show results",
+     .mnemonic = 5,
+     .shortcut = "F6",
+     .tip = "Show the results file in the text editor"},
+    {.name = "Esci",
+     .parent = "File",
+     .caption = "Exit",
+     .mnemonic = 1,
+     .shortcut = "Ctrl+Q",
+     .tip = "End the program",
+     .separated = true},
+
+    {.name = "Fluido",
+     .parent = "",
+     .caption = "Fluid",
+     .mnemonic = 1,
+     .tip = "Choose and edit the fluids"},
+
+    {.name = "Componenti", .parent = "", .caption = "Components", .kind = Menu},
+    {.name = "Pompe",
+     .parent = "Componenti",
+     .caption = "Pumps",
+     .tip = "Edit the pumps and see their curves"},
+    {.name = "PerditeCon",
+     .parent = "Componenti",
+     .caption = "Concentrated loss",
+     .tip = "Edit the concentrated losses"},
+
+    {.name = "Tubi", .parent = "", .caption = "Pipes", .kind = Menu},
+    {.name = "Rugosita", .parent = "Tubi", .caption = "Roughness", .kind = Menu},
+    {.name = "t1",
+     .parent = "Rugosita",
+     .caption = "zincate steel",
+     .kind = OneOf,
+     .tip = "Roughness 0.05 mm for all pipes",
+     .checkedAtStart = true},
+    {.name = "t2",
+     .parent = "Rugosita",
+     .caption = "stainless stell / polyethylene / copper",
+     .kind = OneOf,
+     .tip = "Roughness 0.02 mm for all pipes"},
+    {.name = "t3",
+     .parent = "Rugosita",
+     .caption = "rough cast iron / concrete",
+     .kind = OneOf,
+     .tip = "Roughness 0.4 mm for all pipes"},
+    {.name = "t4",
+     .parent = "Rugosita",
+     .caption = "partially rusty",
+     .kind = OneOf,
+     .tip = "Roughness 2 mm for all pipes"},
+    {.name = "t5",
+     .parent = "Rugosita",
+     .caption = "strong incrostations",
+     .kind = OneOf,
+     .mnemonic = 7,
+     .tip = "Roughness 5 mm for all pipes"},
+    {.name = "tt",
+     .parent = "Rugosita",
+     .caption = "user value",
+     .kind = OneOf,
+     .tip = "Type the roughness of all pipes",
+     .separated = true},
+    {.name = "Sezione", .parent = "Tubi", .caption = "section", .kind = Menu},
+    {.name = "Circolare",
+     .parent = "Sezione",
+     .caption = "Circular",
+     .kind = OneOf,
+     .tip = "All pipes are round",
+     .checkedAtStart = true},
+    {.name = "Rettangolare",
+     .parent = "Sezione",
+     .caption = "Rectangular",
+     .kind = OneOf,
+     .tip = "All pipes are rectangular ducts with the sides a and b"},
+    {.name = "Veloce",
+     .parent = "Tubi",
+     .caption = "Fast",
+     .tip = "Give all pipes the same flow rate, length or diameter",
+     .separated = true},
+
+    {.name = "Modalita", .parent = "", .caption = "Mode", .kind = Menu},
+    {.name = "Grafico",
+     .parent = "Modalita",
+     .caption = "Graphic",
+     .kind = OneOf,
+     .shortcut = "F2",
+     .tip = "Draw the plant on the grid",
+     .checkedAtStart = true},
+    {.name = "Tabella",
+     .parent = "Modalita",
+     .caption = "Table",
+     .kind = OneOf,
+     .shortcut = "F3",
+     .tip = "Type the network into a table"},
+    {.name = "sintub",
+     .parent = "Modalita",
+     .caption = "single pipe",
+     .kind = OneOf,
+     .shortcut = "F4",
+     .tip = "Compute one pipe on its own"},
+
+    {.name = "Correlazioni", .parent = "", .caption = "Equation", .kind = Menu},
+    {.name = "Cor1",
+     .parent = "Correlazioni",
+     .caption = "Incompressible fluid",
+     .kind = OneOf,
+     .tip = "Liquids, and gases with small pressure drops",
+     .checkedAtStart = true},
+    {.name = "Cor2",
+     .parent = "Correlazioni",
+     .caption = "Compressible fluid (p>50 mbar)",
+     .kind = OneOf,
+     .tip = "Gases whose density changes along the pipe"},
+
+    {.name = "Opzioni", .parent = "", .caption = "Options", .kind = Menu},
+    {.name = "Editor",
+     .parent = "Opzioni",
+     .caption = "Editor",
+     .tip = "Choose the text editor that shows the results"},
+    {.name = "Ordina",
+     .parent = "Opzioni",
+     .caption = "Flow rates direction",
+     .tip = "Turn the reference direction of every pipe with a negative flow rate",
+     .separated = true},
+    {.name = "Temperatura",
+     .parent = "Opzioni",
+     .caption = "Computation temperature",
+     .tip = "Temperature of a compressible fluid"},
+    {.name = "PresMini",
+     .parent = "Opzioni",
+     .caption = "Base pressure",
+     .tip = "Pressure that is added to all computed pressures"},
+    {.name = "Pressione", .parent = "Opzioni", .caption = "Pressure misure unit", .kind = Menu},
+    {.name = "p_bar",
+     .parent = "Pressione",
+     .caption = "bar",
+     .kind = OneOf,
+     .tip = "Type and show pressures in bar (1 bar is 101325 Pa)",
+     .checkedAtStart = true},
+    {.name = "p_mbar",
+     .parent = "Pressione",
+     .caption = "mbar",
+     .kind = OneOf,
+     .tip = "Type and show pressures in mbar (1 mbar is 101.325 Pa)"},
+    {.name = "Elris",
+     .parent = "Opzioni",
+     .caption = "Delete results",
+     .tip = "Delete the results file",
+     .separated = true},
+    {.name = "Risultatiseq",
+     .parent = "Opzioni",
+     .caption = "Results saved in sequence",
+     .kind = Check,
+     .tip = "Add each report at the end of the results file"},
+
+    {.name = "Help", .parent = "", .caption = "Help", .kind = Menu},
+    {.name = "Helpslinea",
+     .parent = "Help",
+     .caption = "On line help",
+     .kind = Check,
+     .shortcut = "Shift+F1",
+     .tip = "Show or hide the hints",
+     .checkedAtStart = true},
+    {.name = "About", .parent = "Help", .caption = "Info", .kind = Menu},
+    {.name = "Logo", .parent = "About", .caption = "Logo", .tip = "About this program"},
+    {.name = "Help",
+     .parent = "Help",
+     .caption = "Help",
+     .shortcut = "F1",
+     .tip = "Where the user manual is"},
+};
+
+std::string_view CheckedMode(WorkMode mode) {
+    constexpr std::string_view kItems[] = {"Grafico", "Tabella", "sintub"};
+    return kItems[static_cast<std::size_t>(mode) - 1];
+}
+
+/// The checked entry of each group.
+std::array<std::string_view, 5> CheckedEntries(const Settings& settings, const ShellState& shell) {
+    return {shell.roughnessItem,
+            settings.SectionType == Section::Circular ? "Circolare" : "Rettangolare",
+            CheckedMode(settings.Mode),
+            settings.EquationType == Equation::Incompressible ? "Cor1" : "Cor2",
+            settings.PressureUnit == Unit::Bar ? "p_bar" : "p_mbar"};
+}
+
+}  // namespace
+
+std::span<const MenuEntry> MenuTable() {
+    return kMenuTable;
+}
+
+std::string CaptionWithMnemonic(const MenuEntry& entry) {
+    return std::string(entry.caption).insert(entry.mnemonic, "&");
+}
+
+bool IsChecked(const MenuEntry& entry, const Settings& settings, const ShellState& shell) {
+    if (entry.name == "Helpslinea") return shell.HintsShown;
+    if (entry.name == "Risultatiseq") return settings.ResultsInSequence;
+    for (const std::string_view checked : CheckedEntries(settings, shell)) {
+        if (entry.name == checked) return true;
+    }
+    return false;
+}
+
+}  // namespace idrova

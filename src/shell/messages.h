@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/message_boxes.h"
+
+namespace idrova {
+
+constexpr FixedMessage kExitQuestion{"Do you want to exit ?", "End program", BoxIcon::Question,
+                                     BoxButtons::OkCancel};
+constexpr FixedMessage kManualNotice{"The user manual is the file IDROVA.PDF", "Help",
+                                     BoxIcon::Information};
+constexpr FixedMessage kSmallScreen{"The min resolution must be 1024x768", "Resolution",
+                                    BoxIcon::Critical};
+
+}  // namespace idrova

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+#include "model/project.h"
+
+namespace idrova {
+
+/// What the main window remembers beside the project. Starts anew with every run.
+struct ShellState {
+    bool HintsShown = true;                 ///< the hint window is open
+    std::string_view roughnessItem = "t1";  ///< menu item of the roughness last chosen
+};
+
+/// What a working mode shows and allows.
+struct ModeView {
+    std::string_view window;    ///< the one mode window that is open
+    bool drawingTools = false;  ///< the panel's four groups, "Delete ..." and "Show/hidden data"
+    bool calculate = false;     ///< the panel's "Calculate by graphic"
+};
+
+ModeView ViewOf(WorkMode mode);
+
+/// Switches the mode. The network and the table stay as they are; only graphic mode has hints.
+void EnterMode(WorkMode mode, Project& project, ShellState& shell);
+
+}  // namespace idrova

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/start_up.h"
+
+#include <system_error>
+
+#include "model/settings.h"
+#include "shell/messages.h"
+
+namespace idrova {
+
+namespace fs = std::filesystem;
+
+void CheckScreen(int widthPixels, MessageBoxes& boxes) {
+    if (widthPixels < kMinScreenWidth) boxes.Show(kSmallScreen);
+}
+
+std::string VersionLine() {
+    return "ver. " + VersionText();
+}
+
+fs::path WorkingFolder(const fs::path& executable, const fs::path& userDataFolder) {
+    const fs::path beside = executable.parent_path();
+    std::error_code ignored;
+    return fs::is_directory(beside / "IMG", ignored) ? beside : userDataFolder;
+}
+
+Status PrepareWorkingFolder(const fs::path& folder, const fs::path& shared) {
+    std::error_code error;
+    if (fs::exists(folder, error)) return Done{};
+    fs::create_directories(folder, error);
+    if (error) return Failure{"The folder " + folder.string() + " can not be made"};
+    // An absent database is made empty and an absent icon is drawn, so a failed copy is no failure.
+    for (const char* name : {"fluidi.dat", "pompe.dat", "percon.dat", "IMG"}) {
+        fs::copy(shared / name, folder / name, fs::copy_options::recursive, error);
+    }
+    return Done{};
+}
+
+}  // namespace idrova

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/message_boxes.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// One value for every pipe of the drawing, as typed; the longest leading number counts. A zero is
+/// asked about first and changes nothing unless the answer is Yes.
+
+/// `text` in kg/h. The flow rates stay marked as to be computed.
+void SetAllFlowRates(Project& project, std::string_view text, MessageBoxes& boxes);
+/// `text` in m.
+void SetAllLengths(Project& project, std::string_view text, MessageBoxes& boxes);
+/// `text` in mm; the outside size stays.
+void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxes);
+
+/// What the diameter field shows once a nominal size (1 .. 12) is chosen, mm.
+std::string FastDiameterText(int nominalSize);
+
+/// What the length field shows once `text` was typed: "0" in the place of a negative number.
+std::string FastLengthText(std::string_view text);
+
+}  // namespace idrova

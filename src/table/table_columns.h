@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+namespace idrova {
+
+constexpr int kTableColumns = 11;
+constexpr int kTableLines = 100;  ///< line 1 is the header
+
+namespace table_column {
+constexpr int kNumber = 0;
+constexpr int kStartPoint = 1;
+constexpr int kStartPressure = 2;
+constexpr int kEndPoint = 3;
+constexpr int kEndPressure = 4;
+constexpr int kNominalSize = 5;
+constexpr int kDiameter = 6;
+constexpr int kLength = 7;
+constexpr int kFlowRate = 8;
+constexpr int kZ1 = 9;
+constexpr int kZ2 = 10;
+}  // namespace table_column
+
+struct TableColumn {
+    std::string_view header;
+    int width;  ///< screen units
+};
+
+constexpr std::array<TableColumn, kTableColumns> kTableColumnList = {{{"nr.", 350},
+                                                                      {"da", 500},
+                                                                      {"P1", 800},
+                                                                      {"a", 500},
+                                                                      {"P2", 800},
+                                                                      {"diameter", 800},
+                                                                      {"diameter [mm]", 1100},
+                                                                      {"length [m]", 1100},
+                                                                      {"flow rate [kg/h]", 1100},
+                                                                      {"z1 [m]", 750},
+                                                                      {"z2 [m]", 750}}};
+constexpr int kTableRowHeight = 300;  ///< screen units
+
+/// Light red (0xRRGGBB), of an empty cell that stands for a value to compute.
+constexpr std::uint32_t kToComputeColour = 0xFF8080;
+
+/// Whether empty cells of the column stand for values to compute.
+constexpr bool EmptyMeansUnknown(int column) {
+    return column == table_column::kStartPressure || column == table_column::kEndPressure ||
+           column == table_column::kFlowRate;
+}
+
+}  // namespace idrova

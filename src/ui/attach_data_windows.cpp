@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/child_windows.h"
+#include "ui/commands.h"
+#include "ui/frm_con.h"
+#include "ui/frm_flu.h"
+#include "ui/frm_percon.h"
+#include "ui/frm_pmin.h"
+#include "ui/frm_pompa.h"
+#include "ui/frm_rug.h"
+#include "ui/frm_vel.h"
+#include "ui/mdi.h"
+#include "ui/menu_bar.h"
+
+namespace idrova {
+
+namespace {
+
+template <typename Window>
+void AttachWindow(MDI& mdi, std::string_view item, std::string_view name) {
+    mdi.Menu().Attach(item, [&mdi, name] {
+        mdi.Windows().Open(name, [&mdi] { return new Window(mdi.State()); });
+    });
+}
+
+}  // namespace
+
+void AttachDataWindows(MDI& mdi) {
+    AttachWindow<FrmFlu>(mdi, "Fluido", "FrmFlu");
+    AttachWindow<FrmPompa>(mdi, "Pompe", "FrmPompa");
+    AttachWindow<FrmPerCon>(mdi, "PerditeCon", "FrmPerCon");
+    AttachWindow<FrmRug>(mdi, "tt", "FrmRug");
+    AttachWindow<FrmVel>(mdi, "Veloce", "FrmVel");
+    AttachWindow<FrmCon>(mdi, "Editor", "FrmCon");
+    AttachWindow<FrmPMin>(mdi, "Temperatura", "FrmPMin");
+    AttachWindow<FrmPMin>(mdi, "PresMini", "FrmPMin");
+}
+
+}  // namespace idrova

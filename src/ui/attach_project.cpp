@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editor_state.h"
+#include "model/project_commands.h"
+#include "physdata/component_lists.h"
+#include "table/table_texts.h"
+#include "ui/child_windows.h"
+#include "ui/commands.h"
+#include "ui/frm_file.h"
+#include "ui/mdi.h"
+#include "ui/menu_bar.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
+    mdi.Windows().Close("FrmFile");  // it may be open for the other purpose
+    mdi.Windows().Open("FrmFile", [&] { return new FrmFile(mdi.State(), purpose); });
+}
+
+void Save(MDI& mdi) {
+    Program& program = mdi.State();
+    if (!SaveToOwnFile(program.project, program.boxes)) ShowFileWindow(mdi, FilePurpose::Save);
+}
+
+/// The editor and the table texts are made again from the network that was put in place.
+void TakeNetwork(MDI& mdi) {
+    Program& program = mdi.State();
+    RedrawProject(program.project, program.editor);
+    program.table = TableTexts();
+    FillTable(program.project, program.table);
+    mdi.ShowNetwork();
+}
+
+void AttachHandOvers(MDI& mdi) {
+    Program& program = mdi.State();
+    HandOvers& steps = program.handOvers;
+    steps.ClearDrawing = [&mdi, &program] {
+        ClearDrawing(program.editor);
+        mdi.ShowNetwork();
+    };
+    steps.RereadComponents = [&program] {
+        LoadComponentDatabases(program.components, program.folder, program.boxes);
+    };
+    steps.ClearTable = [&mdi, &program] {
+        program.table = TableTexts();
+        mdi.ShowNetwork();
+    };
+    steps.ShowNetwork = [&mdi] { TakeNetwork(mdi); };
+    steps.ShowTitle = [&mdi](std::string_view name) { mdi.ShowTitle(name); };
+}
+
+}  // namespace
+
+void AttachProjectCommands(MDI& mdi) {
+    AttachHandOvers(mdi);
+    MenuBar& menu = mdi.Menu();
+    Program& program = mdi.State();
+    menu.Attach("Nuovo", [&mdi, &program] {
+        if (NewProject(program.project, program.boxes, program.handOvers)) mdi.ShowNetwork();
+    });
+    menu.Attach("Apri", [&mdi] { ShowFileWindow(mdi, FilePurpose::Open); });
+    menu.Attach("Salva", [&mdi] { Save(mdi); });
+    menu.Attach("Salva2", [&mdi] { ShowFileWindow(mdi, FilePurpose::Save); });
+}
+
+}  // namespace idrova

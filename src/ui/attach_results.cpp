@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/report.h"
+#include "results/results_file.h"
+#include "ui/commands.h"
+#include "ui/mdi.h"
+#include "ui/menu_bar.h"
+#include "ui/print_text.h"
+#include "ui/program.h"
+#include "ui/start_program.h"
+
+namespace idrova {
+
+namespace {
+
+void PrintLastResults(MDI& mdi) {
+    Program& program = mdi.State();
+    const std::string report = ReportText(program.project, program.work, CurrentReportTime());
+    PrintReport(report, program.boxes,
+                [&](const std::string& text) { PrintText(text, &mdi, program.boxes); });
+}
+
+}  // namespace
+
+void AttachResultCommands(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    Program& program = mdi.State();
+    menu.Attach("Stampa", [&mdi] { PrintLastResults(mdi); });
+    menu.Attach("Risultati",
+                [&program] { ShowResults(program.folder, program.boxes, StartWithFile); });
+    menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
+    menu.Attach("Risultatiseq", [&program] {
+        program.project.ResultsInSequence = !program.project.ResultsInSequence;
+    });
+}
+
+}  // namespace idrova

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <optional>
+#include <string>
+
+#include "hydraulics/compute_network.h"
+#include "hydraulics/run_settings.h"
+#include "results/report.h"
+#include "results/results_file.h"
+#include "table/table_network.h"
+#include "ui/commands.h"
+#include "ui/frm_ava.h"
+#include "ui/frm_com.h"
+#include "ui/mdi.h"
+#include "ui/menu_bar.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+/// Fills the working copy from the drawing or from the table; false when the table is refused.
+bool FillWorkNetwork(Program& program) {
+    if (program.project.Mode == WorkMode::Table) {
+        return TableToNetwork(program.project, program.table, program.work, program.boxes);
+    }
+    CopyNetwork(program.project, program.work);
+    return true;
+}
+
+/// Takes the progress window away before any message that comes during the run.
+class BoxesOfRun final : public MessageBoxes {
+  public:
+    BoxesOfRun(MessageBoxes& boxes, std::optional<FrmAva>& progress)
+        : boxes_(boxes), progress_(progress) {}
+
+    Answer Show(const MessageBox& box) override {
+        progress_.reset();
+        return boxes_.Show(box);
+    }
+
+  private:
+    MessageBoxes& boxes_;
+    std::optional<FrmAva>& progress_;
+};
+
+void Calculate(MDI& mdi) {
+    Program& program = mdi.State();
+    mdi.TakeEdits();
+    if (!FillWorkNetwork(program)) return;
+    std::optional<FrmAva> progress;
+    BoxesOfRun boxes(program.boxes, progress);
+    const RunServices services{.boxes = boxes,
+                               .writeReport =
+                                   [&] {
+                                       const std::string report = ReportText(
+                                           program.project, program.work, CurrentReportTime());
+                                       WriteReport(program.project, report, program.folder, boxes);
+                                       progress.reset();
+                                   },
+                               .showProgress =
+                                   [&](const RunProgress& shown) {
+                                       if (!progress) progress.emplace(&mdi);
+                                       progress->ShowProgress(shown.closeness, shown.passes);
+                                   },
+                               .seed = {}};
+    program.outcome = ComputeNetwork(program.project, program.work, false, services);
+    mdi.ShowOutcome();
+    mdi.ShowNetwork();
+    mdi.ShowSettings();
+}
+
+}  // namespace
+
+void AttachRunCommands(MDI& mdi) {
+    Program& program = mdi.State();
+    mdi.Panel().calculate = [&mdi] { Calculate(mdi); };
+    mdi.Menu().Attach("Ordina",
+                      [&program] { MakeFlowRatesPositive(program.project, program.boxes); });
+}
+
+}  // namespace idrova

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/shell_commands.h"
+#include "ui/child_windows.h"
+#include "ui/commands.h"
+#include "ui/frm_help.h"
+#include "ui/frm_logo.h"
+#include "ui/mdi.h"
+#include "ui/menu_bar.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+void SwitchMode(MDI& mdi, WorkMode mode) {
+    EnterMode(mode, mdi.State().project, mdi.State().shell);
+    mdi.ShowMode();
+    mdi.ShowNetwork();
+}
+
+}  // namespace
+
+void AttachShellCommands(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    Program& program = mdi.State();
+    menu.Attach("Esci", [&mdi, &program] {
+        if (ConfirmExit(program.boxes)) mdi.close();
+    });
+    menu.Attach("Grafico", [&mdi] { SwitchMode(mdi, WorkMode::Graphic); });
+    menu.Attach("Tabella", [&mdi] { SwitchMode(mdi, WorkMode::Table); });
+    menu.Attach("sintub", [&mdi] { SwitchMode(mdi, WorkMode::SinglePipe); });
+    menu.Attach("Helpslinea", [&program] { program.shell.HintsShown = !program.shell.HintsShown; });
+    menu.Attach("Help", [&program] { ShowManualNotice(program.boxes); });
+    menu.Attach("Logo", [&mdi] { mdi.Windows().Open("FrmLogo", [] { return new FrmLogo; }); });
+    mdi.Hints().closedByUser = [&mdi, &program] {
+        program.shell.HintsShown = false;
+        mdi.ShowSettings();
+    };
+}
+
+}  // namespace idrova

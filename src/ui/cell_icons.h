@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGraphicsItem>
+#include <QIcon>
+#include <QRectF>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <string_view>
+
+class QPainter;
+
+namespace idrova {
+
+/// The icons of placed components, read once from the program folder. A file that is missing is
+/// stood in for by a drawn shape, so that no component is ever invisible.
+class CellIcons {
+  public:
+    explicit CellIcons(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+    /// Paints the icon named by the drawing ("IMG\\arrt.ico") into a rectangle of the painter's
+    /// units, sharp at any scale.
+    void Paint(QPainter& painter, const QRectF& place, const std::string& file);
+
+  private:
+    const QIcon& Icon(const std::string& file);
+
+    const std::filesystem::path folder_;
+    std::map<std::string, QIcon> icons_;
+};
+
+/// One component on the drawing.
+class IconItem : public QGraphicsItem {
+  public:
+    IconItem(CellIcons& icons, const QRectF& place, std::string_view file, QGraphicsItem* parent)
+        : QGraphicsItem(parent), icons_(icons), place_(place), file_(file) {}
+
+    QRectF boundingRect() const override { return place_; }
+    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
+
+  private:
+    CellIcons& icons_;
+    const QRectF place_;
+    const std::string file_;
+};
+
+}  // namespace idrova

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/file_form.h"
+#include "ui/child_window.h"
+
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+
+namespace idrova {
+
+struct Program;
+
+/// The project file window: picks a folder and a file name to open or to save. The caption tells
+/// for which.
+class FrmFile : public ChildWindow {
+  public:
+    /// Starts in the folder last used.
+    FrmFile(Program& program, FilePurpose purpose);
+
+  private:
+    QWidget* MakeLists();
+    QWidget* MakeFields();
+    QWidget* MakeButtons();
+    void FillDrives();
+    void ConnectControls();
+
+    /// The fields as the form has them. The lists are read again only where they are out of date.
+    void ShowForm();
+    void ShowFolder();
+    void ShowFiles();
+
+    void Drive1_Change();
+    void Dir1_Change(const QListWidgetItem& item);
+    void File1_Click(const QString& name);
+    void Command1_Click();
+
+    Program& program_;
+    FileForm form_;
+    QComboBox* Drive1;
+    QListWidget* Dir1;
+    QListWidget* File1;
+    QLineEdit* Text1;
+    QLineEdit* Text2;
+    QLineEdit* Text3;
+    QLineEdit* Text4;
+};
+
+}  // namespace idrova

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QTimer>
+
+#include "ui/child_window.h"
+
+namespace idrova {
+
+/// The about window. Opens progressively, up to its full size.
+class FrmLogo : public ChildWindow {
+  public:
+    FrmLogo();
+
+    QSize sizeHint() const override { return {1, 1}; }
+
+  private:
+    QWidget* MakeContent();
+    void OpenFurther();
+
+    QTimer Timer1;
+    QWidget* content_;  ///< at its full size from the start; the window uncovers it
+};
+
+}  // namespace idrova

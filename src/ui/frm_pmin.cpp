@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frm_pmin.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "hydraulics/run_settings.h"
+#include "ui/form_parts.h"
+#include "ui/program.h"
+#include "ui/qt_text.h"
+
+namespace idrova {
+
+FrmPMin::FrmPMin(Program& program)
+    : ChildWindow("FrmPMin", "Idrova - calculation data"),
+      program_(program),
+      Text1(TextField("Text1")),
+      Text2(TextField("Text2")) {
+    QPushButton* confirm = CommandButton("Command1", "OK", [this] { Command1_Click(); });
+    SetDefaultButton(confirm);
+    auto* rows = new FieldGrid;
+    rows->AddField("Base pressure", Text1, "[bar]");
+    rows->AddField("Fluid temperature", Text2, "[°C]", "Only for compressible fluids");
+    auto* column = new QVBoxLayout(this);
+    column->addLayout(rows);
+    column->addStretch(1);
+    column->addLayout(ButtonRow({confirm}));
+    const CalculationData shown = ShowCalculationData(program_.project);
+    Text1->setText(ToQt(shown.basePressure));
+    Text2->setText(ToQt(shown.temperature));
+    setFocusProxy(Text1);
+}
+
+void FrmPMin::Command1_Click() {
+    SetCalculationData(program_.project, {.basePressure = FromQt(Text1->text()),
+                                          .temperature = FromQt(Text2->text())});
+    program_.showSettings();
+    CloseWindow();
+}
+
+}  // namespace idrova

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/child_window.h"
+
+class QLineEdit;
+
+namespace idrova {
+
+struct Program;
+
+/// The calculation data: base pressure and fluid temperature.
+class FrmPMin : public ChildWindow {
+  public:
+    explicit FrmPMin(Program& program);
+
+  private:
+    void Command1_Click();
+
+    Program& program_;
+    QLineEdit* Text1;
+    QLineEdit* Text2;
+};
+
+}  // namespace idrova

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frm_start.h"
+
+#include <QGuiApplication>
+#include <QLocale>
+#include <QScreen>
+#include <clocale>
+#include <utility>
+
+#include "ui/frm_warn.h"
+
+namespace idrova {
+
+void SetDecimalPoint() {
+    QLocale::setDefault(QLocale::c());
+    std::setlocale(LC_NUMERIC, "C");
+}
+
+void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow, int splashMilliseconds) {
+    CheckScreen(QGuiApplication::primaryScreen()->size().width(), boxes);
+    // It deletes itself at its end.
+    new FrmWarn(splashMilliseconds, std::move(openMainWindow));
+}  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+
+}  // namespace idrova

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frm_warn.h"
+
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "shell/start_up.h"
+#include "ui/controls.h"
+#include "ui/logo_picture.h"
+#include "ui/qt_text.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr QSize kSize(420, 260);
+constexpr int kPictureSide = 160;
+
+}  // namespace
+
+FrmWarn::FrmWarn(int milliseconds, std::function<void()> ended)
+    : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), ended_(std::move(ended)) {
+    Named(this, "FrmWarn");
+    setWindowTitle("Idrova");
+    setFixedSize(kSize);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(LogoLabel(kPictureSide), 1);
+    for (const QString& text : {QString("Idrova"), ToQt(VersionLine())}) {
+        auto* line = new QLabel(text);
+        line->setAlignment(Qt::AlignCenter);
+        column->addWidget(line);
+    }
+    move(screen()->availableGeometry().center() - rect().center());
+    Timer1.setSingleShot(true);
+    connect(&Timer1, &QTimer::timeout, this, [this] { End(); });
+    Timer1.start(milliseconds);
+    show();
+    activateWindow();
+}
+
+void FrmWarn::mousePressEvent(QMouseEvent* /*event*/) {
+    End();
+}
+
+void FrmWarn::keyPressEvent(QKeyEvent* /*event*/) {
+    End();
+}
+
+void FrmWarn::End() {
+    if (!ended_) return;
+    Timer1.stop();
+    hide();
+    deleteLater();
+    std::exchange(ended_, nullptr)();
+}
+
+}  // namespace idrova

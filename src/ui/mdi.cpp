@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/mdi.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QScreen>
+#include <QUrl>
+
+#include "model/file_form.h"
+#include "physdata/fluids.h"
+#include "physdata/pipe_settings.h"
+#include "ui/child_window.h"
+#include "ui/child_windows.h"
+#include "ui/commands.h"
+#include "ui/controls.h"
+#include "ui/frm_com.h"
+#include "ui/frm_help.h"
+#include "ui/menu_bar.h"
+#include "ui/mode_windows.h"
+#include "ui/program.h"
+#include "ui/qt_text.h"
+#include "ui/status_line.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr QSize kPreferredSize(1360, 1080);
+
+void LoadStartState(Program& program) {
+    InitialiseProject(program.project);
+    program.roughnessLabel = StartRoughnessLabel(program.project);
+    LoadCurrentFluid(program.project, program.fluids, program.folder, program.boxes);
+    LoadComponentDatabases(program.components, program.folder, program.boxes);
+}
+
+/// The project file in what is being dragged; empty when there is none.
+std::filesystem::path DraggedProject(const QMimeData& data) {
+    for (const QUrl& url : data.urls()) {
+        if (url.isLocalFile() && url.fileName().endsWith(".iv")) {
+            return PathFromQt(url.toLocalFile());
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+MDI::MDI(Program& program)
+    : program_(program),
+      menu_(std::make_unique<MenuBar>(*menuBar())),
+      statusLine_(std::make_unique<StatusLine>(*statusBar(), program.boxes)),
+      windows_(new ChildWindows),
+      panel_(new FrmCom(program, this)),
+      hints_(new FrmHelp(this)) {
+    Named(this, "MDI");
+    setAcceptDrops(true);
+    setCentralWidget(windows_);
+    setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    addDockWidget(Qt::RightDockWidgetArea, panel_);
+    addDockWidget(Qt::BottomDockWidgetArea, hints_);
+    LoadStartState(program_);
+    AttachCommands(*this);
+    // A maximised child window would put its own caption into the title.
+    connect(this, &QWidget::windowTitleChanged, this, [this] { setWindowTitle(title_); });
+    PlaceOnScreen();
+    ShowTitle(kNewProject);
+    ShowMode();
+}
+
+MDI::~MDI() = default;
+
+void MDI::ShowMode() {
+    const std::string_view wanted = ViewOf(program_.project.Mode).window;
+    for (const std::string_view name : {"FrmCel", "FrmTable", "FrmSin"}) {
+        if (name != wanted) windows_->Close(name);
+    }
+    windows_->Open(
+        wanted, [&] { return MakeModeWindow(wanted, program_); }, ChildWindows::Place::FillsArea);
+    ShowSettings();
+}
+
+void MDI::ShowSettings() {
+    menu_->ShowChecks(program_.project, program_.shell);
+    panel_->ShowSettings();
+    statusLine_->ShowSettings(program_.project);
+    hints_->ShowHints(HintLines(program_.editor));
+    hints_->setVisible(program_.shell.HintsShown);
+}
+
+void MDI::ShowNetwork() {
+    ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
+    if (window != nullptr) window->ShowNetwork();
+}
+
+void MDI::TakeEdits() {
+    ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
+    if (window != nullptr) window->TakeEdits();
+}
+
+void MDI::ShowTitle(std::string_view name) {
+    title_ = ToQt(WindowTitle(name));
+    setWindowTitle(title_);
+}
+
+void MDI::ShowOutcome() {
+    if (program_.outcome) statusLine_->ShowOutcome(*program_.outcome);
+}
+
+void MDI::OpenFile(const std::filesystem::path& path) {
+    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path());
+    ClickFile(form, path.filename().string(), program_.boxes);
+    ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
+    program_.lastFolder = path.parent_path();
+}
+
+void MDI::dragEnterEvent(QDragEnterEvent* event) {
+    if (!DraggedProject(*event->mimeData()).empty()) event->acceptProposedAction();
+}
+
+void MDI::dropEvent(QDropEvent* event) {
+    event->acceptProposedAction();
+    OpenFile(DraggedProject(*event->mimeData()));
+}
+
+void MDI::PlaceOnScreen() {
+    const QRect available = screen()->availableGeometry();
+    resize(kPreferredSize.boundedTo(available.size()));
+    move(available.center().x() - width() / 2, available.top());
+}
+
+}  // namespace idrova

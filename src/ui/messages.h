@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "base/message_boxes.h"
+
+namespace idrova {
+
+constexpr FixedMessage kNoPrinter{
+    "No printer is set up\nDo you want to save the results as a PDF file ?", "Print",
+    BoxIcon::Exclamation, BoxButtons::YesNo};
+
+}  // namespace idrova

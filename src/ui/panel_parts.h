@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "editor/pipe_panel.h"
+
+class QRadioButton;
+
+namespace idrova {
+
+struct Program;
+
+/// What the frames of the command panel share.
+struct PanelContext {
+    Program& program;
+    PipePanel panel;                       ///< what the boxes hold
+    std::function<void()> show;            ///< shows `panel` in every frame
+    std::function<void()> redraw = [] {};  ///< something else than a typed number changed
+};
+
+/// A box for a typed number. Getting the focus selects its text, so that typing replaces it.
+class NumberBox : public QLineEdit {
+  public:
+    /// `typed` is called with the whole text at every change that does not come from `Show`.
+    NumberBox(const char* name, const std::function<void(std::string_view)>& typed);
+
+    /// Leaves the box, and the cursor in it, alone when it holds the text already.
+    void Show(const std::string& text);
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+};
+
+/// A box for a computed number.
+NumberBox* ResultBox(const char* name);
+
+/// The option buttons "Unknown" and "Value known", `name`_0 and `name`_1.
+class KnownChoice : public QWidget {
+  public:
+    KnownChoice(const char* name, const std::function<void(bool)>& chosen);
+
+    void Show(bool known);
+
+  private:
+    QRadioButton* unknown_;
+    QRadioButton* known_;
+};
+
+}  // namespace idrova

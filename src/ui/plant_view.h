@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGraphicsView>
+#include <functional>
+
+#include "editor/cell_click.h"
+#include "model/project.h"
+
+namespace idrova {
+
+/// Shows the whole drawing as large as the window allows, and turns mouse and keyboard into presses
+/// on places. Arrow keys move a cell cursor, Enter is the left button, the menu key or
+/// Shift+F10 the right one.
+class PlantView : public QGraphicsView {
+  public:
+    PlantView(QGraphicsScene* scene, const Project& project);
+
+    std::function<void(int place, MouseButton button)> press;
+    /// The mouse or the keyboard's cursor is on another place; 0 beside the grid.
+    std::function<void(int place)> hover;
+    std::function<void(int place)> moveCursor;
+    std::function<void()> abort;
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    int PlaceOf(const QPointF& position) const;
+    void MoveCursor(int columns, int rows);
+
+    const Project& project_;
+    int cursor_ = 1;
+};
+
+}  // namespace idrova

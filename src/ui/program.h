@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "base/message_boxes.h"
+#include "editor/editor_state.h"
+#include "hydraulics/compute_network.h"
+#include "hydraulics/work_network.h"
+#include "model/project.h"
+#include "physdata/component_lists.h"
+#include "physdata/fluids.h"
+#include "shell/shell_state.h"
+#include "table/table_texts.h"
+
+namespace idrova {
+
+/// All that the windows work on: the one project, the one working copy, and what the program
+/// remembers beside them. Large: keep it on the heap. Lives longer than every window.
+struct Program {
+    Program(std::filesystem::path workingFolder, MessageBoxes& messageBoxes)
+        : folder(std::move(workingFolder)), boxes(messageBoxes) {}
+
+    const std::filesystem::path folder;  ///< databases, results and configuration live here
+    MessageBoxes& boxes;
+    std::filesystem::path lastFolder;  ///< where the project file window starts
+
+    Project project;
+    WorkNetwork work;
+    TableTexts table;
+    FluidDb fluids;
+    ComponentLists components;
+    Editor editor;
+    ShellState shell;
+    std::string roughnessLabel;      ///< as the command panel shows it
+    std::optional<Outcome> outcome;  ///< of the last computation
+
+    HandOvers handOvers;
+    /// Shows the settings wherever they are shown: check marks, command panel, status bar. Every
+    /// window that changes a setting calls it.
+    std::function<void()> showSettings = [] {};
+    /// Shows the names of the pumps and of the losses wherever they can be chosen for insertion.
+    /// Every window that changes `components` calls it.
+    std::function<void()> showComponents = [] {};
+    /// Shows `outcome`. Every window that computes calls it.
+    std::function<void()> showOutcome = [] {};
+};
+
+}  // namespace idrova

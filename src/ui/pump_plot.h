@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include "physdata/pump_curve.h"
+
+class QCustomPlot;
+
+namespace idrova {
+
+/// The chart of a pump's curve: prevalence in m over the flow rate in kg/h.
+class PumpPlot : public QWidget {
+  public:
+    explicit PumpPlot(const char* name);
+
+    void ShowChart(const PumpChart& chart);
+
+  private:
+    QCustomPlot* plot_;
+};
+
+}  // namespace idrova

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/start_program.h"
+
+#include <QProcess>
+
+#include "ui/qt_text.h"
+
+namespace idrova {
+
+Status StartWithFile(const std::filesystem::path& program, const std::filesystem::path& file) {
+    QProcess process;
+    process.setProgram(PathToQt(program));
+    process.setArguments({PathToQt(file)});
+    process.setWorkingDirectory(PathToQt(file.parent_path()));
+    if (process.startDetached()) return Done{};
+    return Failure{program.string() + " can not be started: " + FromQt(process.errorString())};
+}
+
+}  // namespace idrova

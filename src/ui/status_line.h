@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <optional>
+
+#include "hydraulics/compute_network.h"
+#include "model/settings.h"
+
+class QLabel;
+class QStatusBar;
+class QToolButton;
+
+namespace idrova {
+
+/// The permanent part of the status bar: mode, fluid, and what became of the last computation.
+/// A click on the outcome shows all its notes.
+class StatusLine {
+  public:
+    StatusLine(QStatusBar& bar, MessageBoxes& boxes);
+    StatusLine(const StatusLine&) = delete;
+    StatusLine& operator=(const StatusLine&) = delete;
+
+    void ShowSettings(const Settings& settings);
+    void ShowOutcome(const Outcome& outcome);
+
+  private:
+    void ShowNotes();
+
+    MessageBoxes& boxes_;
+    QLabel* mode_;
+    QLabel* fluid_;
+    QToolButton* outcomeButton_;
+    Outcome outcome_;
+};
+
+}  // namespace idrova

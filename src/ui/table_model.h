@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QUndoStack>
+#include <functional>
+#include <string>
+
+#include "table/table_block.h"
+#include "table/table_texts.h"
+
+namespace idrova {
+
+struct Program;
+
+/// The rows of the table, 2 .. 100, for a Qt view; line 0 of the model shows row 2. Every change
+/// runs the rule of the cells and can be undone.
+class TableModel : public QAbstractTableModel {
+  public:
+    TableModel(Program& program, QObject* parent);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
+
+    /// `position` in the list of sizes, from 0.
+    void ChooseSize(const QModelIndex& cell, int position);
+
+    std::string Copy(const TableBlock& block) const;
+    void Paste(const QModelIndex& from, const std::string& text);
+    void Clear(const TableBlock& block);
+
+    /// Shows the table again. When it is another one than before, nothing can be undone any more.
+    void Refresh();
+
+    QUndoStack& Undo() { return undo_; }
+
+    static int RowOf(const QModelIndex& index);
+
+  private:
+    class Change;
+
+    void Apply(const QString& name, const std::function<void()>& edit);
+    void Announce();
+
+    Program& program_;
+    TableTexts shown_;
+    float shownUnit_;
+    QUndoStack undo_;
+};
+
+}  // namespace idrova

@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <sstream>
+
+#include "calc_process.h"
+
+namespace idrova {
+namespace {
+
+using testing::ContainsRegex;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+constexpr float kBar = kPascalPerBar;
+
+/// Two pipes in a row from 3 bar down to 1 bar, drawn and in the table.
+NetworkBuilder TwoPipes() {
+    NetworkBuilder network;
+    const int from = network.AddPoint(5, 5);
+    const int middle = network.AddPoint(10, 5);
+    const int to = network.AddPoint(10, 12);
+    network.AddPipe(from, middle);
+    network.AddPipe(middle, to);
+    network.SetPressure(from, 3 * kBar);
+    network.SetPressure(to, kBar);
+    network->TableRows[2] = {1, 3 * kBar, 2, 0, .1F, 100, 0, 0, 0, true};
+    network->TableRows[3] = {2, 0, 3, kBar, .1F, 100, 0, 0, 0, false, true};
+    return network;
+}
+
+class Calc : public CalcProcess {
+  protected:
+    Calc() { Put("plant.iv", *TwoPipes()); }
+};
+
+TEST_F(Calc, ReportIsPrintedAndWritten) {
+    const CalcResult run = Run("plant.iv");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.err, "");
+    EXPECT_EQ(run.out, FileBytes(folder / "out.dat"));
+    EXPECT_THAT(run.out, StartsWith("\r\n*******"));
+    EXPECT_THAT(run.out, HasSubstr((folder / "plant.iv").string()));
+
+    const CalcResult second = Run("--append plant.iv");
+    EXPECT_EQ(FileBytes(folder / "out.dat"), run.out + second.out);
+    std::filesystem::remove(folder / "out.dat");
+    EXPECT_EQ(Run("--no-report plant.iv").out, "");
+    EXPECT_FALSE(Has("out.dat"));
+}
+
+TEST_F(Calc, JsonTellsTheWholeRun) {
+    const CalcResult run = Run("--json --base-pressure -2.5 plant.iv");
+    EXPECT_EQ(run.status, 0);
+    EXPECT_TRUE(Has("out.dat"));
+    EXPECT_THAT(run.err, StartsWith("Pressure check: Some pressures are negative"));
+    EXPECT_EQ(std::ranges::count(run.err, '\n'), 1) << "one message, one line";
+
+    const Json json = run.Parsed();
+    EXPECT_EQ(json["outcome"], "settled");
+    EXPECT_GE(json["passes"][0], 2);
+    EXPECT_EQ(json["messages"][0]["title"], "Pressure check");
+    EXPECT_EQ(json["messages"][0]["icon"], "information");
+    EXPECT_EQ(json["pumps"], Json::array());
+    Json pipe = json["pipes"].at(1);
+    const double flow = pipe["flow_kg_s"];
+    const double speed = flow / 998.2 / (.1 * .1 * 3.1415 / 4);
+    EXPECT_NEAR(pipe["velocity_m_s"], speed, 1e-6 * speed);
+    EXPECT_NEAR(pipe["reynolds"], 998.2 * speed * .1 / .001002, 1);
+    EXPECT_NEAR(pipe["drop_Pa"], 101325, 30);
+    for (const char* key : {"velocity_m_s", "reynolds", "drop_Pa", "flow_kg_s"}) pipe.erase(key);
+    EXPECT_EQ(pipe, Json({{"number", 2}, {"from", 2}, {"to", 3}, {"known", false}}));
+    ASSERT_EQ(json["points"].size(), 3U);
+    EXPECT_EQ(json["points"][0], Json({{"number", 1}, {"pressure_Pa", 303975}, {"known", true}}))
+        << "without the base pressure";
+}
+
+TEST_F(Calc, SettingsReachTheReport) {
+    NetworkBuilder network = TwoPipes();
+    for (int i = 1; i <= 2; ++i) network->Pipes[i].OuterSize = .05F;
+    Put("plant.iv", *network);
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"", "Fluid: Water\r\nDensity [kg/mc]:             998.2 "},
+        {"--fluid 2", "Fluid: [2] Light oil\r\nDensity [kg/mc]:             850 "},
+        {"--fluid 'Light oil'", "Fluid: [2] Light oil\r\n"},
+        {"--density 700.5 --viscosity 2e-3", " 700.5        viscosity:     .002 "},
+        {"--roughness 2.5e-5", "Roughness[m]:                2.5E-05 "},
+        {"--section rectangular", "   Side b [mm]"},
+        {"--fluid 3 --equation compressible --temperature -10.5", "Compressible gas"},
+        {"--pressure-unit mbar", "Pressure [Pa],[mbar]         101325       1000."},
+        {"--mode table", "Mode: Table\r\n"},
+    };
+    for (const auto& [options, line] : cases) {
+        const CalcResult run = Run(options + " plant.iv");
+        EXPECT_EQ(run.status, 0) << options << run.err;
+        EXPECT_THAT(run.out, HasSubstr(line));
+    }
+}
+
+TEST_F(Calc, SettingsReachTheComputation) {
+    const auto flow = [this](const std::string& options) {
+        const Json json = Run("--json --fluid 3 " + options + " plant.iv").Parsed();
+        return json["pipes"].at(0)["flow_kg_s"].get<double>();
+    };
+    EXPECT_LT(flow("--roughness .002"), .9 * flow(""));
+    const double cold = flow("--equation compressible");
+    const double hot = flow("--equation compressible --temperature 273.15");
+    EXPECT_NEAR(cold / hot, std::sqrt(2), .01) << "twice the kelvin";
+    EXPECT_GT(flow("--equation compressible --base-pressure 3"), 1.2 * cold);
+    EXPECT_EQ(flow("--seed 5 --mode table"), flow("--seed 5"));
+    EXPECT_NE(flow("--seed 5"), flow("--seed 6"));
+}
+
+TEST_F(Calc, PumpConstantsComeFromTheDatabaseAndAreSaved) {
+    NetworkBuilder network;
+    const int from = network.AddPoint(5, 5);
+    const int suction = network.AddPoint(10, 5);
+    const int delivery = network.AddPoint(10, 5);
+    const int to = network.AddPoint(20, 5);
+    network.AddPipe(from, suction);
+    network.AddPipe(delivery, to);
+    network.AddComponent(suction, CellKind::Pump).Name = "Booster";
+    network->Cells[210].Param1 = -3000;
+    network.SetPressure(from, kBar);
+    network.SetPressure(to, 3 * kBar);
+    Put("pumped.iv", *network);
+
+    const CalcResult run = Run("--json --save solved.iv pumped.iv");
+    ASSERT_EQ(run.status, 0) << run.err;
+    const Json json = run.Parsed();
+    const double flow = json["pumps"].at(0)["flow_kg_s"];
+    const double lift = json["points"].at(2)["pressure_Pa"].get<double>() -
+                        json["points"].at(1)["pressure_Pa"].get<double>();
+    EXPECT_NEAR(lift, 400000 - 3000 * flow * flow, 40);
+    EXPECT_THAT(json["pumps"].dump(), HasSubstr(R"("in_range":true,"name":"Booster")"));
+    EXPECT_THAT(FileBytes(folder / "solved.iv"),
+                HasSubstr("pump constants\r\n 1 \r\n 210           400000 \r\n"));
+
+    std::filesystem::remove(folder / "pompe.dat");
+    EXPECT_EQ(Run("--json solved.iv").Parsed()["outcome"], "settled");
+    EXPECT_FALSE(Has("pompe.dat")) << "nothing is created";
+}
+
+TEST_F(Calc, SavingReplacesOnlyWhenForced) {
+    PutFile(folder / "old.iv", "old");
+    const CalcResult kept = Run("--save old.iv plant.iv");
+    EXPECT_EQ(kept.status, 2);
+    EXPECT_EQ(kept.err, "Save file: old.iv exists; --force replaces it\n");
+    EXPECT_EQ(FileBytes(folder / "old.iv"), "old");
+    EXPECT_EQ(Run("--save old.iv --force plant.iv").status, 0);
+    EXPECT_THAT(FileBytes(folder / "old.iv"), ContainsRegex(" 2026[0-9.]+ +210 "));
+}
+
+TEST_F(Calc, RefusalsSayWhyAndEndWithOne) {
+    NetworkBuilder open = TwoPipes();
+    open->PressureUnknown[3] = true;
+    open->TableRows[3].StartPoint = 5;
+    Put("open.iv", *open);
+    Put("empty.iv", *NetworkBuilder());
+    const std::vector<std::pair<std::string, std::string>> cases = {
+        {"open.iv", "Unsolving system:  5 Unknowns >  3 Equations + 1 Known terms Set  1 flow"},
+        {"--mode table open.iv", "Coherence check: The point numbers must run from 1 without"},
+        {"--equation compressible plant.iv", "The selected fluid is uncompressible\n"},
+        {"--section rectangular plant.iv", "Check: Pipe  1 with zero diameter\n"},
+        {"--data nowhere plant.iv", "Fluid: Select a fluid\n"},
+        {"empty.iv", "Nothing to compute\n"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const CalcResult run = Run(arguments);
+        EXPECT_EQ(run.status, 1) << arguments;
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, HasSubstr(message));
+        EXPECT_FALSE(Has("out.dat") || Has("nowhere"));
+    }
+    EXPECT_EQ(Run("--json empty.iv").Parsed()["outcome"], "empty");
+    EXPECT_EQ(Run("--json open.iv").Parsed()["outcome"], "refused");
+}
+
+TEST_F(Calc, WrongUseAndUnusableFilesEndWithTwo) {
+    PutFile(folder / "letters.iv", "2.6.3\r\nnumtubo\r\nmany\r\n");
+    PutFile(folder / "old.iv", "2.4\r\n");
+    for (const char* name : {"blocked/out.dat", "broken/fluidi.dat", "nopumps/pompe.dat"}) {
+        std::filesystem::create_directories(folder / name);
+    }
+    std::istringstream wrong(
+        R"(missing.iv;letters.iv;old.iv;blocked;plant.iv plant.iv;--unknown plant.iv;
+--mode single plant.iv;--roughness 1mm plant.iv;--roughness -1 plant.iv;--seed x plant.iv;
+--temperature -274 plant.iv;--density 1 plant.iv;--density nan --viscosity 1 plant.iv;
+--viscosity 1 plant.iv;--force plant.iv;--fluid 4 plant.iv;--fluid Wine plant.iv;
+--fluid 1 --density 1 --viscosity 1 plant.iv;--data broken plant.iv;
+--data nopumps --density 1 --viscosity 1e-5 plant.iv;
+--data blocked --density 1 --viscosity 1e-5 plant.iv;--save nowhere/x.iv plant.iv;)");
+    for (std::string arguments; std::getline(wrong >> std::ws, arguments, ';');) {
+        const CalcResult run = Run(arguments);
+        EXPECT_EQ(run.status, 2) << arguments;
+        EXPECT_NE(run.err, "") << arguments;
+    }
+    EXPECT_EQ(Run("").status, 2);
+}
+
+TEST_F(Calc, ResultsThatAreNoSolutionEndWithThree) {
+    NetworkBuilder network = TwoPipes();
+    network.SetFlow(1, 0);
+    network.SetPressure(2, 3 * kBar);
+    const int from = network.AddPoint(20, 20);
+    network.AddPipe(from, network.AddPoint(30, 20));
+    Put("singular.iv", *network);
+    const CalcResult run = Run("--json singular.iv");
+    EXPECT_EQ(run.status, 3);
+    EXPECT_EQ(run.Parsed()["outcome"], "singular");
+    EXPECT_THAT(run.err, HasSubstr("Pipe 1 has its flow and both end pressures given"));
+}
+
+TEST_F(Calc, HelpAndVersionEndWell) {
+    EXPECT_EQ(Run("--version").out, "idrova-calc 2.6.3\n");
+    EXPECT_EQ(Run("--help").status, 0);
+}
+
+}  // namespace
+}  // namespace idrova

@@ -1,0 +1,5 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QString>
+
+#include "base/result.h"
+#include "physdata/fluids.h"

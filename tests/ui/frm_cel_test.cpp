@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include <QLabel>
+#include <QScrollBar>
+#include <QStatusBar>
+
+#include "drawing_window.h"
+#include "editor/messages.h"
+#include "model/messages.h"
+
+namespace idrova {
+namespace {
+
+/// Where the ends of a pipe lie, as cells.
+std::pair<int, int> CellsOf(const Project& project, int pipe) {
+    const PipeRec& record = project.Pipes[pipe];
+    return {project.Points[record.StartPoint].Cell, project.Points[record.EndPoint].Cell};
+}
+
+TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
+    constexpr std::pair<int, int> cells[] = {{1, 50}, {2451, 2500}, {1, 2451}, {50, 2500}};
+    for (const QSize size : {QSize(1900, 1050), QSize(900, 1000), QSize(700, 620)}) {
+        mdi->resize(size);
+        QApplication::processEvents();
+        ResetProject(project, program->handOvers);
+        Draw(1, 1, 50, 1);
+        Draw(1, 50, 50, 50);
+        Draw(1, 1, 1, 50);
+        Draw(50, 1, 50, 50);
+        ASSERT_EQ(project.numtubo, 4);
+        for (int i = 1; i <= 4; ++i) EXPECT_EQ(CellsOf(project, i), cells[i - 1]);
+        EXPECT_EQ(LinesDrawn(), 4);
+    }
+}
+
+TEST_F(DrawingWindow, ADoubleClickIsTwoClicks) {
+    boxes.Expect(kLengthZero);
+    Click(5, 5);
+    const ScreenPoint centre = CellCentre(project, CellAt(5, 5, project.GridSize));
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, {},
+                       View().mapFromScene(QPointF(centre.x, centre.y)));
+    EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
+}
+
+TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
+    QWidget& view = View();
+    view.setFocus(Qt::TabFocusReason);
+    const auto keys = [&view](std::initializer_list<Qt::Key> pressed) {
+        for (const Qt::Key key : pressed) QTest::keyClick(&view, key);
+    };
+    keys({Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return});
+    keys({Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Enter});
+    ASSERT_EQ(project.numtubo, 1);
+    EXPECT_EQ(CellsOf(project, 1), (std::pair{102, 104}));
+    EXPECT_EQ(mdi->statusBar()->currentMessage(), "Column 4, row 3 (cell 104)");
+    keys({Qt::Key_Left, Qt::Key_Menu});
+    EXPECT_TRUE(program->editor.pipeSelected);
+    keys({Qt::Key_Return, Qt::Key_Escape, Qt::Key_Escape});
+    EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
+    EXPECT_NE(Window("FrmCel"), nullptr);
+    Click(9, 9);  // the mouse takes the cursor along
+    keys({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(CellsOf(project, 2).second, CellAt(9, 10, 50));
+}
+
+TEST_F(DrawingWindow, ScrollsWithItsBars) {
+    Draw(2, 5, 8, 5);
+    auto& bar = Child<QScrollBar>("ScrX");
+    EXPECT_EQ(bar.minimum(), 1);
+    EXPECT_EQ(bar.maximum(), 250);
+    bar.setValue(9);
+    EXPECT_EQ(LinesDrawn(), 0);
+    Child<QScrollBar>("ScrY").setValue(3);
+    Draw(1, 1, 1, 4);
+    EXPECT_EQ(CellsOf(project, 2), (std::pair{CellAt(9, 3, 50), CellAt(9, 6, 50)}));
+    boxes.Expect(kLeaveProject);
+    Choose("Nuovo");
+    EXPECT_EQ(bar.value(), 1);
+    EXPECT_EQ(LinesDrawn(), 0);
+}
+
+TEST_F(DrawingWindow, HintsFollowTheClicks) {
+    const auto hint = [this] { return Child<QLabel>("Label2", &Child<QWidget>("FrmHelp")).text(); };
+    EXPECT_EQ(hint(), "first point of a pipe");
+    Click(5, 5);
+    EXPECT_EQ(hint(), "end point of the pipe");
+    Select(1, 1);
+    Press("Command3");
+    EXPECT_EQ(hint(), "insert selected component");
+}
+
+TEST_F(DrawingWindow, ShowsNoComponentWithoutItsIcon) {
+    Draw(2, 5, 8, 5);
+    Select(1, 1);
+    Press("Command3");
+    const ScreenPoint centre = CellCentre(project, CellAt(5, 5, 50));
+    const QRect arrow(View().mapFromScene(QPointF(centre.x - 80, centre.y - 50)), QSize(1, 1));
+    const auto pixel = [&] { return View().grab(arrow).toImage().pixel(0, 0); };
+    const QRgb before = pixel();
+    Click(5, 5);
+    EXPECT_NE(pixel(), before);
+}
+
+}  // namespace
+}  // namespace idrova
