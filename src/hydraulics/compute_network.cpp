@@ -52,7 +52,7 @@ PassReport ProgressReport(const RunServices& services) {
 }
 
 bool MayRun(const Project& project, const WorkNetwork& work, bool singlePipe, MessageBoxes& boxes) {
-    return FluidIsChosen(project, boxes) &&
+    return FluidIsChosen(project, boxes) && GasLawApplies(project, boxes) &&
            (singlePipe || PipeDataAreComplete(project, work, boxes));
 }
 
@@ -81,7 +81,8 @@ void DescribeResiduals(const WorkNetwork& work, const StageResult& result, Outco
     outcome.residual = result.residual;
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeResidual& pipe = result.pipes[i];
-        if (pipe.settled || pipe.relative <= outcome.worstResidual) continue;
+        if (pipe.settled) continue;
+        if (outcome.worstPipe != 0 && pipe.relative <= outcome.worstResidual) continue;
         outcome.worstResidual = pipe.relative;
         outcome.worstPipe = i;
     }
@@ -110,7 +111,6 @@ Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
     result.singular = result.singular || PipeWithoutGivenPressure(plan, work) != 0;
     outcome.end = EndOf(result);
     if (outcome.end == RunEnd::NotFinite) {
-        services.endProgress();
         boxes.Show(kDoesNotSettle);
         return outcome;
     }
@@ -119,7 +119,6 @@ Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
     outcome.notes = ResultNotes(project, plan, work, result);
     StoreResults(project, plan, work, result, ofDrawing);
     services.writeReport();
-    services.endProgress();
 
     CheckWorkingPoints(project, plan, boxes);
     if (!singlePipe) AddBasePressure(project, work, boxes);

@@ -28,7 +28,7 @@ struct Outcome {
     RunEnd end = RunEnd::Refused;
     std::array<int, 2> passes{};     ///< of the first and of the second stage; 0 when not run
     double residual = 0;             ///< summed relative residual of the last pass
-    double worstResidual = 0;        ///< the largest residual of one pipe, relative
+    double worstResidual = 0;        ///< the largest residual of an unsettled pipe
     int worstPipe = 0;               ///< its number; 0 when every pipe has settled
     std::vector<std::string> notes;  ///< what the user should know, in plain words
 };
@@ -47,8 +47,7 @@ struct RunServices {
     MessageBoxes& boxes;
     std::function<void()> writeReport = [] {};  ///< called once, with the results stored
     std::function<void(const RunProgress&)> showProgress = [](const RunProgress&) {};
-    std::function<void()> endProgress = [] {};  ///< after the report, before the last messages
-    std::optional<std::uint32_t> seed;          ///< of the start values; from the clock when absent
+    std::optional<std::uint32_t> seed;  ///< of the start values; from the clock when absent
 };
 
 /// One whole run on the working copy: checks, iteration, results into the copy and (in graphic

@@ -35,10 +35,12 @@ class Stage {
             SolvePass();
             if (!result_.finite) return std::move(result_);
             const bool guessesRest = Relax();
+            const bool componentsRest = FindIdleComponents();
             const bool pressuresRest = RefreshMeanPressures();
             report(result_.passes, result_.residual);
             ended = result_.passes > kPassLimit ||
-                    (pressuresRest && (result_.residual < kTotalTolerance || guessesRest));
+                    (pressuresRest && componentsRest &&
+                     (result_.residual < kTotalTolerance || guessesRest));
         }
         KeepGivenValues();
         CheckSolution(project_, plan_, work_, state_, result_);
@@ -102,6 +104,21 @@ class Stage {
             state_.guess[i] = (q + state_.guess[i]) / 2;
             atRest = false;
         });
+        return atRest;
+    }
+
+    /// Without flow a pipe's law holds at any guess, which then never moves; the row of a component
+    /// on it has to be taken at no flow. True when no row changed its place.
+    bool FindIdleComponents() {
+        if (result_.rows == ComponentRows::Lagged) return true;
+        bool atRest = true;
+        for (const Component& component : plan_.components) {
+            const int i = component.pipeA;
+            if (i == 0 || !work_.WorkFlowUnknown[i]) continue;
+            const bool idles = result_.Flow(plan_, i) == 0 && state_.guess[i] != 0;
+            if (idles != state_.componentIdles[i]) atRest = false;
+            state_.componentIdles[i] = idles;
+        }
         return atRest;
     }
 

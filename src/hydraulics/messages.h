@@ -10,6 +10,8 @@ namespace idrova {
 constexpr FixedMessage kSelectAFluid{"Select a fluid", "Fluid"};
 constexpr FixedMessage kNotCompressible{"The selected fluid is uncompressible",
                                         "Compressibilitynot defined"};
+constexpr FixedMessage kTooCold{"The temperature is not above absolute zero (-273.15 °C)",
+                                "Calculation data"};
 constexpr FixedMessage kChangeDirections{
     "Do you want to change direction to all the flow rates so they are all positive ?",
     "Flow rates direction", BoxIcon::Question, BoxButtons::OkCancel};

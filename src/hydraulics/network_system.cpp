@@ -162,7 +162,8 @@ class Assembly {
         ++row_;
         if (component.high == 0) return;
         const PipeRec& pipeA = work_.WorkPipes[component.pipeA];
-        const double flow = WorkingFlow(component.pipeA);
+        const bool idles = rows_ == ComponentRows::Sloped && state_.componentIdles[component.pipeA];
+        const double flow = idles ? 0 : WorkingFlow(component.pipeA);
         const PressureJump jump =
             JumpAt(project_, project_.Cells[component.cell], component, pipeA, flow, rows_);
         Add(plan_.pressureUnknown[component.high], 1);

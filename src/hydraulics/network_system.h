@@ -35,6 +35,8 @@ struct PassState {
     std::array<double, kMaxPipes + 1> guess{};         ///< Q, kg/s
     std::array<float, kMaxPipes + 1> resistance{};     ///< R = drop / |Q|, Pa s/kg
     std::array<double, kMaxPipes + 1> meanPressure{};  ///< absolute, Pa; used for gases
+    /// The sloped row of a component on this pipe is taken at no flow, not at the guess.
+    std::array<bool, kMaxPipes + 1> componentIdles{};
 };
 
 /// Fills the system for one pass: pipe laws (given flows, then unknown ones linearised with R),

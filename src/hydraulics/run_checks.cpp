@@ -41,6 +41,19 @@ bool FluidIsChosen(const Settings& settings, MessageBoxes& boxes) {
     return false;
 }
 
+bool GasLawApplies(const Settings& settings, MessageBoxes& boxes) {
+    if (settings.EquationType == Equation::Incompressible) return true;
+    if (settings.FluidCompressibility == 0) {
+        boxes.Show(kNotCompressible);
+        return false;
+    }
+    if (settings.FluidTemperature <= -kCelsiusToKelvin) {
+        boxes.Show(kTooCold);
+        return false;
+    }
+    return true;
+}
+
 bool PipeDataAreComplete(const Project& project, const WorkNetwork& work, MessageBoxes& boxes) {
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];

@@ -12,6 +12,9 @@ namespace idrova {
 
 bool FluidIsChosen(const Settings& settings, MessageBoxes& boxes);
 
+/// The compressible equation is chosen for a gas only, at a temperature that there is.
+bool GasLawApplies(const Settings& settings, MessageBoxes& boxes);
+
 /// No drawn pipe has zero length or zero diameter (in a rectangular section: a zero side).
 bool PipeDataAreComplete(const Project& project, const WorkNetwork& work, MessageBoxes& boxes);
 

@@ -9,7 +9,6 @@ namespace {
 constexpr double kLengthStep = 1;      ///< m
 constexpr double kPressureStep = 0.1;  ///< bar
 constexpr double kFlowStep = 100;      ///< kg/h
-constexpr std::int16_t kDrawn = 10;    ///< any place on the drawing: the record takes part
 
 /// A quantity in the unit of its box.
 double BoxValue(const SinglePipe& pipe, PipeQuantity quantity) {
@@ -45,7 +44,7 @@ double StepOf(PipeQuantity quantity) {
 
 void SetPoint(WorkNetwork& work, int point, double bar, bool unknown) {
     work.WorkPoints[point].Pressure = ToSingle(bar * kPascalPerBar);
-    work.WorkPoints[point].X = kDrawn;
+    work.WorkPoints[point].X = kAnyPlace;
     work.WorkPressureUnknown[point] = unknown;
 }
 
@@ -111,7 +110,7 @@ void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work) {
     record.FlowFromPoint = pipe.direction == FlowDirection::From1To2 ? 1 : 2;
     record.Z1 = 0;
     record.Z2 = 0;
-    record.X1 = kDrawn;
+    record.X1 = kAnyPlace;
     SetPoint(work, 1, pipe.pressure1, pipe.unknown == PipeQuantity::PressureAt1);
     SetPoint(work, 2, pipe.pressure2, pipe.unknown == PipeQuantity::PressureAt2);
     work.WorkFlowUnknown[1] = pipe.unknown == PipeQuantity::FlowRate;

@@ -108,25 +108,27 @@ class Check {
         const double linearised = pipe.DirectionSign() * resistance * Flow(i);
         const bool fits = std::abs(headLoss - drop) <= PressureTolerance();
         const bool idles = Idles(i) && std::abs(headLoss - linearised) <= PressureTolerance();
-        residual.belowVacuum = IsBelowVacuum(i);
+        const double missing = PressureBelowBound(i);
+        residual.belowVacuum = missing > kMeanPressureTolerance;
         residual.settled = residual.meanPressureShift <= kMeanPressureTolerance &&
                            !residual.belowVacuum && (fits || idles);
         if (residual.settled) return;
         result_.settled = false;
-        residual.relative = std::max(residual.relative, residual.meanPressureShift);
+        residual.relative = std::max({residual.relative, residual.meanPressureShift, missing});
         if (!fits && drop != 0) {
             residual.relative = std::max(residual.relative, std::abs(headLoss / drop - 1));
         }
     }
 
-    /// The mean pressure of the gas law was held at its bound: there is no such flow.
-    bool IsBelowVacuum(int i) const {
-        if (project_.EquationType != Equation::Compressible) return false;
+    /// How far the solution lies below the bound at which the mean pressure of the gas law was
+    /// held, relative: there is no such flow.
+    double PressureBelowBound(int i) const {
+        if (project_.EquationType != Equation::Compressible) return 0;
         const PipeRec& pipe = work_.WorkPipes[i];
         const double mean =
             kAtmosphere + project_.BasePressure +
             (result_.Pressure(plan_, pipe.StartPoint) + result_.Pressure(plan_, pipe.EndPoint)) / 2;
-        return mean < state_.meanPressure[i] * (1 - kMeanPressureTolerance);
+        return 1 - mean / state_.meanPressure[i];
     }
 
     bool Idles(int i) const {

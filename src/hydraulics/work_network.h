@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 
 #include "model/project.h"
 
@@ -19,6 +20,9 @@ struct WorkNetwork {
     int WorkPointCount = 0;
     int EquationCount = 0;  ///< equations of the last run
 };
+
+/// Where the records of pipes and points that are on no drawing stand, so that they take part.
+constexpr std::int16_t kAnyPlace = 10;
 
 /// Copies the drawn network, deleted slots included.
 void CopyNetwork(const Project& project, WorkNetwork& work);

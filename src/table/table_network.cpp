@@ -10,9 +10,6 @@
 namespace idrova {
 namespace {
 
-/// Marks a record as taking part in the computation; table records have no place on a drawing.
-constexpr std::int16_t kOnTable = 10;
-
 using Rows = std::span<const TableRowRec>;
 
 /// Rows up to the first one that misses a point.
@@ -66,7 +63,7 @@ PipeRec PipeFromRow(const TableRowRec& row) {
     pipe.FlowFromPoint = row.StartPoint;
     pipe.Z1 = ToInt16(row.RowZ1);
     pipe.Z2 = ToInt16(row.RowZ2);
-    pipe.X1 = kOnTable;
+    pipe.X1 = kAnyPlace;
     return pipe;
 }
 
@@ -74,7 +71,7 @@ void SetPoint(WorkNetwork& work, int number, float pressure, const std::string& 
     PointRec& point = work.WorkPoints[number];
     point = PointRec();
     point.Pressure = pressure;
-    point.X = kOnTable;
+    point.X = kAnyPlace;
     work.WorkPressureUnknown[number] = cellText.empty();
 }
 
