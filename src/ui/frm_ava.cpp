@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QScreen>
+#include <algorithm>
 #include <cmath>
 
 #include "ui/controls.h"

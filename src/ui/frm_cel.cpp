@@ -33,6 +33,7 @@ FrmCel::FrmCel(Program& program)
     ScrX->setAccessibleName("First column shown");
     ScrY->setAccessibleName("First row shown");
     setFocusProxy(view_);
+    StayOnEscape();
     ConnectView();
     ShowNetwork();
 }

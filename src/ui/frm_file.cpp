@@ -6,6 +6,7 @@
 #include <QFormLayout>
 #include <QGridLayout>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -23,6 +24,15 @@ namespace {
 
 constexpr const char* kParentFolder = "..";
 
+/// Return opens the folder and stays in the list: it does not confirm the form as well.
+class FolderList final : public QListWidget {
+  protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        QListWidget::keyPressEvent(event);
+        if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) event->accept();
+    }
+};
+
 /// Writes a text without taking it for the user's.
 void ShowText(QLineEdit& field, const std::string& text) {
     const QSignalBlocker quiet(field);
@@ -36,7 +46,7 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose)
       program_(program),
       form_(StartFileForm(purpose, program.lastFolder)),
       Drive1(Named(new QComboBox, "Drive1")),
-      Dir1(Named(new QListWidget, "Dir1")),
+      Dir1(Named<QListWidget>(new FolderList, "Dir1")),
       File1(Named(new QListWidget, "File1")),
       Text1(Named(new QLineEdit, "Text1")),
       Text2(Named(new QLineEdit, "Text2")),
@@ -98,7 +108,6 @@ QWidget* FrmFile::MakeButtons() {
 
 void FrmFile::FillDrives() {
     for (const std::string& drive : Drives()) Drive1->addItem(ToQt(drive));
-    Drive1->setCurrentText(ToQt(DriveOf(form_.folder, Drives())));
 }
 
 void FrmFile::ConnectControls() {
@@ -117,9 +126,10 @@ void FrmFile::ConnectControls() {
             [this](const QString& text) { form_.Text4 = FromQt(text); });
     connect(File1, &QListWidget::itemClicked, this,
             [this](const QListWidgetItem* item) { File1_Click(item->text()); });
-    connect(File1, &QListWidget::currentTextChanged, this, [this](const QString& name) {
+    connect(File1, &QListWidget::itemSelectionChanged, this, [this] {
         // A press of the mouse becomes a click; here it is the keyboard that moves along.
-        if (!name.isEmpty() && QGuiApplication::mouseButtons() == Qt::NoButton) File1_Click(name);
+        if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
+        for (const QListWidgetItem* item : File1->selectedItems()) File1_Click(item->text());
     });
     connect(File1, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) {
         DoubleClickFile(form_, FromQt(item->text()));
@@ -141,6 +151,7 @@ void FrmFile::ShowFolder() {
     Dir1->addItems(
         folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
     Dir1->setToolTip(ToQt(form_.folder));
+    Drive1->setCurrentText(ToQt(DriveOf(form_.folder, Drives())));
     ShowFiles();
 }
 

@@ -4,7 +4,6 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <utility>
 
 #include "shell/start_up.h"
@@ -50,8 +49,9 @@ QWidget* FrmLogo::MakeContent() {
 void FrmLogo::OpenFurther() {
     QWidget& frame = *parentWidget();
     const QSize full = kFullSize + (frame.size() - size());
-    const QSize next(std::min(full.width(), frame.width() + static_cast<int>(kStep)),
-                     std::min(full.height(), frame.height() + static_cast<int>(kStep)));
+    reached_ = reached_.isEmpty() ? QSizeF(frame.size()) : reached_;
+    reached_ = (reached_ + QSizeF(kStep, kStep)).boundedTo(full);
+    const QSize next = reached_.toSize();
     const QPoint centre = frame.geometry().center();
     frame.resize(next);
     QRect centred = frame.geometry();

@@ -19,6 +19,7 @@ class FrmLogo : public ChildWindow {
     void OpenFurther();
 
     QTimer Timer1;
+    QSizeF reached_;    ///< of the frame so far
     QWidget* content_;  ///< at its full size from the start; the window uncovers it
 };
 

@@ -57,6 +57,8 @@ MDI::MDI(Program& program)
       hints_(new FrmHelp(this)) {
     Named(this, "MDI");
     setAcceptDrops(true);
+    // The menu of docks would show the hint window behind the back of its menu item.
+    setContextMenuPolicy(Qt::PreventContextMenu);
     setCentralWidget(windows_);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDockWidget(Qt::RightDockWidgetArea, panel_);

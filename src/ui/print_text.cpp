@@ -4,12 +4,15 @@
 #include <QBuffer>
 #include <QFileDialog>
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QTextDocument>
+#include <QTextOption>
 #include <algorithm>
+#include <cmath>
 
 #include "base/file.h"
 #include "ui/messages.h"
@@ -21,22 +24,31 @@ namespace {
 
 constexpr double kLargestPoints = 10;
 constexpr double kSmallestPoints = 4;
-constexpr double kMarginsMillimetres = 40;  ///< both together, as text documents print
-constexpr double kPointsPerMillimetre = 72 / 25.4;
-constexpr double kWidthOfLetter = 0.61;  ///< of a fixed font, in parts of its size
+constexpr double kMarginsInches = 4 / 2.54;  ///< both together, inside those of the device
 constexpr QChar kNominalSizeMark = u'\x16';
 
-qsizetype LongestLine(const QString& text) {
+/// Without the blanks at its end; at least one letter.
+QString LongestLine(const QString& text) {
     qsizetype longest = 1;
-    for (const QString& line : text.split('\n')) longest = std::max(longest, line.size());
-    return longest;
+    for (const QString& line : text.split('\n')) {
+        longest = std::max(longest, ("x" + line).trimmed().size() - 1);
+    }
+    return QString(longest, 'x');
+}
+
+QTextOption Unwrapped() {
+    QTextOption option;
+    option.setWrapMode(QTextOption::NoWrap);
+    return option;
 }
 
 /// The size at which the longest line just fits the page.
-QFont FittingFont(const QString& text, double pageMillimetres) {
+QFont FittingFont(const QString& text, QPagedPaintDevice& device) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    const double width = (pageMillimetres - kMarginsMillimetres) * kPointsPerMillimetre;
-    const double points = width / (kWidthOfLetter * static_cast<double>(LongestLine(text)));
+    font.setPointSizeF(kLargestPoints);
+    const double width = device.width() - kMarginsInches * device.logicalDpiX();
+    const double needed = QFontMetricsF(font, &device).horizontalAdvance(LongestLine(text));
+    const double points = std::floor(10 * kLargestPoints * width / needed) / 10;
     font.setPointSizeF(std::clamp(points, kSmallestPoints, kLargestPoints));
     return font;
 }
@@ -45,8 +57,8 @@ void PrintOn(QPagedPaintDevice& device, const std::string& text) {
     QString lines = ToQt(text).remove('\r');
     lines.replace(kNominalSizeMark, ' ');  // paper would show it as an empty box
     QTextDocument document;
-    document.setDefaultFont(
-        FittingFont(lines, device.pageLayout().fullRect(QPageLayout::Millimeter).width()));
+    document.setDefaultFont(FittingFont(lines, device));
+    document.setDefaultTextOption(Unwrapped());
     document.setPlainText(lines);
     document.print(&device);
 }
