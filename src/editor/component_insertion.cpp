@@ -75,6 +75,10 @@ CellRec ComponentRecord(const ComponentChoice& choice, InsertState state, const 
     return cell;
 }
 
+InsertState ArmedFor(CellKind kind) {
+    return kind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
+}
+
 }  // namespace
 
 void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind kind) {
@@ -85,7 +89,7 @@ void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind k
     if (!armed) return;
     AbortInsertion(editor);
     if (editor.componentPosition < 0) return;
-    editor.state = kind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
+    editor.state = ArmedFor(kind);
 }
 
 void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position) {
@@ -111,7 +115,7 @@ void ArmInsertion(Editor& editor, MessageBoxes& boxes) {
         return;
     }
     AbortInsertion(editor);
-    editor.state = editor.componentKind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
+    editor.state = ArmedFor(editor.componentKind);
 }
 
 void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {

@@ -16,8 +16,9 @@ std::string LabelText(const Project& project, int number) {
     return "P" + GeneralText(number) + "=" + FormatNumber(shown, "##.###");
 }
 
-/// A point in the column of one labelled before has its label above, so that the two stay apart;
-/// of those that would still hide each other, each stands above the one before.
+/// A point in the column of one labelled before has its label above, so that the two stay apart,
+/// where there is room above the grid; of those that would still hide each other, each stands
+/// further away than the one before.
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
     const int half = project.Grid.CellWidth / 2;
     std::set<int> columns;
@@ -27,7 +28,12 @@ void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& s
         if (!point.IsDrawn()) continue;
         const bool below = columns.insert(point.X).second;
         ScreenPoint corner{point.X + half, below ? point.Y + half : point.Y - 6 * half};
-        while (!taken.insert({corner.x, corner.y}).second) corner.y -= 2 * half;
+        int step = -2 * half;
+        if (Shown(project, editor, corner).y < project.Grid.GridTop - 2 * half) {
+            corner.y = point.Y + half;
+            step = 2 * half;
+        }
+        while (!taken.insert({corner.x, corner.y}).second) corner.y += step;
         if (!IsOnGrid(project, Shown(project, editor, {point.X, point.Y}))) continue;
         surface.TextLabel(
             Shown(project, editor, corner), LabelText(project, i),

@@ -102,7 +102,9 @@ void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_vie
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
     const std::int16_t height = ToInt16(ReadNumber(text));
-    PanelOf(panel, end).height = ReadNumber(text) > 0 ? text : "0";
+    // "0.5" begins with a zero: putting another in its place would make "05" of it.
+    const bool begins = text.starts_with("0") && ReadNumber(text) == 0;
+    PanelOf(panel, end).height = ReadNumber(text) > 0 || begins ? text : "0";
     (end == PipeEnd::Start ? pipe->Z1 : pipe->Z2) = std::max<std::int16_t>(height, 0);
 }
 

@@ -45,7 +45,7 @@ struct PipePanel {
 /// The data of `CurrentPipe`; empty boxes when there is none.
 PipePanel ShowPipeData(const Project& project);
 
-/// The flow frame alone: flow rate of `CurrentPipe` as given or computed.
+/// The flow frame alone: flow rate of the panel's pipe as given or computed.
 void ShowFlow(const Project& project, PipePanel& panel);
 
 /// A point's pressure as given or computed.

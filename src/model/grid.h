@@ -26,6 +26,8 @@ constexpr int CellAt(int column, int row, int gridSize) {
     return column + (row - 1) * gridSize;
 }
 
+constexpr double kStartZoom = 12288.0 / 13260;
+
 /// Sizes the cells for `zoom` (1 is 300 screen units; made even) and returns the zoom used.
 double SetGridScale(GridGeometry& grid, double zoom);
 

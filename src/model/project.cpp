@@ -44,6 +44,7 @@ void InitialiseProject(Project& project) {
     if (project.ProjectName.empty()) project.ProjectName = kNewProject;
     project.ProjectDescription.clear();
     project.GridSize = 50;
+    SetGridScale(project.Grid, kStartZoom);
     ClearNetwork(project);
 }
 
