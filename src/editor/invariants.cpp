@@ -106,7 +106,6 @@ void CheckEditor(const Project& project, const Editor& editor, Faults& faults) {
 std::vector<std::string> BrokenInvariants(const Project& project, const Editor& editor) {
     Faults faults = BrokenInvariants(project);
     if (!faults.empty()) return faults;
-    CheckPipes(project, faults);
     CheckPoints(project, faults);
     CheckEditor(project, editor, faults);
     if (!faults.empty()) return faults;

@@ -10,9 +10,9 @@
 namespace idrova {
 
 /// What must hold after every action on the drawing and does not, in plain words: what must hold
-/// for the tables (model/invariants.h), every live pipe runs straight between its points, points
-/// share no cell (a component's two excepted), crossed cells and node marks follow from pipes and
-/// points, components stand between two pieces, what is drawn is what the project holds.
+/// for the tables (model/invariants.h), points share no cell (a component's two excepted), crossed
+/// cells and node marks follow from pipes and points, components stand between two pieces, what is
+/// drawn is what the project holds.
 std::vector<std::string> BrokenInvariants(const Project& project, const Editor& editor);
 
 /// True when the project, written to a file and read again, is written the same.

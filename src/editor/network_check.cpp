@@ -5,18 +5,10 @@
 #include <vector>
 
 #include "base/number_text.h"
-#include "editor/pipe_ends.h"
+#include "model/grid.h"
 
 namespace idrova {
 namespace {
-
-void CheckEnd(const Project& project, int number, PipeEnd end, Faults& faults) {
-    const PipeRec& pipe = project.Pipes[number];
-    const PointRec& point = project.Points[PointAt(pipe, end)];
-    if (PlaceOf(pipe, end) != ScreenPoint{point.X, point.Y}) {
-        faults.push_back(Named("a point lies beside the end of pipe", number));
-    }
-}
 
 int PipesAt(const Project& project, int point) {
     int ends = 0;
@@ -75,18 +67,6 @@ void CheckCell(const Project& project, int number, int points, int crossing, Fau
 
 std::string Named(const char* what, int number) {
     return what + (" " + GeneralText(number));
-}
-
-void CheckPipes(const Project& project, Faults& faults) {
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
-        CheckEnd(project, i, PipeEnd::Start, faults);
-        CheckEnd(project, i, PipeEnd::End, faults);
-        if ((pipe.X1 == pipe.X2) == (pipe.Y1 == pipe.Y2)) {
-            faults.push_back(Named("neither horizontal nor vertical: pipe", i));
-        }
-    }
 }
 
 void CheckPoints(const Project& project, Faults& faults) {

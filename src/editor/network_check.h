@@ -10,9 +10,7 @@ namespace idrova {
 
 using Faults = std::vector<std::string>;
 
-/// How pipes, points and cells of a sound project fit together: each adds what it finds to
-/// `faults`.
-void CheckPipes(const Project& project, Faults& faults);
+/// How points and cells of a drawn project fit together: each adds what it finds to `faults`.
 void CheckPoints(const Project& project, Faults& faults);
 void CheckCells(const Project& project, Faults& faults);
 

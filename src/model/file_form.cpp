@@ -28,15 +28,16 @@ std::string WithExtension(const std::string& path) {
     return path.ends_with(kExtension) ? path : path + std::string(kExtension);
 }
 
-/// True when the file could not be written or read and the project stays what it was.
-bool Failed(FilePurpose purpose, Project& project, MessageBoxes& boxes,
-            const HandOvers& handOvers) {
+/// Saves or opens the file that the project is named after. False when it cannot be written or
+/// read, or is malformed: the project's content is then what it was.
+bool RunPurpose(FilePurpose purpose, Project& project, MessageBoxes& boxes,
+                const HandOvers& handOvers) {
     const std::filesystem::path path = project.ProjectName;
     if (purpose == FilePurpose::Save) {
-        return SaveProject(project, path, boxes) == SaveOutcome::Failed;
+        return SaveProject(project, path, boxes) != SaveOutcome::Failed;
     }
     const OpenOutcome outcome = OpenProject(project, path, boxes, handOvers);
-    return outcome == OpenOutcome::Malformed || outcome == OpenOutcome::Unreadable;
+    return outcome != OpenOutcome::Malformed && outcome != OpenOutcome::Unreadable;
 }
 
 }  // namespace
@@ -86,7 +87,7 @@ bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes
     const std::string path = WithExtension(form.Text2);
     std::string formerName = std::exchange(project.ProjectName, path);
     std::string formerDescription = std::exchange(project.ProjectDescription, form.Text4);
-    if (Failed(form.purpose, project, boxes, handOvers)) {
+    if (!RunPurpose(form.purpose, project, boxes, handOvers)) {
         project.ProjectName = std::move(formerName);
         project.ProjectDescription = std::move(formerDescription);
     } else if (project.ProjectName == path) {  // an old version has detached the file instead

@@ -14,11 +14,11 @@ namespace {
 
 class Faults {
   public:
-    /// Notes "`table`(`slot`): `rule`" when the rule does not hold.
-    void Check(bool holds, std::string_view table, std::size_t slot, std::string_view rule) {
+    /// Notes "`what` `number` must `rule`" when the rule does not hold.
+    void Check(bool holds, std::string_view what, std::size_t number, std::string_view rule) {
         if (holds) return;
-        faults_.push_back(std::string(table) + "(" + GeneralText(static_cast<int>(slot)) +
-                          "): " + std::string(rule));
+        faults_.push_back(std::string(what) + " " + GeneralText(static_cast<int>(number)) +
+                          " must " + std::string(rule));
     }
 
     std::vector<std::string> Take() { return std::move(faults_); }
@@ -55,36 +55,59 @@ bool CountsAreInRange(const Project& project) {
 }
 
 void CheckUnusedSlots(const Project& project, Faults& faults) {
-    faults.Check(project.Pipes[0] == PipeRec{}, "Pipes", 0, "never used");
-    faults.Check(project.Points[0] == PointRec{}, "Points", 0, "never used");
-    faults.Check(project.Cells[0] == CellRec{} && !project.CellIsNode[0], "Cells", 0, "never used");
-    faults.Check(project.TableRows[0] == TableRowRec{}, "TableRows", 0, "never used");
+    constexpr std::string_view rule = "stay unused";
+    faults.Check(project.Pipes[0] == PipeRec{}, "pipe", 0, rule);
+    faults.Check(project.Points[0] == PointRec{}, "point", 0, rule);
+    faults.Check(project.Cells[0] == CellRec{} && !project.CellIsNode[0], "cell", 0, rule);
+    faults.Check(project.TableRows[0] == TableRowRec{}, "table row", 0, rule);
+}
+
+bool LiesIn(const Project& project, int point, ScreenPoint place) {
+    const PointRec& record = project.Points[static_cast<std::size_t>(point)];
+    return ScreenPoint{record.X, record.Y} == place;
+}
+
+/// Where a pipe runs, given that its points are there.
+void CheckCourse(const Project& project, std::size_t slot, Faults& faults) {
+    const PipeRec& pipe = project.Pipes[slot];
+    const ScreenPoint start{pipe.X1, pipe.Y1};
+    const ScreenPoint end{pipe.X2, pipe.Y2};
+    faults.Check(LiesIn(project, pipe.StartPoint, start) && LiesIn(project, pipe.EndPoint, end),
+                 "pipe", slot, "end where its points lie");
+    faults.Check((start.x == end.x) != (start.y == end.y), "pipe", slot,
+                 "run along a row or a column, from one cell to another");
 }
 
 void CheckPipe(const Project& project, std::size_t slot, Faults& faults) {
     const PipeRec& pipe = project.Pipes[slot];
     const auto check = [&](bool holds, std::string_view rule) {
-        faults.Check(holds, "Pipes", slot, rule);
+        faults.Check(holds, "pipe", slot, rule);
+        return holds;
     };
-    check(AreFinite({pipe.FlowRate, pipe.Length, pipe.Diameter, pipe.OuterSize}), "finite numbers");
-    check(pipe.IsEnd(pipe.FlowFromPoint), "the flow is counted from an end");
-    if (!pipe.IsDrawn()) return check(IsAllDeleted(pipe), "deleted as a whole");
-    check(IsLivePoint(project, pipe.StartPoint) && IsLivePoint(project, pipe.EndPoint),
-          "ends in live points");
-    check(IsCellCentre(project, pipe.X1, pipe.Y1) && IsCellCentre(project, pipe.X2, pipe.Y2),
-          "ends in cell centres");
+    check(AreFinite({pipe.FlowRate, pipe.Length, pipe.Diameter, pipe.OuterSize}),
+          "have finite numbers");
+    check(pipe.IsEnd(pipe.FlowFromPoint), "count its flow from an end");
+    if (!pipe.IsDrawn()) {
+        check(IsAllDeleted(pipe), "be deleted as a whole");
+    } else if (check(IsLivePoint(project, pipe.StartPoint) && IsLivePoint(project, pipe.EndPoint),
+                     "end in live points")) {
+        CheckCourse(project, slot, faults);
+    }
 }
 
 void CheckPoint(const Project& project, std::size_t slot, Faults& faults) {
     const PointRec& point = project.Points[slot];
-    faults.Check(AreFinite({point.Pressure}), "Points", slot, "finite numbers");
+    faults.Check(AreFinite({point.Pressure}), "point", slot, "have finite numbers");
     if (!point.IsDrawn()) {
-        faults.Check(point.X == kDeleted && point.Cell == 0, "Points", slot, "deleted as a whole");
+        faults.Check(point.X == kDeleted && point.Cell == 0, "point", slot,
+                     "be deleted as a whole");
         return;
     }
-    faults.Check(IsCellCentre(project, point.X, point.Y) &&
-                     CellFromPoint(project, point.X, point.Y) == point.Cell,
-                 "Points", slot, "lies in the centre of its cell");
+    const bool inCell = IsCellCentre(project, point.X, point.Y) &&
+                        CellFromPoint(project, point.X, point.Y) == point.Cell;
+    faults.Check(inCell, "point", slot, "lie in the centre of its cell");
+    faults.Check(!inCell || project.CellIsNode[static_cast<std::size_t>(point.Cell)], "point", slot,
+                 "mark its cell as a node");
 }
 
 bool IsCrossedByLivePipe(const Project& project, const CellRec& cell) {
@@ -96,31 +119,31 @@ void CheckCell(const Project& project, std::size_t slot, Faults& faults) {
     const CellRec& cell = project.Cells[slot];
     if (cell.Kind == CellKind::Empty && !cell.Placed) return;
     const auto check = [&](bool holds, std::string_view rule) {
-        faults.Check(holds, "Cells", slot, rule);
+        faults.Check(holds, "cell", slot, rule);
     };
-    check(slot <= static_cast<std::size_t>(project.CellCount()), "within the grid");
+    check(slot <= static_cast<std::size_t>(project.CellCount()), "lie within the grid");
     check(AreFinite({cell.Param1, cell.Param2, cell.PumpConstant, cell.Direction, cell.PipeAxis,
                      cell.Result, cell.MinFlow, cell.MaxFlow}),
-          "finite numbers");
+          "have finite numbers");
     const bool crossed = cell.Kind == CellKind::Crossed && IsCrossedByLivePipe(project, cell);
     check(cell.IsComponent() || (crossed && !cell.Placed),
-          "a component, or crossed by a live pipe");
+          "hold a component, or be crossed by a live pipe");
 }
 
 void CheckTableRow(const TableRowRec& row, std::size_t slot, Faults& faults) {
     faults.Check(AreFinite({row.StartPressure, row.EndPressure, row.RowDiameter, row.RowLength,
                             row.RowFlowRate, row.RowZ1, row.RowZ2}),
-                 "TableRows", slot, "finite numbers");
+                 "table row", slot, "have finite numbers");
     for (const GivenColumn& column : kGivenColumns) {
-        faults.Check(row.*column.given || row.*column.value == 0, "TableRows", slot,
-                     "a value that is not 0 is given");
+        faults.Check(row.*column.given || row.*column.value == 0, "table row", slot,
+                     "have its values marked as given");
     }
 }
 
 }  // namespace
 
 std::vector<std::string> BrokenInvariants(const Project& project) {
-    if (!CountsAreInRange(project)) return {"a count is out of range"};
+    if (!CountsAreInRange(project)) return {"the counts must be within the capacities"};
     Faults faults;
     CheckUnusedSlots(project, faults);
     for (int i = 1; i <= project.numtubo; ++i) {

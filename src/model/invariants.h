@@ -8,10 +8,10 @@
 
 namespace idrova {
 
-/// What is wrong with the tables of a project, in words for a developer; empty for every project
-/// that was opened, saved or edited rightly: counts within capacities, pipes between live points,
-/// positions in the centres of cells of the grid, known kinds, finite numbers, flags in step.
-/// That pipes run along the grid and meet their points is not looked at.
+/// What does not hold in the tables of a project and must, as "pipe 3 must end in live points":
+/// counts within capacities, straight pipes between live points in their end cells, positions in
+/// the centres of cells of the grid, known kinds, finite numbers, flags in step. Empty for every
+/// project that was opened, saved or edited.
 std::vector<std::string> BrokenInvariants(const Project& project);
 
 }  // namespace idrova

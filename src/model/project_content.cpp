@@ -35,6 +35,27 @@ void PlacePoint(const Project& project, const ProjectContent::Point& source, Poi
     point.Y = static_cast<std::int16_t>(centre.y);
 }
 
+void MovePoint(Project& project, int number, int x, int y, int cell) {
+    PointRec& point = project.Points[static_cast<std::size_t>(number)];
+    point.X = static_cast<std::int16_t>(x);
+    point.Y = static_cast<std::int16_t>(y);
+    point.Cell = static_cast<std::int16_t>(cell);
+}
+
+/// A point lies where its pipes end, whatever cell its own line names.
+void MovePointsToEnds(const ProjectContent::Pipe& source, const PipeRec& pipe, Project& project) {
+    if (!pipe.IsDrawn()) return;
+    MovePoint(project, pipe.StartPoint, pipe.X1, pipe.Y1, source.startCell);
+    MovePoint(project, pipe.EndPoint, pipe.X2, pipe.Y2, source.endCell);
+}
+
+void MarkNodes(Project& project) {
+    for (int i = 1; i <= project.npres; ++i) {
+        const PointRec& point = project.Points[static_cast<std::size_t>(i)];
+        if (point.IsDrawn()) project.CellIsNode[static_cast<std::size_t>(point.Cell)] = true;
+    }
+}
+
 void PutPipesAndPoints(const ProjectContent& content, Project& project) {
     for (const ProjectContent::Pipe& pipe : content.pipes) {
         const auto slot = static_cast<std::size_t>(++project.numtubo);
@@ -46,6 +67,10 @@ void PutPipesAndPoints(const ProjectContent& content, Project& project) {
         PlacePoint(project, point, project.Points[slot]);
         project.PressureUnknown[slot] = point.pressureUnknown;
     }
+    for (std::size_t i = 0; i < content.pipes.size(); ++i) {
+        MovePointsToEnds(content.pipes[i], project.Pipes[i + 1], project);
+    }
+    MarkNodes(project);
 }
 
 void PutCells(const ProjectContent& content, Project& project) {

@@ -49,7 +49,8 @@ bool IsBeforeVersion25(std::string_view text);
 Result<ProjectContent> ParseProject(std::string_view text, int gridSize);
 
 /// Replaces network, table rows and description of `project`; cell numbers become positions on its
-/// grid. A description that the file lacks stays.
+/// grid, and points lie where their pipes end. A description that the file lacks stays. Whether
+/// pipes are straight and agree on their points is not looked at.
 void PutContent(const ProjectContent& content, Project& project);
 
 }  // namespace idrova

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/project_file.h"
 
+#include <memory>
+
 #include "base/file.h"
+#include "model/invariants.h"
 #include "model/messages.h"
 #include "model/project_content.h"
 #include "model/project_keys.h"
@@ -30,6 +33,16 @@ void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
     handOvers.ShowTitle(project.ProjectName);
 }
 
+/// Tries the content out apart from `project`, on the same grid.
+Status CheckSound(const ProjectContent& content, const Project& project) {
+    const auto trial = std::make_unique<Project>();
+    trial->GridSize = project.GridSize;
+    trial->Grid = project.Grid;
+    PutContent(content, *trial);
+    const std::vector<std::string> broken = BrokenInvariants(*trial);
+    return broken.empty() ? Status(Done{}) : Failure{broken.front()};
+}
+
 }  // namespace
 
 Status WriteProject(Project& project, const fs::path& path) {
@@ -47,11 +60,14 @@ SaveOutcome SaveProject(Project& project, const fs::path& path, MessageBoxes& bo
     return SaveOutcome::Saved;
 }
 
-Status ReadProjectText(std::string_view text, Project& project) {
+Status ReadProjectText(std::string_view text, Project& project, const HandOvers& handOvers) {
     if (IsBeforeVersion25(text)) return Failure{std::string(kFileTooOld.text)};
     const Result<ProjectContent> content = ParseProject(text, project.GridSize);
     if (!content) return Failure{content.Error()};
+    if (Status sound = CheckSound(*content, project); !sound) return sound;
+    LeaveNetwork(project, handOvers);
     PutContent(*content, project);
+    handOvers.ShowNetwork();
     return Done{};
 }
 
@@ -72,14 +88,10 @@ OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& bo
         RefuseOldVersion(project, handOvers);
         return OpenOutcome::TooOld;
     }
-    const Result<ProjectContent> content = ParseProject(*text, project.GridSize);
-    if (!content) {
-        boxes.Show(ProjectMalformed(content.Error()));
+    if (const Status read = ReadProjectText(*text, project, handOvers); !read) {
+        boxes.Show(ProjectMalformed(read.Error()));
         return OpenOutcome::Malformed;
     }
-    LeaveNetwork(project, handOvers);
-    PutContent(*content, project);
-    handOvers.ShowNetwork();
     return OpenOutcome::Opened;
 }
 

@@ -42,8 +42,8 @@ enum class OpenOutcome {
 OpenOutcome OpenProject(Project& project, const std::filesystem::path& path, MessageBoxes& boxes,
                         const HandOvers& handOvers = {});
 
-/// The same from a text, without hand-overs. A failure names the line and leaves `project` as it
-/// was.
-Status ReadProjectText(std::string_view text, Project& project);
+/// The same from a text, for projects of today's version and without boxes. A failure names the
+/// line, or the pipe or cell that does not fit the others, and leaves `project` as it was.
+Status ReadProjectText(std::string_view text, Project& project, const HandOvers& handOvers = {});
 
 }  // namespace idrova

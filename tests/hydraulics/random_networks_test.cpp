@@ -23,8 +23,8 @@ class RandomNetwork {
   public:
     explicit RandomNetwork(std::uint32_t seed) : random_(seed) {
         const bool gas = Chance(4);
-        const int points = Whole(2, 25);
-        for (int i = 1; i <= points; ++i) network_.AddPoint(1 + i % 24 * 2, 1 + i / 24 * 4);
+        const int points = Whole(2, kMostPoints);
+        for (int i = 1; i <= points; ++i) network_.AddPoint(i, 1);
         for (int i = 2; i <= points; ++i) Connect(Whole(1, i - 1), i);
         for (int i = Whole(0, points / 2); i > 0; --i) Connect(Whole(1, points), Whole(1, points));
         SetHeights(points, gas);
@@ -39,6 +39,8 @@ class RandomNetwork {
     NetworkBuilder Take() { return std::move(network_); }
 
   private:
+    static constexpr int kMostPoints = 25;  // behind them the cut pipes' components, in one row
+
     int Whole(int from, int to) { return std::uniform_int_distribution<int>(from, to)(random_); }
     bool Chance(int of) { return Whole(1, of) == 1; }
     float Real(double from, double to) {
@@ -63,10 +65,9 @@ class RandomNetwork {
     }
 
     void AddCutPipe(int start, int end) {
-        const int row = 20 + ++cuts_ / 24;
-        const int column = 2 * (cuts_ % 24) + 1;
-        const int a = network_.AddPoint(column, row);
-        const int b = network_.AddPoint(column, row);
+        const int column = kMostPoints + ++cuts_;
+        const int a = network_.AddPoint(column, 1);
+        const int b = network_.AddPoint(column, 1);
         AddPipe(start, a);
         AddPipe(b, end);
         degree_[a] = degree_[b] = 0;

@@ -11,7 +11,6 @@
 namespace idrova {
 namespace {
 
-using testing::HasSubstr;
 using testing::StartsWith;
 
 /// The fault that reading `text` reports, empty when it is accepted. Checks that a refusal changes
@@ -31,12 +30,10 @@ std::string FaultOf(std::string_view text) {
     return {};
 }
 
-TEST(MalformedProject, IsRefusedWithTheLineNamed) {
+TEST(MalformedProject, IsRefusedWithThePlaceNamed) {
     const std::string_view pipe = " 1             50 ";
-    struct Case {
-        std::string_view from, to, fault;
-    };
-    const std::vector<Case> cases = {
+    const std::string_view points = " 4             5 ";
+    const std::vector<std::tuple<std::string_view, std::string_view, std::string>> cases = {
         {kSampleText, "", "line 1: the line is missing"},
         {pipe, " 0             50 ", "line 7: one end of the pipe has no cell"},
         {pipe, " 0             0 ", "line 7: the points of a deleted pipe must be -10"},
@@ -50,25 +47,28 @@ TEST(MalformedProject, IsRefusedWithTheLineNamed) {
         {" 2             3  ", " 2             6  ", "line 9: the pipe ends in a deleted point"},
         {"-10 ", "-9 ", "line 11: the points of a deleted pipe must be -10"},
         {" 101325        1 \r\n 0 ", " 101325        1 \r\n .5 ", "line 17: item 1 must be"},
-        {" 2500 \r\nnco", " 10001 \r\nnco", "line 32: item 1 must be a whole number from 1"},
-        {" 25            1 ", " 25            3 ", "line 35: item 2 must be a whole number from 1"},
-        {" 25            1 ", " 2501          1 ", "line 35: item 1 must be"},
-        {" 1             303975        2", " 1 303975 40000", "line 44: item 3 must be"},
-        {"Project d", "pump constants\n1\n26 3\nProject d", "line 48: no pump stands"},
-        {"Project d", "pump constants\n2\n25 1\nProject d", "line 49: item 1 is not a number"},
-        {"Project d", "given zeros\n1\n4 2\nProject d", "line 48: item 1 must be"},
-        {"Project d", "given zeros\n1\n2 3\nProject d", "line 48: the column must be 2, 4 or 8"},
+        {" 2500 \r\nnco", " 10001 \r\nnco", "line 33: item 1 must be a whole number from 1"},
+        {" 25            1 ", " 25            3 ", "line 36: item 2 must be a whole number from 1"},
+        {" 25            1 ", " 2501          1 ", "line 36: item 1 must be"},
+        {" 1             303975        2", " 1 303975 40000", "line 45: item 3 must be"},
+        {"Project d", "pump constants\n1\n26 3\nProject d", "line 49: no pump stands"},
+        {"Project d", "pump constants\n2\n25 1\nProject d", "line 50: item 1 is not a number"},
+        {"Project d", "given zeros\n1\n4 2\nProject d", "line 49: item 1 must be"},
+        {"Project d", "given zeros\n1\n2 3\nProject d", "line 49: the column must be 2, 4 or 8"},
+        {pipe, " 1             49 ", "pipe 1 must end where its points lie"},
+        {" 2500          1.2", " 2499          1.2", "pipe 4 must run along a row or a column"},
+        {" 2500          1.2", " 100           1.2", "pipe 4 must run along a row or a column"},
+        {points, " 5             5 ", "pipe 4 must end where its points lie"},
     };
-    for (const auto& c : cases) {
-        ASSERT_THAT(kSampleText, HasSubstr(std::string(c.from)));
-        EXPECT_THAT(FaultOf(SampleWith(c.from, c.to)), StartsWith(std::string(c.fault))) << c.to;
+    for (const auto& [from, to, fault] : cases) {
+        EXPECT_THAT(FaultOf(SampleWith(from, to)), StartsWith(fault)) << to;
     }
 }
 
 TEST(MalformedProject, CountsThatLieAreRefused) {
     for (const auto& [key, count, capacity] :
          {std::tuple("numtubo\r\n", " 4 ", 200), std::tuple("npres\r\n", " 6 ", 400),
-          std::tuple("nint\r\n", " 3 ", 10000), std::tuple("nco\r\n", " 2 ", 10000),
+          std::tuple("nint\r\n", " 4 ", 10000), std::tuple("nco\r\n", " 2 ", 10000),
           std::tuple("numins\r\n", " 2 ", 199)}) {
         const std::string full = std::to_string(capacity);
         const std::string above = std::to_string(capacity + 1);

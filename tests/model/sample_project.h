@@ -29,7 +29,7 @@ constexpr std::string_view kSampleText =
     " 101325        1 \r\n" " 0 \r\n" " 0             50 \r\n" " 1 \r\n"
     "-2.5           100 \r\n" " 1 \r\n" " 0             100 \r\n" " 1 \r\n"
     " .0001         2500 \r\n" " 1 \r\n" " 0             0 \r\n" " 1 \r\n"
-    "nint\r\n" " 3 \r\n" " 1 \r\n" " 50 \r\n" " 2500 \r\n"
+    "nint\r\n" " 4 \r\n" " 1 \r\n" " 50 \r\n" " 100 \r\n" " 2500 \r\n"
     "nco\r\n" " 2 \r\n"
     " 25            1            -150.25        10            1             1             .5            3 \r\n"
     "Pump, big n. 1\r\n" " 1 \r\n"
@@ -60,7 +60,7 @@ inline std::unique_ptr<Project> SampleProject() {
     project.Points[5] = {.0001F, 14261, 14261, 2500};
     project.Points[6] = {0, -10, -10, 0};
     project.PressureUnknown[1] = false;
-    for (const std::size_t cell : {1U, 50U, 2500U}) project.CellIsNode[cell] = true;
+    for (const std::size_t cell : {1U, 50U, 100U, 2500U}) project.CellIsNode[cell] = true;
     project.Cells[25] = {"Pump, big n. 1", CellKind::Pump, -150.25F, 10, 0, 1, 1, 0, true, .5F, 3};
     project.Cells[100] = {"Valve", CellKind::Loss, .2F, 0, 0, 0, 0, 0, false, 0, 0};
     project.TableRows[2] = {1, 303975, 2, 0, .0279F, 10, 0, 1.5F, 0, true, false, false};
