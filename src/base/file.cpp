@@ -86,7 +86,7 @@ Result<fs::path> FollowLinks(fs::path path) {
     for (int links = 0; links < mostLinks; ++links) {
         if (!fs::is_symlink(path, error)) return path;
         const fs::path next = fs::read_symlink(path, error);
-        if (error) break;
+        if (error) return SystemFailure("Cannot write", path, error.value());
         path = path.parent_path() / next;
     }
     return SystemFailure("Cannot write", path, ELOOP);

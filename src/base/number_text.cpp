@@ -251,4 +251,8 @@ float ToSingle(double value) {
     return static_cast<float>(std::clamp(value, -largest, largest));
 }
 
+float ScaledSingle(float value, double factor) {
+    return ToSingle(DecimalDouble(value) * factor);
+}
+
 }  // namespace idrova

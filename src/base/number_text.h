@@ -52,4 +52,8 @@ double DecimalDouble(float value);
 /// not a number becomes 0. So a typed number can never put an infinity into a record.
 float ToSingle(double value);
 
+/// `value` in another unit: the single of its shortest decimal text times `factor`, so that what
+/// was typed as 81.6 mm and is kept as .0816 m is shown as 81.6 again.
+float ScaledSingle(float value, double factor);
+
 }  // namespace idrova

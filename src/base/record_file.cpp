@@ -27,6 +27,18 @@ bool HasControls(std::string_view latin1) {
     });
 }
 
+/// "NAME.bak", else the first of "NAME.bak1", "NAME.bak2" .. that does not exist.
+std::filesystem::path FreeBackup(const std::filesystem::path& path) {
+    std::filesystem::path backup = path;
+    backup += ".bak";
+    const std::string first = backup.string();
+    std::error_code error;
+    for (int number = 1; std::filesystem::exists(backup, error); ++number) {
+        backup = first + std::to_string(number);
+    }
+    return backup;
+}
+
 bool IsAbsent(const std::filesystem::path& path) {
     std::error_code error;
     return std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found;
@@ -128,9 +140,7 @@ Status ReplaceRecordBytes(const std::filesystem::path& path, std::string_view ex
     const Result<std::string> old = ReadRecordBytes(path);
     if (!old) return Failure{old.Error()};
     if (!old->empty() && *old != expected) {
-        std::filesystem::path kept = path;
-        kept += ".bak";
-        if (Status copied = WriteWholeFile(kept, *old); !copied) return copied;
+        if (Status copied = WriteWholeFile(FreeBackup(path), *old); !copied) return copied;
     }
     return WriteWholeFile(path, bytes);
 }

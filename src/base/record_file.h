@@ -77,7 +77,8 @@ Result<std::string> ReadRecordBytes(const std::filesystem::path& path);
 Status CreateIfAbsent(const std::filesystem::path& path);
 
 /// Replaces the file safely by `bytes`. A file that does not hold `expected` is first kept as
-/// "NAME.bak"; when that fails, or when it cannot be read, it is left alone.
+/// "NAME.bak", or with a number behind that when there is one already; when that fails, or when it
+/// cannot be read, it is left alone.
 Status ReplaceRecordBytes(const std::filesystem::path& path, std::string_view expected,
                           std::string_view bytes);
 

@@ -37,7 +37,7 @@ PointPanel ShowEnd(const Project& project, const PipeRec& pipe, int point, int h
 }  // namespace
 
 std::string ScaledText(float value, double factor) {
-    return GeneralText(ToSingle(DecimalDouble(value) * factor));
+    return GeneralText(ScaledSingle(value, factor));
 }
 
 std::string CubicMetresText(const Project& project, double kgPerHour) {

@@ -10,7 +10,8 @@
 namespace idrova {
 
 /// The buttons of the fluid window. `selected` is the slot last chosen in its list, 0 for none;
-/// `folder` holds the database. Typed numbers that exceed a single become the largest single.
+/// `folder` holds the database. In a record, a typed number that exceeds a single is the largest
+/// one.
 
 /// "Use": the typed values become the current fluid, named "[selected] name" (the name alone when
 /// none was chosen). A project with pipes is told that volume flows must be given again.

@@ -8,7 +8,8 @@ namespace idrova {
 namespace {
 
 std::string KeptNote(std::string_view file) {
-    return ". The file is kept as " + std::string(file) + ".bak when the database is changed";
+    return ". The file is kept as " + std::string(file) +
+           ".bak, or .bak1 and so on, when the database is changed";
 }
 
 }  // namespace

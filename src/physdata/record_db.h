@@ -136,8 +136,8 @@ bool LoadRecords(RecordDb<Record>& db, const std::filesystem::path& folder, std:
 }
 
 /// Puts `next` into the file, then into `db`. A file that does not hold what `db` holds (it was
-/// faulty, or another program wrote it) is first kept as "NAME.bak". `Refused` when the file cannot
-/// be written: told under `title`, and nothing is changed.
+/// faulty, or another program wrote it) is first kept as "NAME.bak" (see `ReplaceRecordBytes`).
+/// `Refused` when the file cannot be written: told under `title`, and nothing is changed.
 template <typename Record>
 EditOutcome StoreRecords(RecordDb<Record>& db, RecordDb<Record> next,
                          const std::filesystem::path& folder, std::string_view title,

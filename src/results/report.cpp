@@ -5,6 +5,7 @@
 #include <ctime>
 #include <string_view>
 
+#include "base/number_text.h"
 #include "base/print_zones.h"
 #include "model/pipe_sizes.h"
 #include "results/report_figures.h"
@@ -34,11 +35,6 @@ std::string NominalDesignation(float diameter) {
     const int size = NominalSizeOf(diameter);
     if (size == 0) return "";
     return kNominalSizeMark + std::string(NominalSizeNames[size]);
-}
-
-/// Single precision throughout: seven digits are what a stored value is good for.
-float Scaled(float value, double factor) {
-    return static_cast<float>(value * factor);
 }
 
 class ReportPrinter {
@@ -102,9 +98,9 @@ class ReportPrinter {
         ForComponents(CellKind::Pump, [this](const CellRec& pump) {
             Line(pump.Name);
             out_.Text("Min flow rate, max [kg/h]").NextZone();
-            out_.Number(Scaled(pump.MinFlow, kSecondsPerHour)).NextZone();
-            out_.Number(Scaled(pump.MaxFlow, kSecondsPerHour)).EndLine();
-            Row("Flow rate calculated [kg/h]", Scaled(pump.Result, kSecondsPerHour));
+            out_.Number(ScaledSingle(pump.MinFlow, kSecondsPerHour)).NextZone();
+            out_.Number(ScaledSingle(pump.MaxFlow, kSecondsPerHour)).EndLine();
+            Row("Flow rate calculated [kg/h]", ScaledSingle(pump.Result, kSecondsPerHour));
         });
     }
 
@@ -145,8 +141,8 @@ class ReportPrinter {
         const PipeFigures figures = FiguresOf(pipe, work_, project_);
         out_.Text("pipe").NextZone().Number(number).EndLine();
         out_.Text("   Flow rate [kg/h],[mc/h]").NextZone();
-        out_.Number(Scaled(pipe.FlowRate, kSecondsPerHour)).NextZone();
-        out_.Number(Scaled(pipe.FlowRate, kSecondsPerHour / project_.FluidDensity)).EndLine();
+        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour)).NextZone();
+        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour / project_.FluidDensity)).EndLine();
         SectionLine(pipe);
         Row("   Lenght [m]", pipe.Length);
         out_.Text("   Height [m] Z1").NextZone().Number(int{pipe.Z1}).NextZone();
@@ -156,14 +152,14 @@ class ReportPrinter {
     }
 
     void SectionLine(const PipeRec& pipe) {
-        const float side = Scaled(pipe.Diameter, kMillimetresPerMetre);
+        const float side = ScaledSingle(pipe.Diameter, kMillimetresPerMetre);
         if (project_.SectionType == Section::Circular) {
             out_.Text("   Diameter [mm]").NextZone().Number(side).NextZone();
             return Line(NominalDesignation(pipe.Diameter));
         }
         out_.Text("   Side a [mm]").NextZone().Number(side).NextZone();
         out_.Text("   Side b [mm]").NextZone();
-        out_.Number(Scaled(pipe.OuterSize, kMillimetresPerMetre)).EndLine();
+        out_.Number(ScaledSingle(pipe.OuterSize, kMillimetresPerMetre)).EndLine();
     }
 
     template <typename Print>

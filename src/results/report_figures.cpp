@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/report_figures.h"
 
+#include "hydraulics/pipe_drop.h"
+
 namespace idrova {
 namespace {
-
-/// The value of pi that all circular areas of the program use.
-constexpr double kPi = 3.1415;
 
 float PressureAt(const WorkNetwork& work, int point) {
     return work.WorkPoints[point].Pressure;

@@ -59,12 +59,14 @@ TEST_F(DamagedFileTest, IsToldOnceAndKeptAtTheFirstChange) {
     PutFile(folder / "percon.dat", foreign);
     boxes.Expect(kAskSaveLoss, Answer::Yes);
     EXPECT_EQ(SaveLoss(lists, kTypedLoss, folder.Path(), boxes), EditOutcome::Done);
-    EXPECT_EQ(FileBytes(folder / "percon.dat.bak"), foreign);
+    EXPECT_EQ(FileBytes(folder / "percon.dat.bak"), damaged);
+    EXPECT_EQ(FileBytes(folder / "percon.dat.bak1"), foreign);
 }
 
 TEST_F(DamagedFileTest, NothingChangesWhenItCannotBeKept) {
-    fs::create_directory(folder / "percon.dat.bak");
-    const std::string reason = (folder / "percon.dat.bak").string() + " is a folder";
+    fs::create_symlink("nowhere/file", folder / "percon.dat.bak");
+    const std::string reason =
+        "Cannot write " + (folder / "nowhere/file").string() + ": No such file or directory";
     boxes.Expect(kAskSaveLoss, Answer::Yes).Expect({reason, "New concentrated drop"});
     EXPECT_EQ(SaveLoss(lists, kTypedLoss, folder.Path(), boxes), EditOutcome::Refused);
     EXPECT_EQ(lists.losses.count, 2);

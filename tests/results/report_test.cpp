@@ -40,7 +40,7 @@ class Report : public testing::Test {
         work->WorkPipeCount = 3;
         work->WorkPipes[1] = {.5F, 12.5F, .0279F, 1, 2, 639, 0, 0, 0, 0, 3, 0, 1};
         work->WorkPipes[2] = {1, 1, 1, gone, gone, gone, gone, gone, gone, 0, 0, 0, gone};
-        work->WorkPipes[3] = {-.25F, 8, .028F, 4, 2, 639, 0, 0, 0, -2, 3, .15F, 2};
+        work->WorkPipes[3] = {-.25F, 8, .028F, 4, 2, 639, 0, 0, 0, -2, 3, .0654F, 2};
         work->WorkPointCount = 4;
         work->WorkPoints = {{{}, {202650, 639}, {151987.5F, 639}, {1, gone}, {-1234.5F, 639}}};
         work->WorkPressureUnknown = {false, false, true, true, true};
@@ -119,7 +119,7 @@ TEST_F(Report, SettingsChooseTheWords) {
     project->PressureUnitFactor = kPascalPerMilliBar;
 
     const std::string sides = std::string("   Side a [mm]               28           ") +
-                              "   Side b [mm]               150 ";
+                              "   Side b [mm]               65.4 ";
     const std::vector<std::string> expected = {
         "Mode: Table", "Correlation:  Compressible gas", "Section:      Rectangular",
         "Point 2       Pressure [Pa],[mbar]         151987.5     1500.         ", sides};
