@@ -88,7 +88,6 @@ void PutCells(const ProjectContent& content, Project& project) {
 }  // namespace
 
 void PutContent(const ProjectContent& content, Project& project) {
-    ClearNetwork(project);
     PutPipesAndPoints(content, project);
     PutCells(content, project);
     std::copy(content.rows.begin(), content.rows.end(), project.TableRows.begin() + kFirstTableRow);

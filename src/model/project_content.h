@@ -48,9 +48,9 @@ bool IsBeforeVersion25(std::string_view text);
 /// The failure names the line.
 Result<ProjectContent> ParseProject(std::string_view text, int gridSize);
 
-/// Replaces network, table rows and description of `project`; cell numbers become positions on its
-/// grid, and points lie where their pipes end. A description that the file lacks stays. Whether
-/// pipes are straight and agree on their points is not looked at.
+/// Fills network, table rows and description of `project`, whose tables must be empty; cell numbers
+/// become positions on its grid, and points lie where their pipes end. A description that the file
+/// lacks stays. Whether pipes are straight and agree on their points is not looked at.
 void PutContent(const ProjectContent& content, Project& project);
 
 }  // namespace idrova

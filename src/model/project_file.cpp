@@ -66,6 +66,7 @@ Status ReadProjectText(std::string_view text, Project& project, const HandOvers&
     if (!content) return Failure{content.Error()};
     if (Status sound = CheckSound(*content, project); !sound) return sound;
     LeaveNetwork(project, handOvers);
+    ClearNetwork(project);
     PutContent(*content, project);
     handOvers.ShowNetwork();
     return Done{};
