@@ -13,11 +13,13 @@ namespace idrova {
 /// Builds drawn networks for tests and benchmarks, in the numbering that drawing them would give.
 class NetworkBuilder {
   public:
-    NetworkBuilder() : project_(std::make_unique<Project>()) {
+    /// With `points` points in a row.
+    explicit NetworkBuilder(int points = 0) : project_(std::make_unique<Project>()) {
         InitialiseProject(*project_);
         project_->FluidDensity = 1000;
         project_->FluidViscosity = 1e-3;
         project_->FluidName = "Water";
+        for (int i = 1; i <= points; ++i) AddPoint(2 * i, 2);
     }
 
     /// A new point in a cell of the grid (column and row from 1).
