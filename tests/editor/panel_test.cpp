@@ -1,212 +1,103 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
-#include "editor/messages.h"
-#include "editor/panel_edits.h"
 #include "model/project_file.h"
 #include "plant.h"
 
 namespace idrova {
 namespace {
 
-/// One pipe of 1 m, selected.
-class Panel : public testing::Test {
-  protected:
-    Panel() {
-        plant.Do("L2,5 L8,5 R5,5");
-        plant.project.FluidDensity = 1000;
-        panel = ShowPipeData(plant.project);
+/// One pipe, selected, in a project with a fluid.
+struct PipePlant : Plant {
+    PipePlant() {
+        project.FluidDensity = 1000;
+        Do("L2,5 L8,5 R5,5 again");
     }
-
-    Plant plant;
-    Project& project = plant.project;
-    PipeRec& pipe = plant.project.Pipes[1];
-    PipePanel panel;
 };
 
-TEST_F(Panel, ShowsAPipeAsItIs) {
-    plant.Do("L8,5 L8,9 R8,7");
+constexpr const char* kScripts[] = {
+    "kg/h=3600 kg/h:. again kg/h:.",  // unknown: not taken
+    "flow=given kg/h: kg/h=3600kg kg/h:3600kg mc/h:3.6 again kg/h:3600 mc/h:3.6",
+    "flow=given mc/h=1.8 mc/h:1.8 kg/h:1800 flow=unknown kg/h:1800. flow=given kg/h:1800",
+    "flow=given kg/h=1e99 again",
+    "length=12.5 length:12.5 again length:12.5 length=-5 length:0 again length:0",
+    "length= length: again length:0 length=- length:- again length:0",
+    "length=abc length:abc again length:0 length=3e length:3e again length:3",
+    "inner=.5x inner:.5x again inner:.5 inner=-5 inner:0 again inner:0",
+    "outer=60.3 outer:60.3 again outer:60.3 outer=-5 outer:0 again outer:0",
+    "size=7 size:7 inner:53.8 outer:60.3 again size:7 outer:60.3 inner=54 size:0 size=13 size:0",
+    "size=12 outer=70 R5,5 again size:12 outer:165 size=1 outer=70 R5,5 again size:1",
+    "z1=12 z1:12 again z1:12 z1=2.5 z1:2.5 again z1:2 z1=3.5 again z1:4 z2:0 z2=8 again z2:8",
+    "z1=9 z1=-3 z1:0 again z1:0 z1= z1:0 z1=x z1:0 z1=99999 z1:99999 again z1:32767",
+    "p1=2 p1:/. again p1:/. end1=given p1:/ p1=2 p1:2/ again p1:2./ p2:/. end1=unknown p1:/2.",
+    "end2=given p2=1 again p2:1./ p1:/. from2:no from2= from2:yes again from2:yes",
+};
+
+TEST(Panel, TakesAndStoresWhatIsTyped) {
+    for (const char* const script : kScripts) {
+        SCOPED_TRACE(script);
+        PipePlant plant;
+        plant.Do(script);
+        EXPECT_THAT(BrokenInvariants(plant.project, plant.editor), testing::IsEmpty());
+    }
+}
+
+TEST(Panel, TakesPressuresInTheUnitShown) {
+    PipePlant plant;
+    plant.Do("end1=given p1=2");
+    EXPECT_EQ(plant.project.Points[1].Pressure, 202650);
+    ChoosePressureUnit(plant.project, Unit::MilliBar);
+    plant.Do("again p1:2000./ p1=1000 again p1:1000./");
+    EXPECT_EQ(plant.project.Points[1].Pressure, 101325);
+    EXPECT_EQ(plant.panel.unitLabel, "[mbar]");
+}
+
+TEST(Panel, IsEmptyWithoutAPipe) {
+    PipePlant plant;
+    plant.Do("R9,9 again");
+    EXPECT_EQ(plant.panel.caption, "Pipe");
+    EXPECT_EQ(plant.panel.innerSize + plant.panel.start.caption + plant.panel.computedKgPerHour,
+              "");
+    const PipePanel empty = plant.panel;
+    const std::string before = ProjectFileText(plant.project);
+    for (const auto& [name, edit] : plant.edits) edit("1");
+    EXPECT_EQ(plant.panel, empty);
+    EXPECT_EQ(ProjectFileText(plant.project), before);
+}
+
+TEST(Panel, NeedsAFluidForVolumeFlows) {
+    PipePlant plant;
+    plant.project.FluidDensity = 0;
+    plant.Do("flow=given kg/h=36 mc/h: mc/h=5 mc/h: again kg/h:36");
+    EXPECT_EQ(plant.Messages(), "To insert the volumetric flow rate select a fluid");
+}
+
+TEST(Panel, ShowsAPipeAsItIs) {
+    PipePlant plant;
+    Project& project = plant.project;
     PipeRec& second = project.Pipes[2];
-    second.FlowRate = 0.5F;
-    second.Length = 12.5F;
-    second.Diameter = 0.0601F;
-    second.OuterSize = 0.07F;
-    second.Z2 = 7;
-    second.FlowFromPoint = 3;
-    project.PressureUnknown[2] = false;
-    project.Points[2].Pressure = 2.5F * kPascalPerBar;
+    plant.Do("L8,5 L8,9 R8,7 again length=12.5 inner=60.1 outer=70 z2=7 from2= end1=given p1=2.5");
+    EXPECT_FLOAT_EQ(second.Diameter, 0.0601F);
+    EXPECT_FLOAT_EQ(second.OuterSize, 0.07F);
     project.Points[3].Pressure = 101325.0F / 3;
-    const PipePanel shown = ShowPipeData(project);
-    EXPECT_EQ(shown.caption, "Pipe 2");
-    EXPECT_FALSE(shown.flowKnown);
-    EXPECT_EQ(shown.kgPerHour + shown.cubicMetresPerHour, "");
-    EXPECT_EQ(shown.computedKgPerHour, "1800.");
-    EXPECT_EQ(shown.computedCubicMetresPerHour, "1.8");
-    EXPECT_EQ(shown.length, "12.5");
-    EXPECT_EQ(shown.nominalSize, 0);
-    EXPECT_EQ(shown.innerSize, "60.1");
-    EXPECT_EQ(shown.outerSize, "70");
-    EXPECT_EQ(shown.start, (PointPanel{"P2", "Z2[m]", "0", true, "2.5", "", false}));
-    EXPECT_EQ(shown.end, (PointPanel{"P3", "Z3[m]", "7", false, "", ".333", true}));
-    EXPECT_EQ(shown.unitLabel, "[bar]");
-}
-
-TEST_F(Panel, WritesLargeComputedFlowsWithAnExponent) {
-    const struct {
-        float flow;
-        const char* text;
-    } cases[] = {{1e6F / 3600, "1000000."},
-                 {2e6F / 3600, "2.00E+06"},
-                 {-2e6F / 3600, "-2.00E+06"},
-                 {-0.001F, "-3.6"},
-                 {0, "."}};
-    for (const auto& c : cases) {
-        pipe.FlowRate = c.flow;
-        EXPECT_EQ(ShowPipeData(project).computedKgPerHour, c.text);
+    const std::pair<float, const char*> flows[] = {
+        {1e6F / 3600, "1000000."}, {-2e6F / 3600, "-2.00E+06"}, {0, "."}, {0.5F, "1800."}};
+    for (const auto& [flow, text] : flows) {
+        second.FlowRate = flow;
+        EXPECT_EQ(ShowPipeData(project).computedKgPerHour, text);
     }
+    plant.Do("again mc/h:1.8 length:12.5 inner:60.1 outer:70 size:0");
+    EXPECT_EQ(plant.panel.caption, "Pipe 2");
+    EXPECT_EQ(plant.panel.start, (PointPanel{"P2", "Z2[m]", "0", true, "2.5", "", false}));
+    EXPECT_EQ(plant.panel.end, (PointPanel{"P3", "Z3[m]", "7", false, "", ".333", true}));
+    EXPECT_EQ(plant.panel.unitLabel, "[bar]");
 }
 
-TEST_F(Panel, IsEmptyWithoutAPipe) {
-    plant.Do("R9,9");
-    panel = ShowPipeData(project);
-    EXPECT_EQ(panel.pipe, 0);
-    EXPECT_EQ(panel.caption, "Pipe");
-    EXPECT_EQ(panel.innerSize + panel.start.caption + panel.computedKgPerHour, "");
-    const PipePanel empty = panel;
-    const std::string before = ProjectFileText(project);
-    ChooseFlow(project, panel, true);
-    TypeKgPerHour(project, panel, "1");
-    TypeLength(project, panel, "1");
-    TypeInnerSize(project, panel, "1");
-    TypeOuterSize(project, panel, "1");
-    ChoosePipeSize(project, panel, 1);
-    TypeHeight(project, panel, PipeEnd::End, "1");
-    ChoosePressure(project, panel, PipeEnd::Start, true);
-    TypePressure(project, panel, PipeEnd::End, "1");
-    ChooseDirection(project, panel, PipeEnd::End);
-    EXPECT_TRUE(TypeCubicMetresPerHour(project, panel, "1", plant.boxes));
-    EXPECT_EQ(panel, empty);
-    EXPECT_EQ(ProjectFileText(project), before);
-    EXPECT_THAT(BrokenInvariants(project, plant.editor), testing::IsEmpty());
-}
-
-TEST_F(Panel, KeepsBothFlowUnitsInStep) {
-    TypeKgPerHour(project, panel, "3600");  // unknown: not taken
-    EXPECT_EQ(pipe.FlowRate, 0);
-    ChooseFlow(project, panel, true);
-    EXPECT_FALSE(project.FlowUnknown[1]);
-    EXPECT_EQ(panel.kgPerHour, "");
-    TypeKgPerHour(project, panel, "3600 kg");
-    EXPECT_EQ(pipe.FlowRate, 1);
-    EXPECT_EQ(panel.kgPerHour, "3600 kg");
-    EXPECT_EQ(panel.cubicMetresPerHour, "3.6");
-    EXPECT_TRUE(TypeCubicMetresPerHour(project, panel, "1.8", plant.boxes));
-    EXPECT_EQ(pipe.FlowRate, 0.5F);
-    EXPECT_EQ(panel.kgPerHour, "1800");
-    EXPECT_EQ(panel.cubicMetresPerHour, "1.8");
-    TypeKgPerHour(project, panel, "1e99");
-    EXPECT_THAT(BrokenInvariants(project, plant.editor), testing::IsEmpty());
-    ChooseFlow(project, panel, false);
-    EXPECT_TRUE(project.FlowUnknown[1]);
-    EXPECT_EQ(panel.kgPerHour, "");
-    pipe.FlowRate = 0.25F;
-    ChooseFlow(project, panel, true);  // a computed flow becomes the given one
-    EXPECT_EQ(panel.kgPerHour, "900");
-}
-
-TEST_F(Panel, NeedsAFluidForVolumeFlows) {
-    project.FluidDensity = 0;
-    ChooseFlow(project, panel, true);
-    TypeKgPerHour(project, panel, "36");
-    EXPECT_EQ(panel.cubicMetresPerHour, "");
-    EXPECT_FALSE(TypeCubicMetresPerHour(project, panel, "5", plant.boxes));
-    EXPECT_EQ(plant.boxes.shown, std::vector<MessageBox>{kFluidForVolumeFlow});
-    EXPECT_EQ(pipe.FlowRate, 0.01F);
-    EXPECT_EQ(panel.cubicMetresPerHour, "");
-}
-
-TEST_F(Panel, ReplacesNegativeSizes) {
-    const struct {
-        const char* typed;
-        const char* kept;
-        float stored;  ///< typed number, m
-    } cases[] = {{"12.5", "12.5", 12.5F}, {"-5", "0", 0},  {"", "", 0},          {"-", "-", 0},
-                 {"abc", "abc", 0},       {"3e", "3e", 3}, {" .5x", " .5x", .5F}};
-    for (const auto& c : cases) {
-        TypeLength(project, panel, c.typed);
-        TypeInnerSize(project, panel, c.typed);
-        TypeOuterSize(project, panel, c.typed);
-        EXPECT_EQ(panel.length, c.kept);
-        EXPECT_EQ(panel.innerSize, c.kept);
-        EXPECT_EQ(panel.outerSize, c.kept);
-        EXPECT_EQ(pipe.Length, c.stored);
-        EXPECT_FLOAT_EQ(pipe.Diameter, c.stored / 1000);
-        EXPECT_FLOAT_EQ(pipe.OuterSize, c.stored / 1000);
-    }
-}
-
-TEST_F(Panel, ReplacesHeightsThatAreNotAboveZero) {
-    const struct {
-        const char* typed;
-        const char* kept;
-        int stored;
-    } cases[] = {{"12", "12", 12}, {"2.5", "2.5", 2},         {"3.5", "3.5", 4}, {"-3", "0", 0},
-                 {"", "0", 0},     {"99999", "99999", 32767}, {"x", "0", 0}};
-    for (const auto& c : cases) {
-        TypeHeight(project, panel, PipeEnd::Start, c.typed);
-        EXPECT_EQ(panel.start.height, c.kept);
-        EXPECT_EQ(pipe.Z1, c.stored);
-        EXPECT_EQ(pipe.Z2, 0);
-    }
-    TypeHeight(project, panel, PipeEnd::End, "8");
-    EXPECT_EQ(pipe.Z2, 8);
-}
-
-TEST_F(Panel, NominalSizesFillBothDiametersAndAreFoundAgain) {
-    for (int size = 1; size <= 12; ++size) {
-        ChoosePipeSize(project, panel, size);
-        pipe.OuterSize = 0;  // the project file may hold any
-        plant.Do("R5,5");
-        EXPECT_EQ(ShowPipeData(project), panel) << size;
-    }
-    ChoosePipeSize(project, panel, 7);
-    EXPECT_EQ(panel.innerSize + " " + panel.outerSize, "53.8 60.3");
-    EXPECT_FLOAT_EQ(pipe.Diameter, 0.0538F);
-    EXPECT_FLOAT_EQ(pipe.OuterSize, 0.0603F);
-    TypeInnerSize(project, panel, "54");
-    EXPECT_EQ(panel.nominalSize, 0);
-}
-
-TEST_F(Panel, LeavesTheSidesOfARectangleAlone) {
-    project.SectionType = Section::Rectangular;
-    pipe.Diameter = 0.0538F;
-    pipe.OuterSize = 0.2F;
-    plant.Do("R5,5");
-    const PipePanel shown = ShowPipeData(project);
-    EXPECT_EQ(shown.nominalSize, 0);
-    EXPECT_EQ(shown.outerSize, "200");
-    EXPECT_EQ(shown.section.firstSideLabel, "a [mm]");
-}
-
-TEST_F(Panel, TakesPressuresInTheUnitShown) {
-    TypePressure(project, panel, PipeEnd::Start, "2");  // unknown: not taken
-    EXPECT_EQ(project.Points[1].Pressure, 0);
-    ChoosePressure(project, panel, PipeEnd::Start, true);
-    EXPECT_EQ(panel.start.given + panel.start.computed, "");
-    TypePressure(project, panel, PipeEnd::Start, "2");
-    EXPECT_EQ(project.Points[1].Pressure, 202650);
-    EXPECT_FALSE(project.PressureUnknown[1]);
-    EXPECT_TRUE(project.PressureUnknown[2]);
-    ChoosePressureUnit(project, Unit::MilliBar);
-    panel = ShowPipeData(project);
-    EXPECT_EQ(panel.start.given, "2000.");
-    EXPECT_EQ(panel.unitLabel, "[mbar]");
-    ChoosePressure(project, panel, PipeEnd::End, true);
-    TypePressure(project, panel, PipeEnd::End, "1000");
-    EXPECT_EQ(project.Points[2].Pressure, 101325);
-    ChoosePressure(project, panel, PipeEnd::End, false);
-    EXPECT_EQ(panel.end.computed, "1000.");
-    EXPECT_EQ(panel.end.given, "");
+TEST(Panel, LeavesTheSidesOfARectangleAlone) {
+    PipePlant plant;
+    plant.project.SectionType = Section::Rectangular;
+    plant.Do("again inner=53.8 outer=200 size:0 R5,5 again outer:200 size:0");
+    EXPECT_EQ(plant.panel.section.firstSideLabel, "a [mm]");
 }
 
 }  // namespace

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
+#include <map>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -9,7 +11,9 @@
 #include "editor/cell_click.h"
 #include "editor/component_insertion.h"
 #include "editor/deletion.h"
+#include "editor/grid_view.h"
 #include "editor/invariants.h"
+#include "editor/panel_edits.h"
 #include "model/grid.h"
 #include "support/scripted_boxes.h"
 
@@ -17,7 +21,9 @@ namespace idrova {
 
 /// A project under the editor's hands, and a short script for a user's actions: "L5,3" and "R5,3"
 /// click left or right on column 5, row 3; "pump" and "loss" choose and arm a component; "delete"
-/// deletes what is selected. Every question is answered with OK.
+/// deletes what is selected; "S5,3" scrolls to that cell; "labels" shows the data labels; "again"
+/// fills the panel, "length=12" edits it, "length:12" is what should stand in it. Every question is
+/// answered with OK.
 class Plant {
   public:
     Plant() {
@@ -33,11 +39,6 @@ class Plant {
 
     void Click(int column, int row, MouseButton button = MouseButton::Left) {
         CellClick(project, editor, Place(column, row), button, boxes);
-    }
-
-    void Draw(int column1, int row1, int column2, int row2) {
-        Click(column1, row1);
-        Click(column2, row2);
     }
 
     Plant& Do(const std::string& script) {
@@ -69,6 +70,25 @@ class Plant {
     Editor editor;
     ComponentLists lists;
     RecordedBoxes boxes;
+    PipePanel panel;
+
+    using Edit = std::function<void(const std::string& text)>;
+    const std::map<std::string, Edit> edits = {
+        {"flow", [&](auto& t) { ChooseFlow(project, panel, t == "given"); }},
+        {"kg/h", [&](auto& t) { TypeKgPerHour(project, panel, t); }},
+        {"mc/h", [&](auto& t) { TypeCubicMetresPerHour(project, panel, t, boxes); }},
+        {"length", [&](auto& t) { TypeLength(project, panel, t); }},
+        {"inner", [&](auto& t) { TypeInnerSize(project, panel, t); }},
+        {"outer", [&](auto& t) { TypeOuterSize(project, panel, t); }},
+        {"size", [&](auto& t) { ChoosePipeSize(project, panel, ToInt16(ReadNumber(t))); }},
+        {"z1", [&](auto& t) { TypeHeight(project, panel, PipeEnd::Start, t); }},
+        {"z2", [&](auto& t) { TypeHeight(project, panel, PipeEnd::End, t); }},
+        {"end1", [&](auto& t) { ChoosePressure(project, panel, PipeEnd::Start, t == "given"); }},
+        {"end2", [&](auto& t) { ChoosePressure(project, panel, PipeEnd::End, t == "given"); }},
+        {"p1", [&](auto& t) { TypePressure(project, panel, PipeEnd::Start, t); }},
+        {"p2", [&](auto& t) { TypePressure(project, panel, PipeEnd::End, t); }},
+        {"from2", [&](auto&) { ChooseDirection(project, panel, PipeEnd::End); }},
+    };
 
   private:
     void Arm(CellKind kind) {
@@ -76,14 +96,43 @@ class Plant {
         ArmInsertion(editor, boxes);
     }
 
+    std::string Shown(const std::string& name) const {
+        const std::map<std::string, std::string> texts = {
+            {"kg/h", panel.kgPerHour + panel.computedKgPerHour},
+            {"mc/h", panel.cubicMetresPerHour + panel.computedCubicMetresPerHour},
+            {"length", panel.length},
+            {"inner", panel.innerSize},
+            {"outer", panel.outerSize},
+            {"size", GeneralText(panel.nominalSize)},
+            {"z1", panel.start.height},
+            {"z2", panel.end.height},
+            {"p1", panel.start.given + "/" + panel.start.computed},
+            {"p2", panel.end.given + "/" + panel.end.computed},
+            {"from2", panel.end.reference ? "yes" : "no"}};
+        return texts.at(name);
+    }
+
     void DoStep(const std::string& step) {
         if (step == "pump") return Arm(CellKind::Pump);
         if (step == "loss") return Arm(CellKind::Loss);
         if (step == "delete") return DeleteSelected(project, editor, boxes);
-        const auto comma = step.find(',');
-        const int column = std::stoi(step.substr(1));
-        const int row = std::stoi(step.substr(comma + 1));
-        Click(column, row, step[0] == 'L' ? MouseButton::Left : MouseButton::Right);
+        if (step == "again") return static_cast<void>(panel = ShowPipeData(project));
+        if (step == "labels") return static_cast<void>(editor.DataShown = true);
+        const auto sign = step.find_first_of("=:,");
+        const std::string before = step.substr(0, sign);
+        const std::string after = step.substr(sign + 1);
+        if (step[sign] == '=') {
+            edits.at(before)(after);
+        } else if (step[sign] == ':') {
+            EXPECT_EQ(Shown(before), after) << step;
+        } else {
+            At(step[0], std::stoi(before.substr(1)), std::stoi(after));
+        }
+    }
+
+    void At(char what, int column, int row) {
+        if (what == 'S') return ScrollDrawing(project, editor, column, row);
+        Click(column, row, what == 'L' ? MouseButton::Left : MouseButton::Right);
     }
 
     std::string EndText(int point) const {

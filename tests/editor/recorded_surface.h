@@ -32,15 +32,6 @@ class RecordedSurface final : public DrawingSurface {
         Add(Text(text, background), from, to);
     }
 
-    /// The elements whose line begins with `kind`, without it.
-    std::vector<std::string> All(const std::string& kind) const {
-        std::vector<std::string> found;
-        for (const std::string& line : drawn) {
-            if (line.starts_with(kind + " ")) found.push_back(line.substr(kind.size() + 1));
-        }
-        return found;
-    }
-
     std::vector<std::string> drawn;
 
   private:

@@ -20,10 +20,8 @@ double FlowAt(double reynolds) {
     return reynolds * 0.00785375 * 1e-3 / 0.1;
 }
 
-TEST(SectionGeometry, CircleAndEquivalentCircleOfARectangle) {
+TEST(SectionGeometry, OfARectangleIsItsEquivalentCircle) {
     Settings settings = Water();
-    EXPECT_DOUBLE_EQ(SectionGeometry(settings, 0.1, 0.5).area, 0.00785375);
-    EXPECT_EQ(SectionGeometry(settings, 0.1, 0.5).hydraulicDiameter, 0.1);
     settings.SectionType = Section::Rectangular;
     const SectionSize duct = SectionGeometry(settings, 0.2, 0.1);
     EXPECT_NEAR(duct.hydraulicDiameter, 0.15234, 5e-6);

@@ -6,8 +6,9 @@
 #include <random>
 #include <string>
 
-#include "hydraulics/network_run.h"
+#include "hydraulics/law_check.h"
 #include "model/invariants.h"
+#include "support/network_run.h"
 
 namespace idrova {
 namespace {
@@ -20,19 +21,19 @@ using testing::IsEmpty;
 class RandomNetwork {
   public:
     explicit RandomNetwork(std::uint32_t seed) : random_(seed) {
-        if (Chance(4)) TakeGas();
-        const int points = Whole(2, 24);
+        gas_ = Chance(4);
         level_ = gas_ || Chance(2);
+        if (gas_) MakeAir(*network);
+        const int points = Whole(2, 24);
         for (int i = 1; i <= points; ++i) AddPoint(2 * i, Whole(1, 10));
         for (int i = 2; i <= points; ++i) Connect(Whole(1, i - 1), i);
         for (int i = Whole(0, points / 2); i > 0; --i) Connect(Whole(1, points), Whole(1, points));
         const bool anywhere = Chance(8);
         for (int i = 1; i <= network->numtubo; ++i) {
-            const PipeRec pipe = network->Pipes[i];
-            for (const int end : {pipe.StartPoint, pipe.EndPoint}) {
-                if (pipes_[end] != 1) continue;
-                Give(anywhere ? Whole(1, network->numtubo) : i,
-                     anywhere ? Whole(1, network->npres) : end);
+            const PipeRec ends = network->Pipes[i];
+            for (const int end : {ends.StartPoint, ends.EndPoint}) {
+                const int pipe = anywhere ? Whole(1, network->numtubo) : i;
+                if (pipes_[end] == 1) Give(pipe, anywhere ? Whole(1, network->npres) : end);
             }
         }
     }
@@ -44,14 +45,6 @@ class RandomNetwork {
     bool Chance(int of) { return Whole(1, of) == 1; }
     float Real(double from, double to) {
         return static_cast<float>(std::uniform_real_distribution<double>(from, to)(random_));
-    }
-
-    void TakeGas() {
-        gas_ = true;
-        network->FluidDensity = 1.29;
-        network->FluidViscosity = 1.8e-5;
-        network->FluidCompressibility = 1;
-        network->EquationType = Equation::Compressible;
     }
 
     int AddPoint(int column, int row) {

@@ -4,47 +4,14 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "base/number_text.h"
-#include "hydraulics/compute_network.h"
 #include "hydraulics/pipe_drop.h"
-#include "support/networks.h"
-#include "support/scripted_boxes.h"
+#include "hydraulics/work_network.h"
 
 namespace idrova {
-
-/// Pipe 1 from point 1 to a component between points 2 and 3 of a cell, and from there to point 4
-/// pipe 2, which is shorter and thinner.
-inline NetworkBuilder CutPipe(CellKind kind, float length = 100, float diameter = 0.1F) {
-    NetworkBuilder network;
-    for (const int column : {2, 5, 5, 8}) network.AddPoint(column, 5);
-    network.AddPipe(1, 2, length, diameter);
-    network.AddPipe(3, 4, length / 2, diameter * 0.8F);
-    network.AddComponent(2, kind);
-    return network;
-}
-
-/// One run of a drawn network, and what came of it.
-struct NetworkRun {
-    explicit NetworkRun(NetworkBuilder& network, std::uint32_t seed = 1, Answer yesNo = Answer::No)
-        : boxes(yesNo) {
-        CopyNetwork(*network, *work);
-        outcome =
-            ComputeNetwork(*network, *work, false,
-                           {.boxes = boxes, .writeReport = [this] { ++reports; }, .seed = seed});
-    }
-
-    double Flow(int pipe) const { return work->WorkPipes[pipe].FlowRate; }
-    double Pressure(int point) const { return work->WorkPoints[point].Pressure; }
-
-    std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
-    RecordedBoxes boxes;
-    int reports = 0;
-    Outcome outcome;
-};
 
 /// Holds the results of a drawn network without deleted pipes against the laws, whatever way they
 /// were found.
@@ -120,9 +87,8 @@ class LawCheck {
 
     void CheckComponent(int number, const End& a, const End& b) {
         const CellRec& cell = project_.Cells[number];
-        const double toB = cell.Kind == CellKind::Pump && cell.Placed
-                               ? DeliverySide(cell, *a.second, *b.second)
-                               : Sign(a);
+        const bool isPump = cell.Kind == CellKind::Pump && cell.Placed;
+        const double toB = isPump ? DeliverySide(cell, *a.second, *b.second) : Sign(a);
         const double flow = toB * Sign(a) * a.second->FlowRate;
         if (flow < 0) return;  // against its direction: what it does then depends on the run
         const double area = 3.1415 / 4 * a.second->Diameter * a.second->Diameter;

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <memory>
+
+#include "hydraulics/compute_network.h"
+#include "support/networks.h"
+#include "support/scripted_boxes.h"
+
+namespace idrova {
+
+/// Pipe 1 from point 1 to a component between points 2 and 3 of a cell, and from there to point 4
+/// pipe 2, which is shorter and thinner.
+inline NetworkBuilder CutPipe(CellKind kind, float length = 100, float diameter = 0.1F) {
+    NetworkBuilder network;
+    for (const int column : {2, 5, 5, 8}) network.AddPoint(column, 5);
+    network.AddPipe(1, 2, length, diameter);
+    network.AddPipe(3, 4, length / 2, diameter * 0.8F);
+    network.AddComponent(2, kind);
+    return network;
+}
+
+inline void MakeAir(Project& project) {
+    project.FluidDensity = 1.2929;  // at 0 degrees Celsius and one atmosphere
+    project.FluidViscosity = 1.8e-5;
+    project.FluidCompressibility = 0.98;
+    project.FluidTemperature = 20;
+    project.EquationType = Equation::Compressible;
+}
+
+/// One run of a drawn network, and what came of it.
+struct NetworkRun {
+    explicit NetworkRun(NetworkBuilder& network, std::uint32_t seed = 1, Answer yesNo = Answer::No)
+        : boxes(yesNo) {
+        CopyNetwork(*network, *work);
+        outcome =
+            ComputeNetwork(*network, *work, false,
+                           {.boxes = boxes, .writeReport = [this] { ++reports; }, .seed = seed});
+    }
+
+    double Flow(int pipe) const { return work->WorkPipes[pipe].FlowRate; }
+    double Pressure(int point) const { return work->WorkPoints[point].Pressure; }
+
+    std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
+    RecordedBoxes boxes;
+    int reports = 0;
+    Outcome outcome;
+};
+
+}  // namespace idrova
