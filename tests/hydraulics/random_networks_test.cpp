@@ -23,9 +23,10 @@ class RandomNetwork {
     explicit RandomNetwork(std::uint32_t seed) : random_(seed) {
         gas_ = Chance(4);
         level_ = gas_ || Chance(2);
+        vertical_ = Chance(2);
         if (gas_) MakeAir(*network);
         const int points = Whole(2, 24);
-        for (int i = 1; i <= points; ++i) AddPoint(2 * i, Whole(1, 10));
+        for (int i = 1; i <= points; ++i) AddPoint(i);
         for (int i = 2; i <= points; ++i) Connect(Whole(1, i - 1), i);
         for (int i = Whole(0, points / 2); i > 0; --i) Connect(Whole(1, points), Whole(1, points));
         const bool anywhere = Chance(8);
@@ -47,8 +48,9 @@ class RandomNetwork {
         return static_cast<float>(std::uniform_real_distribution<double>(from, to)(random_));
     }
 
-    int AddPoint(int column, int row) {
-        const int point = network.AddPoint(column, row);
+    /// In one row or column, so that every pipe is straight.
+    int AddPoint(int place) {
+        const int point = vertical_ ? network.AddPoint(1, place) : network.AddPoint(place, 1);
         height_[point] = static_cast<std::int16_t>(level_ ? 0 : Whole(0, 20));
         return point;
     }
@@ -56,17 +58,16 @@ class RandomNetwork {
     void Connect(int start, int end) {
         if (start == end) return;
         if (!Chance(8)) return AddPipe(start, end);
-        const int column = 2 * (++cuts_ % 24) + 1;
-        const int row = 20 + Whole(0, 20);
-        const int a = AddPoint(column, row);
-        const int b = AddPoint(column, row);
+        const int place = 50 - cuts_++;
+        const int a = AddPoint(place);
+        const int b = AddPoint(place);
         height_[b] = height_[a];
         AddPipe(start, a);
         AddPipe(b, end);
         pipes_[a] = pipes_[b] = 0;
         CellRec& cell = network.AddComponent(a, Chance(2) ? CellKind::Pump : CellKind::Loss);
         cell.Placed = !Chance(5);
-        cell.Direction = static_cast<float>(Whole(1, 4));
+        cell.Direction = static_cast<float>(vertical_ ? Whole(1, 2) * 2 : Whole(0, 1) * 2 + 1);
         if (cell.Kind == CellKind::Pump) {
             cell.Param1 = -Real(0, 5000);
             cell.PumpConstant = Real(1e4, 5e5);
@@ -94,7 +95,7 @@ class RandomNetwork {
     }
 
     std::mt19937 random_;
-    bool gas_ = false, level_ = false;
+    bool gas_ = false, level_ = false, vertical_ = false;
     int cuts_ = 0, given_ = 0;
     std::map<int, int> pipes_;  ///< that meet in each point
     std::map<int, std::int16_t> height_;
