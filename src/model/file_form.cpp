@@ -46,10 +46,12 @@ std::string_view FileFormCaption(FilePurpose purpose) {
     return purpose == FilePurpose::Save ? "Idrova - Save project" : "Idrova - Open project";
 }
 
-FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder) {
+FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder,
+                       const Project& project) {
     FileForm form;
     form.purpose = purpose;
     form.folder = form.Text2 = folder.string();
+    if (purpose == FilePurpose::Save) form.Text4 = project.ProjectDescription;
     return form;
 }
 

@@ -25,7 +25,9 @@ struct FileForm {
 
 std::string_view FileFormCaption(FilePurpose purpose);
 
-FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder);
+/// The form as it opens; for saving, with the description that the project has.
+FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder,
+                       const Project& project);
 
 void ChooseFolder(FileForm& form, const std::filesystem::path& folder);
 

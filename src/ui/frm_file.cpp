@@ -44,7 +44,7 @@ void ShowText(QLineEdit& field, const std::string& text) {
 FrmFile::FrmFile(Program& program, FilePurpose purpose)
     : ChildWindow("FrmFile", ToQt(FileFormCaption(purpose))),
       program_(program),
-      form_(StartFileForm(purpose, program.lastFolder)),
+      form_(StartFileForm(purpose, program.lastFolder, program.project)),
       Drive1(Named(new QComboBox, "Drive1")),
       Dir1(Named<QListWidget>(new FolderList, "Dir1")),
       File1(Named(new QListWidget, "File1")),

@@ -112,7 +112,7 @@ void MDI::ShowOutcome() {
 }
 
 void MDI::OpenFile(const std::filesystem::path& path) {
-    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path());
+    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program_.project);
     ClickFile(form, path.filename().string(), program_.boxes);
     ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
     program_.lastFolder = path.parent_path();

@@ -19,7 +19,7 @@ namespace fs = std::filesystem;
 class FileCommands : public testing::Test {
   protected:
     bool Confirm(FilePurpose purpose, std::string_view name) {
-        FileForm form = StartFileForm(purpose, folder.Path());
+        FileForm form = StartFileForm(purpose, folder.Path(), *project);
         TypeName(form, name, boxes);
         form.Text4 = "typed";
         return ConfirmFileForm(form, *project, boxes, handOvers);
@@ -41,10 +41,11 @@ class FileCommands : public testing::Test {
 };
 
 TEST_F(FileCommands, NamesAndFiltersHaveForbiddenCharacters) {
-    FileForm form = StartFileForm(FilePurpose::Save, "/home");
+    FileForm form = StartFileForm(FilePurpose::Save, "/home", *project);
     EXPECT_EQ(FileFormCaption(form.purpose), "Idrova - Save project");
     EXPECT_EQ(FileFormCaption(FilePurpose::Open), "Idrova - Open project");
     EXPECT_EQ(form.Text1 + " " + form.Text2, "*.iv /home");
+    EXPECT_EQ(form.Text4, project->ProjectDescription) << "saving elsewhere keeps it";
     TypeName(form, "plant", boxes);
     EXPECT_EQ(form.Text2, "/home/plant");
     ChooseFolder(form, "/");
@@ -68,7 +69,7 @@ TEST_F(FileCommands, AClickShowsTheDescription) {
         {"Project description", ""}};
     for (const auto& [text, description] : cases) {
         PutFile(folder / "a.iv", text);
-        FileForm form = StartFileForm(FilePurpose::Open, folder.Path());
+        FileForm form = StartFileForm(FilePurpose::Open, folder.Path(), *project);
         ClickFile(form, "a.iv", boxes);
         EXPECT_EQ(form.Text2 + "|" + form.Text3, Path("a.iv") + "|a.iv");
         EXPECT_EQ(form.Text4, description);
