@@ -23,6 +23,7 @@ constexpr const char* kDeleteQuestion =
 constexpr ClickList kClickLists[] = {
     {"one pipe", "L2,5 L8,5", "1:1(2,5)-2(8,5)"},
     {"last column and row", "L50,50 L50,1", "1:1(50,50)-2(50,1)"},
+    {"scrolled, beyond the grid at first", "S11,21 L41,1 L2,1 L5,1", "1:1(12,21)-2(15,21)"},
     {"same cell twice", "L2,5 L2,5 L3,3 L3,7", "1:1(3,3)-2(3,7)", "Length 0"},
     {"slanted", "L2,5 L3,6 L3,3 L3,7", "1:1(3,3)-2(3,7)", "Only orthogonsl paths"},
 

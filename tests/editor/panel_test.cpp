@@ -90,7 +90,6 @@ TEST(Panel, ShowsAPipeAsItIs) {
     EXPECT_EQ(plant.panel.caption, "Pipe 2");
     EXPECT_EQ(plant.panel.start, (PointPanel{"P2", "Z2[m]", "0", true, "2.5", "", false}));
     EXPECT_EQ(plant.panel.end, (PointPanel{"P3", "Z3[m]", "7", false, "", ".333", true}));
-    EXPECT_EQ(plant.panel.unitLabel, "[bar]");
 }
 
 TEST(Panel, LeavesTheSidesOfARectangleAlone) {

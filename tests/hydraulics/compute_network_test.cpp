@@ -92,6 +92,7 @@ TEST(ComputeNetwork, WorkingPointOfALine) {
         EXPECT_THAT(run.outcome.notes, IsEmpty());
         for (const int pipe : {1, 2}) EXPECT_NEAR(run.Flow(pipe), sign * expected, 3e-4 * expected);
         EXPECT_EQ(network->Pipes[1].FlowRate, run.work->WorkPipes[1].FlowRate);
+        EXPECT_EQ(network->Points[2].Pressure, run.work->WorkPoints[2].Pressure);
         const double rise = run.Pressure(3) - run.Pressure(2);
         EXPECT_NEAR(rise, sign * line.Rise(expected), 1e-3 * line.p1);
     }

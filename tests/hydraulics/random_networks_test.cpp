@@ -25,7 +25,7 @@ class RandomNetwork {
         level_ = gas_ || Chance(2);
         vertical_ = Chance(2);
         if (gas_) MakeAir(*network);
-        const int points = Whole(2, 24);
+        const int points = Whole(2, Chance(4) ? 2 : 24);
         for (int i = 1; i <= points; ++i) AddPoint(i);
         for (int i = 2; i <= points; ++i) Connect(Whole(1, i - 1), i);
         for (int i = Whole(0, points / 2); i > 0; --i) Connect(Whole(1, points), Whole(1, points));
