@@ -18,7 +18,8 @@ constexpr float kBar = kPascalPerBar;
 class TableNetwork : public testing::Test {
   protected:
     void Load(const std::vector<TableRowRec>& rows) {
-        ClearTable(*project, texts);
+        project->TableRows.fill({});
+        texts = TableTexts();
         std::ranges::copy(rows, project->TableRows.begin() + kFirstTableRow);
         FillTable(*project, texts);
     }
@@ -38,22 +39,18 @@ TEST_F(TableNetwork, RowsBecomePipesAndPoints) {
           {3, 0, 5, 0, .05F, 20}});
     ASSERT_TRUE(Convert());
 
-    EXPECT_EQ(project->numins, 2) << "the list ends at the row that misses a point";
-    EXPECT_EQ(work->WorkPipeCount, 2);
+    EXPECT_EQ(work->WorkPipeCount, 2) << "the list ends at the row that misses a point";
     EXPECT_EQ(work->WorkPointCount, 3);
     const PipeRec second{0, 20, .05F, 2, 3, 10, 0, 0, 0, 3, -4, 0, 2};
     EXPECT_EQ(work->WorkPipes[2], second);
     EXPECT_EQ(work->WorkPipes[1].Z1, 2) << "halves go to the even neighbour";
     EXPECT_EQ(work->WorkPipes[1].Z2, 4);
-    EXPECT_TRUE(work->WorkFlowUnknown[1]);
-    EXPECT_FALSE(work->WorkFlowUnknown[2]) << "a typed zero is a given flow";
     EXPECT_EQ(work->WorkPoints[1], (PointRec{2 * kBar, 10}));
-    EXPECT_FALSE(work->WorkPressureUnknown[1]);
-    EXPECT_TRUE(work->WorkPressureUnknown[2]);
-    EXPECT_FALSE(work->WorkPressureUnknown[3]) << "a typed zero is a given pressure";
-}
+    EXPECT_TRUE(work->WorkFlowUnknown[1] && work->WorkPressureUnknown[2]);
+    EXPECT_FALSE(work->WorkFlowUnknown[2] || work->WorkPressureUnknown[1] ||
+                 work->WorkPressureUnknown[3])
+        << "a typed zero is a given value";
 
-TEST_F(TableNetwork, LastRowOfAPointDecides) {
     // Ends of different kinds are not compared; in one row the end is looked at after the start.
     Load({{1, kBar, 2, 2 * kBar}, {2, kBar, 3, 4 * kBar}, {3, 3 * kBar, 3, 4 * kBar}});
     ASSERT_TRUE(Convert());
@@ -72,24 +69,21 @@ TEST_F(TableNetwork, RefusedTablesLeaveTheWorkingNetwork) {
     for (const auto& [rows, message] : cases) {
         Load(rows);
         work->WorkPipeCount = 7;
-        work->WorkPipes[1].Length = 70;
         boxes.Expect(message);
         EXPECT_FALSE(Convert());
         EXPECT_EQ(work->WorkPipeCount, 7);
-        EXPECT_EQ(work->WorkPipes[1].Length, 70);
     }
 }
 
 TEST_F(TableNetwork, FullAndEmptyTables) {
     ASSERT_TRUE(Convert());
     EXPECT_EQ(work->WorkPipeCount, 0);
-    for (int row = kFirstTableRow; row <= kLastTableRow + 1; ++row) {
-        project->TableRows[row].StartPoint = static_cast<std::int16_t>(row - 1);
-        project->TableRows[row].EndPoint = static_cast<std::int16_t>(row);
+    for (std::int16_t row = kFirstTableRow; row <= kLastTableRow + 1; ++row) {
+        project->TableRows[row] = {.StartPoint = static_cast<std::int16_t>(row - 1),
+                                   .EndPoint = row};
     }
     ASSERT_TRUE(Convert());
-    EXPECT_EQ(project->numins, 99);
-    EXPECT_EQ(work->WorkPointCount, 100);
+    EXPECT_EQ(work->WorkPipeCount * 1000 + work->WorkPointCount, 99'100);
 }
 
 }  // namespace
