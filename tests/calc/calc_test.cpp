@@ -314,18 +314,19 @@ double Found(const Json& json, const Stated& stated) {
 TEST_F(Calc, SamplesAreWhatAUserCouldDrawAndSettleToWhatTheirReadmeStates) {
     for (const Sample& sample : kSamples) {
         SCOPED_TRACE(sample.file);
-        const std::string path = IDROVA_DATA "/samples/" + sample.file;
         const auto project = std::make_unique<Project>();
         InitialiseProject(*project);
         RecordedBoxes boxes;
         Editor editor;
-        ASSERT_EQ(OpenProject(*project, path, boxes), OpenOutcome::Opened);
+        ASSERT_EQ(OpenProject(*project, IDROVA_DATA "/samples/" + sample.file, boxes),
+                  OpenOutcome::Opened);
         RedrawProject(*project, editor);
         EXPECT_EQ(BrokenInvariants(*project, editor), std::vector<std::string>());
         EXPECT_NE(project->ProjectDescription, "");
         for (const std::string seed : {"1", "2", "3"}) {
-            const CalcResult run = Run("--json --no-report --data '" IDROVA_DATA "' --seed " +
-                                       seed + " " + sample.options + " " + path);
+            const CalcResult run =
+                Run("--json --no-report --data '" IDROVA_DATA "' --seed " + seed + " " +
+                    sample.options + " " IDROVA_DATA "/samples/" + sample.file);
             EXPECT_EQ(run.status, 0);
             EXPECT_EQ(run.err, "");
             const Json json = run.Parsed();
