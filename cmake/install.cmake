@@ -44,4 +44,7 @@ install(FILES data/icons/project.svg DESTINATION ${icons}/hicolor/scalable/mimet
 
 install(FILES README.md packaging/debian/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR})
+if(TARGET ui)
+    install(FILES ${manual_pdf} DESTINATION ${CMAKE_INSTALL_DOCDIR})
+endif()
 install_packed(packaging/debian/changelog ${CMAKE_INSTALL_DOCDIR} changelog.Debian)

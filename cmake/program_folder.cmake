@@ -2,6 +2,7 @@
 # The programs of a build tree stand in one folder, bin, with the icons and the databases beside
 # them: started from there they work in that folder and leave the user's own data alone.
 set(program_folder ${PROJECT_BINARY_DIR}/bin)
+set(manual_pdf ${program_folder}/IDROVA.PDF)
 
 foreach(program IN ITEMS idrova idrova-calc)
     if(TARGET ${program})

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# cmake -DBUILD=<build folder> -DSTAGE=<folder> -DAPP_ID=<id> -P installed_tree.cmake
+# cmake -DBUILD=<build folder> -DSTAGE=<folder> -DAPP_ID=<id> -DDESKTOP=<0|1> -P installed_tree.cmake
 # Installs below STAGE and uses what is there as a user of the installed program does.
 cmake_minimum_required(VERSION 3.25)
 
@@ -47,6 +47,17 @@ run(update-mime-database ${STAGE}/share/mime)
 first_match(pattern ${STAGE}/share/mime/globs2 "^[0-9]+:${type}:(.*)")
 if(NOT pattern STREQUAL "*.iv")
     message(FATAL_ERROR "${type} stands for ${pattern}")
+endif()
+
+# The manual is made by the build, with its pictures in it.
+if(DESKTOP)
+    set(manual ${STAGE}/share/doc/idrova/IDROVA.PDF)
+    expect_file(${manual})
+    file(READ ${manual} start LIMIT 5)
+    file(SIZE ${manual} size)
+    if(NOT start STREQUAL "%PDF-" OR size LESS 300000)
+        message(FATAL_ERROR "${manual} is no manual: ${size} bytes, ${start}")
+    endif()
 endif()
 
 # Every sample is computed from the installed files alone.
