@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The drawing in the real window: what a user waits for after a click, repaint included.
+// The real windows: what a user waits for after a click or a key, repaint included.
 #include <benchmark/benchmark.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QGraphicsView>
+#include <QLineEdit>
 #include <QTest>
 #include <memory>
 
@@ -106,6 +108,27 @@ void CheckInvariants(benchmark::State& state) {
     for (auto _ : state) benchmark::DoNotOptimize(BrokenInvariants(plant.project, plant.editor));
 }
 BENCHMARK(CheckInvariants)->Unit(benchmark::kMillisecond);
+
+void SinglePipeKey(benchmark::State& state) {
+    const TempFolder folder;
+    NoBoxes boxes;
+    const auto program = std::make_unique<Program>(folder.Path(), boxes);
+    MDI mdi(*program);
+    program->project.FluidDensity = 998.2;
+    program->project.FluidViscosity = 0.001002;
+    mdi.findChild<QAction*>("sintub")->trigger();
+    mdi.show();
+    const QWidget& window = *mdi.Windows().Find("FrmSin");
+    const auto box = [&window](const char* name) { return window.findChild<QLineEdit*>(name); };
+    box("Text2")->setText("2");
+    box("Text3")->setText("1");
+    box("Text5")->setText("53.8");
+    for (auto _ : state) {
+        box("Text1")->setText(box("Text1")->text() == "100" ? "101" : "100");
+        QApplication::processEvents();
+    }
+}
+BENCHMARK(SinglePipeKey)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace idrova

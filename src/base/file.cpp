@@ -110,9 +110,9 @@ std::string TemporaryPattern(const fs::path& target) {
 }
 
 /// Writes, flushes and closes the file that is to take the target's place.
-bool Fill(FileHandle& handle, std::string_view bytes, const fs::path& target) {
+bool Fill(FileHandle& handle, std::string_view bytes, const fs::path& target, Flush flush) {
     return WriteAll(handle.Get(), bytes) && ::fchmod(handle.Get(), PermissionsFor(target)) == 0 &&
-           ::fsync(handle.Get()) == 0 && handle.Close();
+           (flush == Flush::Never || ::fsync(handle.Get()) == 0) && handle.Close();
 }
 
 }  // namespace
@@ -138,7 +138,7 @@ Result<std::string> ReadWholeFile(const fs::path& path, std::size_t maxBytes) {
     }
 }
 
-Status WriteWholeFile(const fs::path& path, std::string_view bytes, OldFile old) {
+Status WriteWholeFile(const fs::path& path, std::string_view bytes, OldFile old, Flush flush) {
     const Result<fs::path> target = FollowLinks(path);
     if (!target) return Failure{target.Error()};
     if (Status replaceable = CheckReplaceable(*target); !replaceable) return replaceable;
@@ -147,7 +147,7 @@ Status WriteWholeFile(const fs::path& path, std::string_view bytes, OldFile old)
     FileHandle handle(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!handle.IsOpen()) return SystemFailure("Cannot write", *target, errno);
 
-    bool done = Fill(handle, bytes, *target);
+    bool done = Fill(handle, bytes, *target, flush);
     if (done && old == OldFile::KeptBeside) KeepPrevious(*target);
     done = done && ::rename(temporary.c_str(), target->c_str()) == 0;
     if (!done) {
@@ -155,7 +155,9 @@ Status WriteWholeFile(const fs::path& path, std::string_view bytes, OldFile old)
         ::unlink(temporary.c_str());
         return SystemFailure("Cannot write", *target, reason);
     }
-    FlushFolder(target->has_parent_path() ? target->parent_path() : fs::path("."));
+    if (flush == Flush::ToDisk) {
+        FlushFolder(target->has_parent_path() ? target->parent_path() : fs::path("."));
+    }
     return Done{};
 }
 

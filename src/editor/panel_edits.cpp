@@ -94,7 +94,7 @@ void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
     if (pipe == nullptr || size < 1 || size > kNominalSizes) return;
     SetNominalSize(*pipe, size);
     panel.nominalSize = size;
-    panel.innerSize = GeneralText(InnerDiameters[size]);
+    panel.innerSize = InnerDiameterText(size);
     panel.outerSize = GeneralText(OuterDiameters[size]);
 }
 

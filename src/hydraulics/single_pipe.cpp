@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hydraulics/single_pipe.h"
 
+#include <utility>
+
 #include "base/number_text.h"
 
 namespace idrova {
@@ -66,6 +68,20 @@ std::optional<BoxText> ComputedText(const SinglePipe& pipe, const WorkNetwork& w
     }
 }
 
+/// Has the pipes computed and reported as round ones for as long as it lives.
+class RoundSection {
+  public:
+    explicit RoundSection(Settings& settings)
+        : settings_(settings), chosen_(std::exchange(settings.SectionType, Section::Circular)) {}
+    RoundSection(const RoundSection&) = delete;
+    RoundSection& operator=(const RoundSection&) = delete;
+    ~RoundSection() { settings_.SectionType = chosen_; }
+
+  private:
+    Settings& settings_;
+    Section chosen_;
+};
+
 bool StoresResults(RunEnd end) {
     return end == RunEnd::Settled || end == RunEnd::Unsettled;
 }
@@ -124,6 +140,7 @@ SinglePipeResult SinglePipeCompute(const SinglePipe& pipe, Project& project, Wor
     if (pipe.diameter == 0 || lengthMissing) return result;
 
     BuildSinglePipeNetwork(pipe, work);
+    const RoundSection round(project);
     result.outcome = ComputeNetwork(project, work, true, services);
     if (StoresResults(result.outcome.end)) result.box = ComputedText(pipe, work);
     return result;

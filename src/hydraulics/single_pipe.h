@@ -16,7 +16,8 @@ constexpr int kPipeQuantities = 5;
 
 enum class FlowDirection { From1To2 = 1, From2To1 = 2 };
 
-/// One straight, level pipe between the points 1 and 2.
+/// One straight, level pipe between the points 1 and 2. Always round, whatever section the project
+/// has chosen for its network: only a diameter is asked for.
 struct SinglePipe {
     double pressure1 = 0;  ///< bar
     double pressure2 = 0;  ///< bar

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/pipe_sizes.h"
 
+#include "base/number_text.h"
+
 namespace idrova {
 
 int NominalSizeOf(float diameter) {
@@ -12,6 +14,11 @@ int NominalSizeOf(float diameter) {
         if (diameter == static_cast<float>(inside / 1000)) return size;
     }
     return 0;
+}
+
+std::string InnerDiameterText(int size) {
+    if (size < 1 || size > kNominalSizes) return "";
+    return GeneralText(InnerDiameters[static_cast<std::size_t>(size)]);
 }
 
 }  // namespace idrova

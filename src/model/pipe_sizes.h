@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace idrova {
@@ -24,5 +25,8 @@ constexpr std::array<double, kNominalSizeSlots + 1> OuterDiameters = {
 /// Position of the nominal size whose inside diameter is `diameter` (m); 0 when there is none.
 /// A diameter that was set from the list is always found again.
 int NominalSizeOf(float diameter);
+
+/// What a diameter field (mm) shows once a nominal size is chosen; empty outside 1 .. 12.
+std::string InnerDiameterText(int size);
 
 }  // namespace idrova

@@ -26,7 +26,7 @@ void LeaveNetwork(Project& project, const HandOvers& handOvers) {
 }
 
 void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
-    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
+    handOvers.ClearTable();
     ResetProject(project, handOvers);
     ClearNetwork(project);
     project.ProjectName = kNewProject;

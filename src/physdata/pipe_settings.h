@@ -27,7 +27,6 @@ constexpr std::array<RoughnessPreset, 5> kRoughnessPresets = {{
 }};
 
 constexpr std::string_view kUserRoughnessItem = "tt";
-constexpr std::string_view kUserRoughnessCaption = "user value";
 
 /// The command panel's roughness label: caption, or the beginning of it, and roughness in m.
 std::string RoughnessLabel(const RoughnessPreset& preset, double roughness);

@@ -19,14 +19,20 @@ bool Exists(const fs::path& path) {
     return fs::exists(path, ignored);
 }
 
+/// Results can be computed again, and one key in the single-pipe window writes them: a wait for the
+/// disk would be felt.
+Status Write(const fs::path& file, std::string_view report) {
+    return WriteWholeFile(file, report, OldFile::Dropped, Flush::Never);
+}
+
 }  // namespace
 
 Status StoreReport(const Settings& settings, std::string_view report, const fs::path& folder) {
     const fs::path file = folder / kResultsFile;
-    if (!settings.ResultsInSequence || !Exists(file)) return WriteWholeFile(file, report);
+    if (!settings.ResultsInSequence || !Exists(file)) return Write(file, report);
     const Result<std::string> old = ReadWholeFile(file, kMostResultsBytes);
     if (!old) return Failure{old.Error()};
-    return WriteWholeFile(file, *old + std::string(report));
+    return Write(file, *old + std::string(report));
 }
 
 bool WriteReport(const Settings& settings, std::string_view report, const fs::path& folder,

@@ -3,11 +3,18 @@
 
 #include <array>
 
+#include "physdata/pipe_settings.h"
+
 namespace idrova {
 
 namespace {
 
 using enum MenuKind;
+
+/// A caption of the panel without the tab at its end, after which a menu shows a shortcut.
+constexpr std::string_view MenuCaption(const RoughnessPreset& preset) {
+    return preset.caption.substr(0, preset.caption.find('\t'));
+}
 
 constexpr MenuEntry kMenuTable[] = {
     {.name = "File", .parent = "", .caption = "File", .kind = Menu},
@@ -72,28 +79,27 @@ constexpr MenuEntry kMenuTable[] = {
     {.name = "Rugosita", .parent = "Tubi", .caption = "Roughness", .kind = Menu},
     {.name = "t1",
      .parent = "Rugosita",
-     .caption = "zincate steel",
+     .caption = MenuCaption(kRoughnessPresets[0]),
      .kind = OneOf,
-     .tip = "Roughness 0.05 mm for all pipes",
-     .checkedAtStart = true},
+     .tip = "Roughness 0.05 mm for all pipes"},
     {.name = "t2",
      .parent = "Rugosita",
-     .caption = "stainless stell / polyethylene / copper",
+     .caption = MenuCaption(kRoughnessPresets[1]),
      .kind = OneOf,
      .tip = "Roughness 0.02 mm for all pipes"},
     {.name = "t3",
      .parent = "Rugosita",
-     .caption = "rough cast iron / concrete",
+     .caption = MenuCaption(kRoughnessPresets[2]),
      .kind = OneOf,
      .tip = "Roughness 0.4 mm for all pipes"},
     {.name = "t4",
      .parent = "Rugosita",
-     .caption = "partially rusty",
+     .caption = MenuCaption(kRoughnessPresets[3]),
      .kind = OneOf,
      .tip = "Roughness 2 mm for all pipes"},
     {.name = "t5",
      .parent = "Rugosita",
-     .caption = "strong incrostations",
+     .caption = MenuCaption(kRoughnessPresets[4]),
      .kind = OneOf,
      .mnemonic = 7,
      .tip = "Roughness 5 mm for all pipes"},
@@ -108,8 +114,7 @@ constexpr MenuEntry kMenuTable[] = {
      .parent = "Sezione",
      .caption = "Circular",
      .kind = OneOf,
-     .tip = "All pipes are round",
-     .checkedAtStart = true},
+     .tip = "All pipes are round"},
     {.name = "Rettangolare",
      .parent = "Sezione",
      .caption = "Rectangular",
@@ -126,20 +131,19 @@ constexpr MenuEntry kMenuTable[] = {
      .parent = "Modalita",
      .caption = "Graphic",
      .kind = OneOf,
-     .shortcut = "F2",
-     .tip = "Draw the plant on the grid",
-     .checkedAtStart = true},
+     .shortcut = "Ctrl+1",
+     .tip = "Draw the plant on the grid"},
     {.name = "Tabella",
      .parent = "Modalita",
      .caption = "Table",
      .kind = OneOf,
-     .shortcut = "F3",
+     .shortcut = "Ctrl+2",
      .tip = "Type the network into a table"},
     {.name = "sintub",
      .parent = "Modalita",
      .caption = "single pipe",
      .kind = OneOf,
-     .shortcut = "F4",
+     .shortcut = "Ctrl+3",
      .tip = "Compute one pipe on its own"},
 
     {.name = "Correlazioni", .parent = "", .caption = "Equation", .kind = Menu},
@@ -147,8 +151,7 @@ constexpr MenuEntry kMenuTable[] = {
      .parent = "Correlazioni",
      .caption = "Incompressible fluid",
      .kind = OneOf,
-     .tip = "Liquids, and gases with small pressure drops",
-     .checkedAtStart = true},
+     .tip = "Liquids, and gases with small pressure drops"},
     {.name = "Cor2",
      .parent = "Correlazioni",
      .caption = "Compressible fluid (p>50 mbar)",
@@ -178,8 +181,7 @@ constexpr MenuEntry kMenuTable[] = {
      .parent = "Pressione",
      .caption = "bar",
      .kind = OneOf,
-     .tip = "Type and show pressures in bar (1 bar is 101325 Pa)",
-     .checkedAtStart = true},
+     .tip = "Type and show pressures in bar (1 bar is 101325 Pa)"},
     {.name = "p_mbar",
      .parent = "Pressione",
      .caption = "mbar",
@@ -202,8 +204,7 @@ constexpr MenuEntry kMenuTable[] = {
      .caption = "On line help",
      .kind = Check,
      .shortcut = "Shift+F1",
-     .tip = "Show or hide the hints",
-     .checkedAtStart = true},
+     .tip = "Show or hide the hints"},
     {.name = "About", .parent = "Help", .caption = "Info", .kind = Menu},
     {.name = "Logo", .parent = "About", .caption = "Logo", .tip = "About this program"},
     {.name = "Help",

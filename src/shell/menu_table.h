@@ -26,8 +26,7 @@ struct MenuEntry {
     std::size_t mnemonic = 0;        ///< position of the underlined letter in the caption
     std::string_view shortcut = {};  ///< portable key text, or empty
     std::string_view tip = {};       ///< one line for the status bar
-    bool checkedAtStart = false;
-    bool separated = false;  ///< a separator stands before it
+    bool separated = false;          ///< a separator stands before it
 };
 
 /// The whole menu bar in display order; a menu stands before its entries.

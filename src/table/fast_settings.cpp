@@ -5,7 +5,6 @@
 #include <span>
 
 #include "base/number_text.h"
-#include "model/pipe_sizes.h"
 #include "table/messages.h"
 
 namespace idrova {
@@ -42,11 +41,6 @@ void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxe
     for (PipeRec& pipe : PipesInUse(project)) {
         pipe.Diameter = ToSingle(number / kMillimetresPerMetre);
     }
-}
-
-std::string FastDiameterText(int nominalSize) {
-    if (nominalSize < 1 || nominalSize > kNominalSizes) return "";
-    return GeneralText(InnerDiameters[nominalSize]);
 }
 
 std::string FastLengthText(std::string_view text) {

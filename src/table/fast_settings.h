@@ -19,9 +19,6 @@ void SetAllLengths(Project& project, std::string_view text, MessageBoxes& boxes)
 /// `text` in mm; the outside size stays.
 void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxes);
 
-/// What the diameter field shows once a nominal size (1 .. 12) is chosen, mm.
-std::string FastDiameterText(int nominalSize);
-
 /// What the length field shows once `text` was typed: "0" in the place of a negative number.
 std::string FastLengthText(std::string_view text);
 

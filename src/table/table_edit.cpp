@@ -43,8 +43,8 @@ class RowEdit {
     }
 
     void TypePressure(const RowEnd& end, std::string_view text) {
-        const double pressure = ReadNumber(text) * project_.PressureUnitFactor;
-        SetPressure(end, {std::string(text), ToSingle(pressure)});
+        const CellUnit unit = UnitOf(project_, end.pressureColumn);
+        SetPressure(end, {std::string(text), unit.Stored(ReadNumber(text))});
     }
 
   private:
@@ -52,7 +52,8 @@ class RowEdit {
 
     PressureCell CopyOf(const TableRowRec& row, const RowEnd& end) const {
         if (!(row.*end.given)) return {};
-        return {PressureCellText(project_, row.*end.pressure), row.*end.pressure};
+        const CellUnit unit = UnitOf(project_, end.pressureColumn);
+        return {unit.TextOf(row.*end.pressure), row.*end.pressure};
     }
 
     template <typename Visit>
@@ -105,6 +106,7 @@ void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::s
 
     texts.Set(row, column, text);
     const double number = ReadNumber(text);
+    const float stored = UnitOf(project, column).Stored(number);
     TableRowRec& data = edit.Row();
     switch (column) {
         case kStartPoint:
@@ -112,20 +114,20 @@ void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::s
         case kEndPoint:
             return edit.NamePoint(kEnd, number);
         case kDiameter:
-            data.RowDiameter = ToSingle(number / kMillimetresPerMetre);
+            data.RowDiameter = stored;
             return;
         case kLength:
-            data.RowLength = ToSingle(number);
+            data.RowLength = stored;
             return;
         case kFlowRate:
-            data.RowFlowRate = ToSingle(number / kSecondsPerHour);
+            data.RowFlowRate = stored;
             data.FlowGiven = !text.empty();
             return;
         case kZ1:
-            data.RowZ1 = ToSingle(number);
+            data.RowZ1 = stored;
             return;
         case kZ2:
-            data.RowZ2 = ToSingle(number);
+            data.RowZ2 = stored;
             return;
         default:
             return;
@@ -136,7 +138,7 @@ void ChooseNominalSize(Project& project, TableTexts& texts, int row, int size) {
     if (size < 1 || size > kNominalSizes) return;
     ChangeCell(project, texts, row, table_column::kNominalSize,
                std::string(NominalSizeNames[size]) + '"');
-    ChangeCell(project, texts, row, table_column::kDiameter, GeneralText(InnerDiameters[size]));
+    ChangeCell(project, texts, row, table_column::kDiameter, InnerDiameterText(size));
 }
 
 }  // namespace idrova

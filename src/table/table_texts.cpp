@@ -10,29 +10,20 @@ bool InTable(int row, int column) {
     return row >= 1 && row <= kTableLines && column >= 0 && column < kTableColumns;
 }
 
-std::string NumberCellText(double value) {
-    return GeneralText(static_cast<float>(value));
-}
-
-void FillCell(TableTexts& texts, int row, int column, bool shown, const std::string& text) {
-    if (shown) texts.Set(row, column, text);
-}
-
 void FillRow(const Project& project, TableTexts& texts, int row) {
     using namespace table_column;
     const TableRowRec& data = project.TableRows[row];
-    const auto fill = [&](int column, double value, bool given = false) {
-        FillCell(texts, row, column, value != 0 || given, NumberCellText(value));
+    const auto fill = [&](int column, float value, bool given = false) {
+        if (value == 0 && !given) return;
+        texts.Set(row, column, UnitOf(project, column).TextOf(value));
     };
     fill(kStartPoint, data.StartPoint);
     fill(kEndPoint, data.EndPoint);
-    FillCell(texts, row, kStartPressure, data.StartPressure != 0 || data.P1Given,
-             PressureCellText(project, data.StartPressure));
-    FillCell(texts, row, kEndPressure, data.EndPressure != 0 || data.P2Given,
-             PressureCellText(project, data.EndPressure));
-    fill(kDiameter, static_cast<double>(data.RowDiameter) * kMillimetresPerMetre);
+    fill(kStartPressure, data.StartPressure, data.P1Given);
+    fill(kEndPressure, data.EndPressure, data.P2Given);
+    fill(kDiameter, data.RowDiameter);
     fill(kLength, data.RowLength);
-    fill(kFlowRate, static_cast<double>(data.RowFlowRate) * kSecondsPerHour, data.FlowGiven);
+    fill(kFlowRate, data.RowFlowRate, data.FlowGiven);
     fill(kZ1, data.RowZ1);
     fill(kZ2, data.RowZ2);
 }
@@ -64,22 +55,33 @@ bool TableTexts::IsPainted(int row, int column) const {
            At(row, column).empty();
 }
 
-std::string PressureCellText(const Project& project, float pressure) {
-    const double factor = project.PressureUnitFactor;
-    const double shown = static_cast<double>(pressure) / factor;
+float CellUnit::Stored(double number) const {
+    return ToSingle(number * multiplier / divisor);
+}
+
+std::string CellUnit::TextOf(float stored) const {
+    const double shown = static_cast<double>(stored) * divisor / multiplier;
     const double sixDigits = ReadNumber(FormatNumber(shown, "0.00000E+0"));
-    return NumberCellText(ToSingle(sixDigits * factor) == pressure ? sixDigits : shown);
+    return GeneralText(static_cast<float>(Stored(sixDigits) == stored ? sixDigits : shown));
+}
+
+CellUnit UnitOf(const Settings& settings, int column) {
+    using namespace table_column;
+    switch (column) {
+        case kStartPressure:
+        case kEndPressure:
+            return {.multiplier = settings.PressureUnitFactor};
+        case kDiameter:
+            return {.divisor = kMillimetresPerMetre};
+        case kFlowRate:
+            return {.divisor = kSecondsPerHour};
+        default:
+            return {};
+    }
 }
 
 void FillTable(const Project& project, TableTexts& texts) {
     for (int row = kFirstTableRow; row <= kLastTableRow; ++row) FillRow(project, texts, row);
-}
-
-void ClearTable(Project& project, TableTexts& texts) {
-    texts = TableTexts();
-    for (int row = kFirstTableRow; row <= kLastTableRow; ++row) {
-        project.TableRows[row] = TableRowRec();
-    }
 }
 
 }  // namespace idrova

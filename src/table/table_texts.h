@@ -31,15 +31,23 @@ class TableTexts {
     std::array<Line, kTableLines + 1> lines_;
 };
 
-/// A pressure (Pa) in the unit of the panels, as a table cell shows it: with six digits when they
-/// stand for exactly this pressure, so that 82.9 bar does not come back as 82.89999.
-std::string PressureCellText(const Project& project, float pressure);
+/// What the number in a cell stands for: the SI value is number * multiplier / divisor.
+struct CellUnit {
+    double multiplier = 1;
+    double divisor = 1;
+
+    float Stored(double number) const;
+
+    /// The text of a stored value: of six digits when they stand for exactly this value, so that
+    /// 82.9 bar does not come back as 82.89999.
+    std::string TextOf(float stored) const;
+};
+
+/// The unit of a column; pressures have that of the panels.
+CellUnit UnitOf(const Settings& settings, int column);
 
 /// Writes the fields that are not 0, and the zeros that are given values, into their cells. Other
 /// cells keep what they show.
 void FillTable(const Project& project, TableTexts& texts);
-
-/// Empties every data cell and with it its field.
-void ClearTable(Project& project, TableTexts& texts);
 
 }  // namespace idrova

@@ -42,6 +42,7 @@ void AttachHandOvers(MDI& mdi) {
     };
     steps.RereadComponents = [&program] {
         LoadComponentDatabases(program.components, program.folder, program.boxes);
+        program.showComponents();
     };
     steps.ClearTable = [&mdi, &program] {
         program.table = TableTexts();

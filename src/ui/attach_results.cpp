@@ -14,7 +14,9 @@ namespace {
 
 void PrintLastResults(MDI& mdi) {
     Program& program = mdi.State();
-    const std::string report = ReportText(program.project, program.work, CurrentReportTime());
+    const std::string report = program.report.empty()
+                                   ? ReportText(program.project, program.work, CurrentReportTime())
+                                   : program.report;
     PrintReport(report, program.boxes,
                 [&](const std::string& text) { PrintText(text, &mdi, program.boxes); });
 }

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <optional>
-#include <string>
 
 #include "hydraulics/compute_network.h"
 #include "hydraulics/run_settings.h"
-#include "results/report.h"
-#include "results/results_file.h"
+#include "results/messages.h"
 #include "table/table_network.h"
 #include "ui/commands.h"
 #include "ui/frm_ava.h"
@@ -13,6 +11,7 @@
 #include "ui/mdi.h"
 #include "ui/menu_bar.h"
 #include "ui/program.h"
+#include "ui/run_services.h"
 
 namespace idrova {
 
@@ -43,27 +42,25 @@ class BoxesOfRun final : public MessageBoxes {
     std::optional<FrmAva>& progress_;
 };
 
-void Calculate(MDI& mdi) {
+Outcome Compute(MDI& mdi) {
     Program& program = mdi.State();
-    mdi.TakeEdits();
-    if (!FillWorkNetwork(program)) return;
+    if (!FillWorkNetwork(program)) return {};  // refused
     std::optional<FrmAva> progress;
     BoxesOfRun boxes(program.boxes, progress);
-    const RunServices services{.boxes = boxes,
-                               .writeReport =
-                                   [&] {
-                                       const std::string report = ReportText(
-                                           program.project, program.work, CurrentReportTime());
-                                       WriteReport(program.project, report, program.folder, boxes);
-                                       progress.reset();
-                                   },
-                               .showProgress =
-                                   [&](const RunProgress& shown) {
-                                       if (!progress) progress.emplace(&mdi);
-                                       progress->ShowProgress(shown.closeness, shown.passes);
-                                   },
-                               .seed = {}};
-    program.outcome = ComputeNetwork(program.project, program.work, false, services);
+    RunServices services = ServicesOfRun(program, boxes, [&](const Status& stored) {
+        progress.reset();
+        if (!stored) boxes.Show({stored.Error(), kResultsTitle});
+    });
+    services.showProgress = [&](const RunProgress& shown) {
+        if (!progress) progress.emplace(&mdi);
+        progress->ShowProgress(shown.closeness, shown.passes);
+    };
+    return ComputeNetwork(program.project, program.work, false, services);
+}
+
+void Calculate(MDI& mdi) {
+    mdi.TakeEdits();
+    mdi.State().outcome = Compute(mdi);
     mdi.ShowOutcome();
     mdi.ShowNetwork();
     mdi.ShowSettings();

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/editor_state.h"
 #include "shell/shell_commands.h"
 #include "ui/child_windows.h"
 #include "ui/commands.h"
@@ -13,7 +14,13 @@ namespace idrova {
 namespace {
 
 void SwitchMode(MDI& mdi, WorkMode mode) {
-    EnterMode(mode, mdi.State().project, mdi.State().shell);
+    Program& program = mdi.State();
+    EnterMode(mode, program.project, program.shell);
+    if (mode == WorkMode::Graphic) {
+        AbortInsertion(program.editor);
+        program.editor.framesEnabled = true;
+        program.handOvers.RereadComponents();
+    }
     mdi.ShowMode();
     mdi.ShowNetwork();
 }

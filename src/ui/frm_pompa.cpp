@@ -2,6 +2,7 @@
 #include "ui/frm_pompa.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -67,6 +68,13 @@ QBoxLayout* FrmPompa::Buttons() {
     QPushButton* remove = CommandButton("Command3", "Delete", [this] { Command3_Click(); });
     SetDefaultButton(save);
     return ButtonRow({save, remove});
+}
+
+void FrmPompa::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // The flow rate to evaluate is no datum of a new pump: Return there must not save one.
+    if (isReturn && Text6->hasFocus()) return event->accept();
+    ChildWindow::keyPressEvent(event);
 }
 
 PumpFields FrmPompa::Fields() const {

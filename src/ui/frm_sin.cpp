@@ -11,17 +11,15 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-#include "base/number_text.h"
 #include "model/pipe_sizes.h"
 #include "results/messages.h"
-#include "results/report.h"
-#include "results/results_file.h"
 #include "ui/controls.h"
 #include "ui/flow_arrow.h"
 #include "ui/form_parts.h"
 #include "ui/name_list.h"
 #include "ui/program.h"
 #include "ui/qt_text.h"
+#include "ui/run_services.h"
 
 namespace idrova {
 
@@ -73,7 +71,7 @@ void Colour(QWidget& box, QRgb colour) {
 FrmSin::FrmSin(Program& program)
     : ChildWindow("FrmSin", "Idrova - Single pip calculation"),
       program_(program),
-      Combo2(Named(new QComboBox, "Combo2")),
+      Combo2(SizeList("Combo2")),
       Command9(CommandButton("Command9", "Directions", [this] { Command9_Click(); })),
       arrow_(new FlowArrow),
       Timer1(Named(new QTimer(this), "Timer1")) {
@@ -143,8 +141,6 @@ QToolButton* FrmSin::Arrow(PipeQuantity quantity, int steps, const QString& what
 }
 
 void FrmSin::AddDiameterList(QGridLayout& grid, int row) {
-    for (int size = 1; size <= kNominalSizes; ++size) Combo2->addItem(ToQt(NominalSizeNames[size]));
-    Combo2->setCurrentIndex(-1);
     OnChosen(*Combo2, [this](int position) { Combo2_Click(position); });
     grid.addWidget(LabelFor(Combo2, "diameter \""), row, kCaption);
     grid.addWidget(Combo2, row, kBox);
@@ -177,7 +173,7 @@ void FrmSin::OptInc_Click(PipeQuantity quantity) {
 }
 
 void FrmSin::Combo2_Click(int position) {
-    Of(PipeQuantity::Diameter).box->setText(ToQt(GeneralText(InnerDiameters[position + 1])));
+    Of(PipeQuantity::Diameter).box->setText(ToQt(InnerDiameterText(position + 1)));
 }
 
 void FrmSin::Command9_Click() {
@@ -195,8 +191,8 @@ void FrmSin::Recompute() {
     // The sign of the flow that is shown belongs to the arrow that is shown.
     Timer1_Timer();
     // Such a run ends within one keystroke: a progress window would only flicker.
-    const RunServices services{
-        .boxes = program_.boxes, .writeReport = [this] { WriteReport(); }, .seed = {}};
+    const RunServices services = ServicesOfRun(
+        program_, program_.boxes, [this](const Status& stored) { ReportStored(stored); });
     const SinglePipeResult result =
         SinglePipeCompute(pipe_, program_.project, program_.work, services);
     program_.outcome = result.outcome;
@@ -204,9 +200,7 @@ void FrmSin::Recompute() {
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }
 
-void FrmSin::WriteReport() {
-    const std::string report = ReportText(program_.project, program_.work, CurrentReportTime());
-    const Status stored = StoreReport(program_.project, report, program_.folder);
+void FrmSin::ReportStored(const Status& stored) {
     if (!stored && !reportFailed_) program_.boxes.Show({stored.Error(), kResultsTitle});
     reportFailed_ = !stored;
 }

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "base/result.h"
 #include "hydraulics/single_pipe.h"
 #include "ui/child_window.h"
 
@@ -45,7 +46,7 @@ class FrmSin : public ChildWindow {
     void Command9_Click();
     void Timer1_Timer();
     void Recompute();
-    void WriteReport();
+    void ReportStored(const Status& stored);
 
     Program& program_;
     SinglePipe pipe_;

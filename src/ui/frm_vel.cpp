@@ -22,10 +22,8 @@ FrmVel::FrmVel(Program& program)
       program_(program),
       Text1(TextField("Text1")),
       Text2(TextField("Text2")),
-      Combo2(Named(new QComboBox, "Combo2")),
+      Combo2(SizeList("Combo2")),
       Text3(TextField("Text3")) {
-    for (int size = 1; size <= kNominalSizes; ++size) Combo2->addItem(ToQt(NominalSizeNames[size]));
-    Combo2->setCurrentIndex(-1);
     auto* column = new QVBoxLayout(this);
     column->addLayout(Rows());
     column->addStretch(1);
@@ -55,22 +53,27 @@ void FrmVel::AddSetting(FieldGrid& rows, const QString& caption, QLineEdit* fiel
 
 void FrmVel::Command1_Click() {
     SetAllFlowRates(program_.project, FromQt(Text1->text()), program_.boxes);
+    program_.showSettings();
 }
 
 void FrmVel::Command2_Click() {
     SetAllLengths(program_.project, FromQt(Text2->text()), program_.boxes);
+    program_.showSettings();
 }
 
 void FrmVel::Command3_Click() {
     SetAllDiameters(program_.project, FromQt(Text3->text()), program_.boxes);
+    program_.showSettings();
 }
 
 void FrmVel::Combo2_Click(int position) {
-    Text3->setText(ToQt(FastDiameterText(position + 1)));
+    Text3->setText(ToQt(InnerDiameterText(position + 1)));
 }
 
 void FrmVel::Text2_Change() {
-    Text2->setText(ToQt(FastLengthText(FromQt(Text2->text()))));
+    const QString text = ToQt(FastLengthText(FromQt(Text2->text())));
+    // The same text put again would take the cursor to its end and forget what can be undone.
+    if (text != Text2->text()) Text2->setText(text);
 }
 
 }  // namespace idrova

@@ -20,7 +20,6 @@ QAction* MakeAction(QWidget& menu, const MenuEntry& entry) {
     action->setShortcut(QKeySequence(ToQt(entry.shortcut), QKeySequence::PortableText));
     action->setStatusTip(ToQt(entry.tip));
     action->setCheckable(entry.kind == MenuKind::Check || entry.kind == MenuKind::OneOf);
-    action->setChecked(entry.checkedAtStart);
     // Toolkits that move items by their words would move "Exit" and "About" out of their menus.
     action->setMenuRole(QAction::NoRole);
     return action;

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "model/pipe_sizes.h"
 #include "ui/controls.h"
 #include "ui/qt_text.h"
 
@@ -29,6 +30,13 @@ void NameList::Refill(const std::vector<std::string>& entries, int position) {
 
 std::string NameList::Text() const {
     return FromQt(currentText());
+}
+
+QComboBox* SizeList(const char* name, QWidget* parent) {
+    auto* list = Named(new QComboBox(parent), name);
+    for (int size = 1; size <= kNominalSizes; ++size) list->addItem(ToQt(NominalSizeNames[size]));
+    list->setCurrentIndex(-1);
+    return list;
 }
 
 void OnChosen(QComboBox& list, const std::function<void(int)>& chosen) {

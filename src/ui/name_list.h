@@ -21,6 +21,9 @@ class NameList : public QComboBox {
     std::string Text() const;
 };
 
+/// A list of the nominal sizes, none chosen.
+QComboBox* SizeList(const char* name, QWidget* parent = nullptr);
+
 /// Calls `chosen` with the position of an entry each time one is chosen, also when it is the one
 /// that was chosen before. May call it twice for one choice.
 void OnChosen(QComboBox& list, const std::function<void(int)>& chosen);

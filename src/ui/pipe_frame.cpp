@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
-#include "model/pipe_sizes.h"
 #include "ui/controls.h"
 #include "ui/flow_frame.h"
 #include "ui/name_list.h"
@@ -20,7 +19,7 @@ PipeFrame::PipeFrame(PanelContext& context)
       context_(context),
       Frame7(new FlowFrame(context)),
       Text6(EditBox("Text6", TypeLength)),
-      Combo2(Named(new QComboBox, "Combo2")),
+      Combo2(SizeList("Combo2")),
       Text7(EditBox("Text7", TypeInnerSize)),
       Text8(EditBox("Text8", TypeOuterSize)),
       Text5(HeightBox("Text5", PipeEnd::Start)),
@@ -31,8 +30,6 @@ PipeFrame::PipeFrame(PanelContext& context)
       startHeightLabel_(LabelFor(Text5, "Z1 [m]")),
       endHeightLabel_(LabelFor(Text11, "Z2 [m]")) {
     Named(this, "Frame3");
-    for (int size = 1; size <= kNominalSizes; ++size) Combo2->addItem(ToQt(NominalSizeNames[size]));
-    Combo2->setCurrentIndex(-1);
     OnChosen(*Combo2, [this](int position) {
         ChoosePipeSize(context_.program.project, context_.panel, position + 1);
         context_.show();

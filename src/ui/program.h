@@ -38,6 +38,7 @@ struct Program {
     ShellState shell;
     std::string roughnessLabel;      ///< as the command panel shows it
     std::optional<Outcome> outcome;  ///< of the last computation
+    std::string report;              ///< of the last computation that wrote one
 
     HandOvers handOvers;
     /// Shows the settings wherever they are shown: check marks, command panel, status bar. Every

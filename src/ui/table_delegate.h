@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QPointer>
 #include <QStyledItemDelegate>
+#include <functional>
 
 namespace idrova {
 
@@ -12,17 +12,15 @@ class TableDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
+    /// A size was chosen, also when it is the one that the cell shows: `position` in `list`, from
+    /// 0. Leaving the list in any other way writes nothing.
+    std::function<void(QWidget* list, const QModelIndex& cell, int position)> sizeChosen;
+
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
-
-    /// Takes what is being typed into a cell as if it had been finished.
-    void TakeEdit();
-
-  private:
-    mutable QPointer<QWidget> editor_;
 };
 
 }  // namespace idrova

@@ -133,7 +133,8 @@ void TableModel::Clear(const TableBlock& block) {
 
 void TableModel::Refresh() {
     const float unit = program_.project.PressureUnitFactor;
-    if (program_.table != shown_ || std::exchange(shownUnit_, unit) != unit) undo_.clear();
+    const bool sameUnit = std::exchange(shownUnit_, unit) == unit;
+    if (!sameUnit || program_.table != shown_) undo_.clear();
     Announce();
 }
 

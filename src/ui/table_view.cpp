@@ -46,13 +46,18 @@ int HeaderWidth(const QFontMetrics& metrics, const QString& header) {
 
 }  // namespace
 
-TableView::TableView(TableModel& model) : model_(model), delegate_(new TableDelegate(this)) {
+TableView::TableView(TableModel& model) : model_(model) {
     Named(this, "TxtTab");
     Named(verticalScrollBar(), "ScrY");
     Named(horizontalScrollBar(), "ScrX");
     setAccessibleName("Pipes of the table");
     setModel(&model);
-    setItemDelegate(delegate_);
+    auto* delegate = new TableDelegate(this);
+    delegate->sizeChosen = [this](QWidget* list, const QModelIndex& cell, int position) {
+        model_.ChooseSize(cell, position);
+        closeEditor(list, QAbstractItemDelegate::NoHint);
+    };
+    setItemDelegate(delegate);
     setSelectionMode(ContiguousSelection);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setTabKeyNavigation(true);
@@ -99,7 +104,10 @@ void TableView::AddCommand(const QString& caption, const QKeySequence& keys,
 }
 
 void TableView::TakeEdit() {
-    delegate_->TakeEdit();
+    QWidget* editor = indexWidget(currentIndex());
+    if (editor == nullptr) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
 void TableView::Copy() {

@@ -5,7 +5,6 @@
 
 namespace idrova {
 
-class TableDelegate;
 class TableModel;
 
 /// The table on the screen: Tab and Enter go from cell to cell, blocks of cells are copied, pasted
@@ -34,7 +33,6 @@ class TableView : public QTableView {
     void MoveDown(int rows);
 
     TableModel& model_;
-    TableDelegate* delegate_;
 };
 
 }  // namespace idrova

@@ -21,10 +21,6 @@ TEST(StartUp, WarnsOfASmallScreenOnce) {
     EXPECT_EQ(boxes.shown.front(), MessageBox(kSmallScreen));
 }
 
-TEST(StartUp, VersionLine) {
-    EXPECT_EQ(VersionLine(), "ver. 2.6.3");
-}
-
 TEST(StartUp, WorksBesideTheExecutableOnlyWhenTheIconsAreThere) {
     const TempFolder temp;
     const fs::path user = temp / "user";
@@ -36,40 +32,27 @@ TEST(StartUp, WorksBesideTheExecutableOnlyWhenTheIconsAreThere) {
     EXPECT_EQ(WorkingFolder(temp / "idrova", user), temp.Path());
 }
 
-class PrepareFolder : public testing::Test {
-  protected:
-    PrepareFolder() {
-        fs::create_directories(shared_ / "IMG");
-        PutFile(shared_ / "fluidi.dat", "fluids");
-        PutFile(shared_ / "IMG" / "PERC.ico", "icon");
-    }
+TEST(StartUp, SamplesAreCopiedAtTheFirstUseAndNeverAgain) {
+    const TempFolder temp;
+    const fs::path shared = temp / "shared";
+    const fs::path folder = temp / "new" / "user folder";
+    fs::create_directories(shared / "IMG");
+    PutFile(shared / "fluidi.dat", "fluids");
+    PutFile(shared / "IMG" / "PERC.ico", "icon");
+    ASSERT_TRUE(PrepareWorkingFolder(folder, shared));
+    EXPECT_EQ(FileBytes(folder / "fluidi.dat"), "fluids");
+    EXPECT_EQ(FileBytes(folder / "IMG" / "PERC.ico"), "icon");
+    EXPECT_FALSE(fs::exists(folder / "pompe.dat"));
 
-    const TempFolder temp_;
-    const fs::path shared_ = temp_ / "shared";
-    const fs::path folder_ = temp_ / "new" / "user folder";
-};
+    PutFile(folder / "fluidi.dat", "mine");
+    fs::remove_all(folder / "IMG");
+    ASSERT_TRUE(PrepareWorkingFolder(folder, shared));
+    EXPECT_EQ(FileBytes(folder / "fluidi.dat"), "mine");
+    EXPECT_FALSE(fs::exists(folder / "IMG"));
 
-TEST_F(PrepareFolder, FirstUseCopiesTheSamplesThatAreThere) {
-    ASSERT_TRUE(PrepareWorkingFolder(folder_, shared_));
-    EXPECT_EQ(FileBytes(folder_ / "fluidi.dat"), "fluids");
-    EXPECT_EQ(FileBytes(folder_ / "IMG" / "PERC.ico"), "icon");
-    EXPECT_FALSE(fs::exists(folder_ / "pompe.dat"));
-}
-
-TEST_F(PrepareFolder, LaterUseKeepsWhatTheUserHas) {
-    ASSERT_TRUE(PrepareWorkingFolder(folder_, shared_));
-    PutFile(folder_ / "fluidi.dat", "mine");
-    fs::remove_all(folder_ / "IMG");
-    ASSERT_TRUE(PrepareWorkingFolder(folder_, shared_));
-    EXPECT_EQ(FileBytes(folder_ / "fluidi.dat"), "mine");
-    EXPECT_FALSE(fs::exists(folder_ / "IMG"));
-}
-
-TEST_F(PrepareFolder, FolderThatCanNotBeMadeIsTold) {
-    PutFile(temp_ / "file", "in the way");
-    const Status status = PrepareWorkingFolder(temp_ / "file" / "folder", shared_);
+    const Status status = PrepareWorkingFolder(folder / "fluidi.dat" / "sub", shared);
     ASSERT_FALSE(status);
-    EXPECT_NE(status.Error().find("file/folder"), std::string::npos);
+    EXPECT_NE(status.Error().find("fluidi.dat/sub"), std::string::npos);
 }
 
 }  // namespace

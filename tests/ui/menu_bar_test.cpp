@@ -44,7 +44,7 @@ TEST_F(MenuBarTest, ShowsTheTableEntryForEntry) {
             const bool isMenu = entry.kind == MenuKind::Menu;
             EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
             EXPECT_EQ(WithoutMnemonic(action.text()), ToQt(entry.caption));
-            EXPECT_EQ(action.isChecked(), entry.checkedAtStart) << FromQt(action.text());
+            EXPECT_EQ(action.isChecked(), IsChecked(entry, {}, {})) << FromQt(action.text());
             EXPECT_EQ(action.shortcut().toString(QKeySequence::PortableText), ToQt(entry.shortcut));
             EXPECT_EQ(isMenu, action.statusTip().isEmpty()) << FromQt(action.text());
         }
