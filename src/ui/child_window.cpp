@@ -25,10 +25,12 @@ void ChildWindow::SetDefaultButton(QPushButton* button) {
 }
 
 void ChildWindow::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape && closesOnEscape_) {
         CloseWindow();
-    } else if (defaultButton_ != nullptr &&
-               (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    } else if (isReturn && returnKeeper_ != nullptr && returnKeeper_->hasFocus()) {
+        event->accept();
+    } else if (isReturn && defaultButton_ != nullptr) {
         defaultButton_->click();
     } else {
         QWidget::keyPressEvent(event);

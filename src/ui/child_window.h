@@ -27,12 +27,15 @@ class ChildWindow : public QWidget {
 
   protected:
     void SetDefaultButton(QPushButton* button);
+    /// Return in this control is for the control alone, not for the default button.
+    void KeepReturnIn(const QWidget* control) { returnKeeper_ = control; }
     void StayOnEscape() { closesOnEscape_ = false; }
     void keyPressEvent(QKeyEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
   private:
     QPushButton* defaultButton_ = nullptr;
+    const QWidget* returnKeeper_ = nullptr;
     bool closesOnEscape_ = true;
 };
 

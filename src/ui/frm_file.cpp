@@ -101,6 +101,7 @@ QWidget* FrmFile::MakeButtons() {
     auto* command2 = Named(new QPushButton("Exit"), "Command2");
     for (QPushButton* button : {command1, command2}) row->addWidget(button);
     SetDefaultButton(command1);
+    KeepReturnIn(Dir1);  // it enters the folder
     connect(command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
     connect(command2, &QPushButton::clicked, this, [this] { CloseWindow(); });
     return buttons;

@@ -2,7 +2,6 @@
 #include "ui/frm_pompa.h"
 
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -67,14 +66,8 @@ QBoxLayout* FrmPompa::Buttons() {
     QPushButton* save = CommandButton("Command2", "Save", [this] { Command2_Click(); });
     QPushButton* remove = CommandButton("Command3", "Delete", [this] { Command3_Click(); });
     SetDefaultButton(save);
+    KeepReturnIn(Text6);  // the flow rate to evaluate is no datum of the pump to save
     return ButtonRow({save, remove});
-}
-
-void FrmPompa::keyPressEvent(QKeyEvent* event) {
-    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // The flow rate to evaluate is no datum of a new pump: Return there must not save one.
-    if (isReturn && Text6->hasFocus()) return event->accept();
-    ChildWindow::keyPressEvent(event);
 }
 
 PumpFields FrmPompa::Fields() const {

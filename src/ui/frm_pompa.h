@@ -21,9 +21,6 @@ class FrmPompa : public ChildWindow {
   public:
     explicit FrmPompa(Program& program);
 
-  protected:
-    void keyPressEvent(QKeyEvent* event) override;
-
   private:
     QBoxLayout* Data();
     QGridLayout* Rows();

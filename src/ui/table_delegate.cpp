@@ -3,7 +3,6 @@
 
 #include <QComboBox>
 #include <QPersistentModelIndex>
-#include <QTimer>
 
 #include "table/table_columns.h"
 #include "ui/name_list.h"
@@ -22,7 +21,7 @@ QWidget* TableDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
                 sizeChosen(list, cell, position);
             });
     // The list has its place over the cell only once the view has taken it.
-    QTimer::singleShot(0, list, &QComboBox::showPopup);
+    QMetaObject::invokeMethod(list, &QComboBox::showPopup, Qt::QueuedConnection);
     return list;
 }
 

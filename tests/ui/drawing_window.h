@@ -4,34 +4,35 @@
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QGraphicsView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
 
-#include "editor/component_insertion.h"
 #include "main_window.h"
 #include "model/grid.h"
+#include "physdata/record_db.h"
 #include "ui/frm_com.h"
 
 namespace idrova {
 
-/// The main window with its drawing, used with the mouse.
+/// The main window with its drawing, used with the mouse, and the controls of the command panel.
 class DrawingWindow : public MainWindow {
   protected:
     DrawingWindow() {
-        PumpDb& pumps = program->components.pumps;
-        pumps[++pumps.count] = {"feed pump", 300000, 0, 100000, 5};
-        LossDb& losses = program->components.losses;
-        losses[++losses.count] = {"gate valve", 0.2F, 0};
-        program->showComponents();
+        PutFile(folder / PumpRecord::kFile,
+                EncodeRecords(WithRecord({}, PumpRecord{"feed pump", 300000, 0, 100000, 5})));
+        PutFile(folder / LossRecord::kFile,
+                EncodeRecords(WithRecord({}, LossRecord{"gate valve", 0.2F, 0})));
+        Choose("Grafico");
+        window = &mdi->Panel();
     }
 
     QGraphicsView& View() { return Child<QGraphicsView>("Drawing"); }
 
-    void Click(int column, int row, Qt::MouseButton button = Qt::LeftButton) {
+    QPoint PlaceOf(int column, int row) {
         const ScreenPoint centre = CellCentre(project, CellAt(column, row, project.GridSize));
-        const QPoint at = View().mapFromScene(QPointF(centre.x, centre.y));
-        QTest::mouseClick(View().viewport(), button, {}, at);
+        return View().mapFromScene(QPointF(centre.x, centre.y));
+    }
+
+    void Click(int column, int row, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(View().viewport(), button, {}, PlaceOf(column, row));
     }
 
     void Draw(int column1, int row1, int column2, int row2) {
@@ -49,12 +50,6 @@ class DrawingWindow : public MainWindow {
         }
         return lines;
     }
-
-    QLineEdit& Box(const char* name) { return Child<QLineEdit>(name, &mdi->Panel()); }
-    void Type(const char* box, const char* text) { Box(box).setText(text); }
-    void Press(const char* button) { Child<QAbstractButton>(button, &mdi->Panel()).click(); }
-
-    Project& project = program->project;
 };
 
 }  // namespace idrova

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include <QLabel>
 #include <QScrollBar>
 #include <QStatusBar>
 
@@ -31,15 +30,10 @@ TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
         for (int i = 1; i <= 4; ++i) EXPECT_EQ(CellsOf(project, i), cells[i - 1]);
         EXPECT_EQ(LinesDrawn(), 4);
     }
-}
-
-TEST_F(DrawingWindow, ADoubleClickIsTwoClicks) {
     boxes.Expect(kLengthZero);
     Click(5, 5);
-    const ScreenPoint centre = CellCentre(project, CellAt(5, 5, project.GridSize));
-    QTest::mouseDClick(View().viewport(), Qt::LeftButton, {},
-                       View().mapFromScene(QPointF(centre.x, centre.y)));
-    EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
+    QTest::mouseDClick(View().viewport(), Qt::LeftButton, {}, PlaceOf(5, 5));
+    EXPECT_EQ(program->editor.state, InsertState::FirstPoint) << "a double click is two clicks";
 }
 
 TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
@@ -65,12 +59,12 @@ TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
 
 TEST_F(DrawingWindow, ScrollsWithItsBars) {
     Draw(2, 5, 8, 5);
-    auto& bar = Child<QScrollBar>("ScrX");
+    const auto& bar = Child<QScrollBar>("ScrX");
     EXPECT_EQ(bar.minimum(), 1);
     EXPECT_EQ(bar.maximum(), 250);
-    bar.setValue(9);
+    Do("ScrX#9");
     EXPECT_EQ(LinesDrawn(), 0);
-    Child<QScrollBar>("ScrY").setValue(3);
+    Do("ScrY#3");
     Draw(1, 1, 1, 4);
     EXPECT_EQ(CellsOf(project, 2), (std::pair{CellAt(9, 3, 50), CellAt(9, 6, 50)}));
     boxes.Expect(kLeaveProject);
@@ -79,20 +73,15 @@ TEST_F(DrawingWindow, ScrollsWithItsBars) {
     EXPECT_EQ(LinesDrawn(), 0);
 }
 
-TEST_F(DrawingWindow, HintsFollowTheClicks) {
-    const auto hint = [this] { return Child<QLabel>("Label2", &Child<QWidget>("FrmHelp")).text(); };
-    EXPECT_EQ(hint(), "first point of a pipe");
-    Click(5, 5);
+TEST_F(DrawingWindow, HintsFollowTheClicksAndAComponentShowsWithoutItsIcon) {
+    const auto hint = [this] { return mdi->findChild<QLabel*>("Label2")->text(); };
+    Click(8, 5);
     EXPECT_EQ(hint(), "end point of the pipe");
+    Click(2, 5);
+    EXPECT_EQ(hint(), "first point of a pipe");
     Select(1, 1);
-    Press("Command3");
+    Do("Command3");
     EXPECT_EQ(hint(), "insert selected component");
-}
-
-TEST_F(DrawingWindow, ShowsNoComponentWithoutItsIcon) {
-    Draw(2, 5, 8, 5);
-    Select(1, 1);
-    Press("Command3");
     const ScreenPoint centre = CellCentre(project, CellAt(5, 5, 50));
     const QRect arrow(View().mapFromScene(QPointF(centre.x - 80, centre.y - 50)), QSize(1, 1));
     const auto pixel = [&] { return View().grab(arrow).toImage().pixel(0, 0); };

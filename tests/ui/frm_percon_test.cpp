@@ -7,76 +7,47 @@
 namespace idrova {
 namespace {
 
-class LossWindow : public DataWindow {
-  protected:
-    LossWindow() {
-        PutRecords<LossRecord>(
-            {{"Valve", .2F, 0}, {"Filter", 0, 101325}, {"Both", 3, 5000}, {"None", 0, 0}});
-        LoadComponentDatabases(program->components, folder.Path(), boxes);
-        Open("PerditeCon", "FrmPerCon");
+TEST_F(DataWindow, LossesAreShownSavedAndDeleted) {
+    PutRecords<LossRecord>(
+        {{"Valve", .2F, 0}, {"Filter", 0, 101325}, {"Both", 3, 5000}, {"None", 0, 0}});
+    program->handOvers.RereadComponents();
+    Open("PerditeCon", "FrmPerCon");
+    // Of the option, coefficient, fixed drop and millibars.
+    const std::pair<const char*, const char*> cases[] = {{"Combo1#0", "0|.2||"},
+                                                         {"Combo1#1", "1||101325|1000."},
+                                                         {"Combo1#3", "1||101325|1000."},
+                                                         {"Combo1#0", "0|.2||."},
+                                                         {"Combo1#2", "1||5000|49.346"},
+                                                         {"Text1=7", "0|7||."},
+                                                         {"Text2=202650", "1||202650|2000."},
+                                                         {"Option1_0", "0|||."}};
+    for (const auto& [step, shown] : cases) {
+        Do(step);
+        EXPECT_EQ(Shown("Option1_1 Text1 Text2 Label2"), shown) << step;
     }
-    /// Option, coefficient, fixed drop and millibars as the window shows them.
-    QString Shown() {
-        const bool loss = Child<QAbstractButton>("Option1_1", window).isChecked();
-        return QString(loss ? "1" : "0") + "|" + Text("Text1") + "|" + Text("Text2") + "|" +
-               Label("Label2");
-    }
-};
 
-TEST_F(LossWindow, ShowsTheChosenLoss) {
-    const std::pair<int, const char*> cases[] = {{0, "0|.2||"},
-                                                 {1, "1||101325|1000."},
-                                                 {3, "1||101325|1000."},
-                                                 {0, "0|.2||."},
-                                                 {2, "1||5000|49.346"}};
-    for (const auto& [position, shown] : cases) {
-        List().setCurrentIndex(position);
-        EXPECT_EQ(Shown(), shown) << position;
-    }
-}
+    const QString longName(41, 'v');
+    boxes.Expect(kZeroCoefficient)
+        .Expect(BadName(LossRecord::kNameLimit, kAskSaveLoss.title))
+        .Expect(kNoLossToDelete);
+    Do("Combo1=" + longName + ";Text2=none;Command2;Text2=12x;Command2;Command3");
+    EXPECT_EQ(Shown("Combo1 Text2"), longName + "|12x") << "a refusal keeps what is typed";
 
-TEST_F(LossWindow, OneOfTheTwoFieldsHoldsAValue) {
-    Type("Text1", "7");
-    EXPECT_EQ(Shown(), "0|7||");
-    Type("Text2", "202650");
-    EXPECT_EQ(Shown(), "1||202650|2000.");
-    Press("Option1_0");
-    EXPECT_EQ(Shown(), "0|||.");
-}
-
-TEST_F(LossWindow, StartsAnewAfterEveryAnswer) {
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         boxes.Expect(kAskSaveLoss, answer);
-        TypeName("Elbow");
-        Type("Text1", "1.5");
-        Press("Command2");
-        EXPECT_EQ(List().currentText() + Text("Text1"), "");
-        EXPECT_EQ(List().count(), answer == Answer::Yes ? 5 : 4);
+        Do("Combo1=Elbow;Text1=1.5;Command2");
+        EXPECT_EQ(Shown("Combo1 Text1"), "|") << "either answer starts anew";
+        EXPECT_EQ(Names().size(), answer == Answer::Yes ? 5 : 4);
     }
     EXPECT_EQ(StoredRecords<LossRecord>()[4], (LossRecord{"Elbow", 1.5F, 0}));
 
     boxes.Expect(kAskDeleteLoss, Answer::Cancel).Expect(kAskDeleteLoss, Answer::Ok);
-    List().setCurrentIndex(1);
-    Press("Command3");
-    EXPECT_EQ(Text("Text2"), "101325");
-    Press("Command3");
+    Do("Combo1#1;Command3");
+    EXPECT_EQ(Shown("Text2"), "101325");
+    Do("Command3");
     EXPECT_EQ(Names(), QStringList({"Valve", "Both", "None", "Elbow"}));
-    EXPECT_EQ(Text("Text2"), "");
+    EXPECT_EQ(Shown("Text2"), "");
     EXPECT_EQ(StoredRecords<LossRecord>().size(), 4U);
-}
-
-TEST_F(LossWindow, RefusalsKeepWhatIsTyped) {
-    boxes.Expect(kZeroCoefficient)
-        .Expect(BadName(LossRecord::kNameLimit, kAskSaveLoss.title))
-        .Expect(kNoLossToDelete);
-    TypeName(QString(41, 'v'));
-    Type("Text2", "none");
-    Press("Command2");
-    Type("Text2", "12x");
-    Press("Command2");
-    Press("Command3");
-    EXPECT_EQ(List().currentText(), QString(41, 'v'));
-    EXPECT_EQ(Text("Text2"), "12x");
 }
 
 }  // namespace

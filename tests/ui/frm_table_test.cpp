@@ -3,9 +3,8 @@
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QTableView>
+#include <map>
 #include <random>
 
 #include "main_window.h"
@@ -18,25 +17,28 @@ using namespace table_column;
 
 class TableWindow : public MainWindow {
   protected:
-    TableWindow() { Choose("Tabella"); }
+    TableWindow() { Open("Tabella", "FrmTable"); }
 
-    QTableView& View() { return Child<QTableView>("TxtTab", Window("FrmTable")); }
+    QTableView& View() { return Child<QTableView>("TxtTab"); }
     QModelIndex Cell(int row, int column) { return View().model()->index(row - 2, column); }
     QString Text(int row, int column) { return Cell(row, column).data().toString(); }
+    void Put(int row, int column, const char* text) {
+        View().model()->setData(Cell(row, column), text);
+    }
 
-    void Keys(const QString& keys) {
-        for (const QChar key : keys) {
+    /// Presses keys from a cell on; '#' is F2.
+    void Keys(int row, int column, const QString& keys) {
+        const std::map<char, Qt::Key> special{
+            {'\t', Qt::Key_Tab}, {'\n', Qt::Key_Return}, {'#', Qt::Key_F2}};
+        View().setCurrentIndex(Cell(row, column));
+        for (const QChar letter : keys) {
+            const char key = letter.toLatin1();
             auto* editor = View().viewport()->findChild<QWidget*>();
             const bool editing = editor != nullptr && editor->isVisible();
             QWidget* focus = editing ? editor : &View();
-            const char text = key.toLatin1();
-            if (text == '\t') {
-                QTest::keyClick(focus, Qt::Key_Tab);
-            } else if (text == '\n') {
-                QTest::keyClick(focus, Qt::Key_Return);
-            } else {
-                QTest::keyClick(focus, text);
-            }
+            const auto found = special.find(key);
+            if (found != special.end()) QTest::keyClick(focus, found->second);
+            if (found == special.end()) QTest::keyClick(focus, key);
             QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         }
     }
@@ -46,69 +48,78 @@ class TableWindow : public MainWindow {
         View().selectionModel()->select({Cell(row, column), Cell(lastRow, lastColumn)},
                                         QItemSelectionModel::ClearAndSelect);
     }
-    void Press(const char* caption) {
+    void Press(const char* caption, int times = 1) {
         for (QAction* action : View().actions()) {
-            if (action->text() == caption) return action->trigger();
+            for (int i = 0; action->text() == caption && i < times; ++i) action->trigger();
         }
-        FAIL() << caption;
     }
 };
 
-TEST_F(TableWindow, IsASoundModelOfTheRows) {
+TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     const QAbstractItemModelTester sound(View().model(),
                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
-    EXPECT_EQ(View().model()->rowCount(), 99);
-    EXPECT_EQ(View().model()->columnCount(), 11);
     EXPECT_EQ(Text(100, kNumber), "100");
     EXPECT_FALSE(Cell(5, kNumber).flags() & Qt::ItemIsEditable);
     EXPECT_EQ(Cell(5, kFlowRate).data(Qt::BackgroundRole).value<QColor>(), QColor(0xFF8080));
-    View().model()->setData(Cell(5, kFlowRate), "0");
+    Put(5, kFlowRate, "0");
     EXPECT_FALSE(Cell(5, kFlowRate).data(Qt::BackgroundRole).isValid());
-}
 
-TEST_F(TableWindow, IsTypedWithTabAndEnter) {
-    View().setCurrentIndex(Cell(2, kStartPoint));
-    Keys("1\t3\t2\t");
+    Keys(2, kStartPoint, "1\t3\t2\t");
     EXPECT_EQ(View().currentIndex(), Cell(2, kEndPressure));
-    Keys("1.5\n");
+    Keys(2, kEndPressure, "1.5\n");
     EXPECT_EQ(View().currentIndex(), Cell(3, kEndPressure));
-    View().setCurrentIndex(Cell(3, kStartPoint));
-    Keys("2\n");
-    const TableRowRec& row = program->project.TableRows[3];
-    EXPECT_EQ(row.StartPoint, 2);
-    EXPECT_EQ(row.StartPressure, 151987.5F) << "as row 2 has it";
-    View().setCurrentIndex(Cell(2, kZ2));
-    Keys("\t");
+    Keys(3, kStartPoint, "2\n");
+    EXPECT_EQ(project.TableRows[3].StartPressure, 151987.5F) << "as row 2 has it";
+    Keys(2, kZ2, "\t");
     EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
-}
-
-TEST_F(TableWindow, NominalSizeIsChosenFromAListOverTheCell) {
-    View().edit(Cell(4, kNominalSize));
-    auto& list = Child<QComboBox>("Combo1", &View());
-    EXPECT_EQ(list.geometry(), View().visualRect(Cell(4, kNominalSize)));
-    list.setCurrentIndex(5);
-    Q_EMIT list.activated(5);
-    EXPECT_EQ(Text(4, kNominalSize), "1 1/2\"");
-    EXPECT_EQ(program->project.TableRows[4].RowDiameter, .0425F);
-}
-
-TEST_F(TableWindow, WhatIsBeingTypedCountsForEveryCommand) {
-    View().setCurrentIndex(Cell(2, kLength));
-    Keys("12");
+    Keys(2, kEndPressure, "#5\n");
+    EXPECT_EQ(Text(2, kEndPressure), "5") << "F2 edits the cell";
+    Keys(2, kLength, "12");
     Choose("p_mbar");
-    EXPECT_EQ(program->project.TableRows[2].RowLength, 12);
+    EXPECT_EQ(project.TableRows[2].RowLength, 12) << "a command takes what is being typed";
+}
+
+TEST_F(TableWindow, OnlyAChoiceFromTheListOverTheCellSetsTheSize) {
+    const auto open = [this]() -> QComboBox& {
+        View().setCurrentIndex(Cell(4, kNominalSize));
+        View().edit(Cell(4, kNominalSize));
+        QApplication::processEvents();
+        return Child<QComboBox>("Combo1");
+    };
+    const auto choose = [&open] {
+        QComboBox& list = open();
+        list.setCurrentIndex(5);
+        Q_EMIT list.activated(5);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    choose();
+    EXPECT_EQ(Text(4, kNominalSize), "1 1/2\"");
+    Put(4, kDiameter, "40");
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_F3}) {
+        QComboBox& list = open();
+        EXPECT_EQ(list.geometry(), View().visualRect(Cell(4, kNominalSize)));
+        EXPECT_EQ(list.currentIndex(), 5);
+        list.hidePopup();
+        if (key == Qt::Key_F3) Choose("p_mbar");
+        if (key != Qt::Key_F3) QTest::keyClick(&list, key);
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(View().findChild<QComboBox*>(), nullptr) << key;
+        EXPECT_EQ(Text(4, kDiameter), "40") << key;
+    }
+    choose();
+    EXPECT_EQ(Text(4, kDiameter), "42.5") << "the same size again counts";
 }
 
 TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     const TableTexts empty = program->table;
-    const std::vector<std::pair<int, const char*>> row{{kStartPoint, "1"}, {kStartPressure, "3"},
-                                                       {kEndPoint, "2"},   {kLength, "10"},
-                                                       {kFlowRate, "0"},   {kZ1, "-2"}};
-    for (const auto& [column, text] : row) View().model()->setData(Cell(2, column), text);
-    View().model()->setData(Cell(3, kEndPoint), "1");
-    View().model()->setData(Cell(3, kNominalSize), "1 1/2\"");
+    const std::pair<int, const char*> row[] = {{kStartPoint, "1"}, {kStartPressure, "3"},
+                                               {kEndPoint, "2"},   {kLength, "10"},
+                                               {kFlowRate, "0"},   {kZ1, "-2"}};
+    for (const auto& [column, text] : row) Put(2, column, text);
+    Put(3, kEndPoint, "1");
+    Put(3, kNominalSize, "1 1/2\"");
     const TableTexts typed = program->table;
-    const auto rows = program->project.TableRows;
+    const auto rows = project.TableRows;
 
     Select(2, kNumber, 3, kZ2);
     Press("&Copy");
@@ -116,7 +127,7 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     EXPECT_EQ(program->table, empty);
     Press("&Paste");
     EXPECT_EQ(program->table, typed);
-    EXPECT_EQ(program->project.TableRows, rows);
+    EXPECT_EQ(project.TableRows, rows);
 
     QApplication::clipboard()->setText("7\t\t8\t2\r\n8\t\t9\t\t\"2 1/2\"\"\"\r\n");
     Select(99, kStartPoint, 99, kStartPoint);
@@ -124,44 +135,44 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     EXPECT_EQ(Text(100, kStartPressure), "2") << "given once for point 8";
     EXPECT_EQ(Text(100, kNominalSize), "2 1/2\"");
 
-    for (int edits = 0; edits < 20; ++edits) Press("&Undo");
+    Press("&Undo", 20);
     EXPECT_EQ(program->table, empty);
-    EXPECT_EQ(program->project.TableRows[2], TableRowRec());
-    for (int edits = 0; edits < 20; ++edits) Press("&Redo");
+    EXPECT_EQ(project.TableRows[2], TableRowRec());
+    Press("&Redo", 20);
     EXPECT_EQ(Text(99, kEndPressure), "2");
-}
 
-TEST_F(TableWindow, AnotherTableCanNotBeUndoneIntoTheOldOne) {
-    View().model()->setData(Cell(2, kStartPressure), "2");
     Choose("p_mbar");
-    EXPECT_EQ(Text(2, kStartPressure), "2000");
     Press("&Undo");
-    EXPECT_EQ(Text(2, kStartPressure), "2000");
+    EXPECT_EQ(Text(99, kEndPressure), "2000") << "the table of another unit is another table";
+    Put(2, kLength, "11");
+    mdi->ShowNetwork();
+    Press("&Undo");
+    EXPECT_EQ(Text(2, kLength), "10") << "and that is forgotten once only";
 }
 
 TEST_F(TableWindow, SwitchingModesAtRandomLosesNothing) {
-    Project& project = program->project;
-    View().model()->setData(Cell(2, kStartPoint), "1");
-    View().model()->setData(Cell(2, kNominalSize), "2\"");
+    Put(2, kStartPoint, "1");
+    Put(2, kNominalSize, "2\"");
     project.Pipes[1].Length = 5;
     project.numtubo = 1;
     const auto before = std::make_unique<Project>(project);
     const TableTexts texts = program->table;
-    struct Mode {
-        const char *item, *window;
-    };
-    const std::vector<Mode> modes{
-        {"Grafico", "FrmCel"}, {"Tabella", "FrmTable"}, {"sintub", "FrmSin"}};
+    const struct Mode {
+        const char *item, *window, *status;
+    } modes[] = {{"Grafico", "FrmCel", "Mode: Graphic"},
+                 {"Tabella", "FrmTable", "Mode: Table"},
+                 {"sintub", "FrmSin", "Mode: Single pipe"}};
     std::mt19937 random(7);
     for (int step = 0; step < 60; ++step) {
-        const Mode& entered = modes[random() % modes.size()];
+        const Mode& entered = modes[random() % 3];
         Choose(entered.item);
         for (const Mode& mode : modes) {
             const bool isEntered = &mode == &entered;
             EXPECT_EQ(Window(mode.window) != nullptr, isEntered);
             EXPECT_EQ(Item(mode.item).isChecked(), isEntered);
         }
-        EXPECT_EQ(program->shell.HintsShown, std::string(entered.window) == "FrmCel");
+        EXPECT_EQ(Shown("StatusMode"), entered.status);
+        EXPECT_EQ(program->shell.HintsShown, &entered == &modes[0]);
         ASSERT_EQ(program->table, texts);
         before->Mode = project.Mode;
         ASSERT_TRUE(project == *before);

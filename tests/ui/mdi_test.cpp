@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/mdi.h"
 
-#include <QComboBox>
+#include <QDockWidget>
 #include <QDropEvent>
-#include <QLabel>
 #include <QMdiSubWindow>
 #include <QMimeData>
-#include <QPushButton>
 #include <QUrl>
 
 #include "hydraulics/messages.h"
@@ -19,21 +17,18 @@
 namespace idrova {
 namespace {
 
-TEST_F(MainWindow, StartsWithAnEmptyProjectInGraphicMode) {
+TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     EXPECT_EQ(mdi->objectName(), "MDI");
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     ASSERT_NE(Window("FrmCel"), nullptr);
     EXPECT_EQ(Window("FrmCel")->windowTitle(), "Idrova - plant drawing");
-    EXPECT_EQ(Child<QDockWidget>("FrmCom").windowTitle(), "Idrova - Commands");
-    EXPECT_EQ(Child<QDockWidget>("FrmHelp").windowTitle(), "Idrova - Help");
-    EXPECT_TRUE(Child<QDockWidget>("FrmHelp").isVisible());
-    EXPECT_EQ(Child<QLabel>("Label2").text(), "first point of a pipe");
-    EXPECT_EQ(Child<QLabel>("RoughnessLabel").text(), "zincate steel\t  1.00E-4");
-    EXPECT_EQ(Child<QLabel>("StatusMode").text(), "Mode: Graphic");
-    EXPECT_EQ(Child<QLabel>("StatusFluid").text(), "No fluid");
-}
+    EXPECT_EQ(mdi->Panel().windowTitle(), "Idrova - Commands");
+    EXPECT_EQ(mdi->Hints().windowTitle(), "Idrova - Help");
+    EXPECT_TRUE(mdi->Hints().isVisible());
+    EXPECT_EQ(Shown("Label2 RoughnessLabel StatusMode StatusFluid"),
+              "first point of a pipe|zincate steel\t  1.00E-4|Mode: Graphic|No fluid");
+    EXPECT_FALSE(mdi->Panel().close());
+    EXPECT_TRUE(mdi->Panel().isVisible());
 
-TEST_F(MainWindow, KeepsItsTitleWhenAChildIsMaximised) {
     QWidget* drawing = Window("FrmCel")->parentWidget();
     drawing->showMaximized();
     QApplication::processEvents();
@@ -41,102 +36,67 @@ TEST_F(MainWindow, KeepsItsTitleWhenAChildIsMaximised) {
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     Choose("Logo");
     EXPECT_FALSE(Window("FrmLogo")->parentWidget()->isMaximized());
-}
 
-TEST_F(MainWindow, ExitAsksAndLeavesOnlyOnOk) {
-    boxes.Expect(kExitQuestion, Answer::Cancel).Expect(kExitQuestion, Answer::Ok);
+    boxes.Expect(kManualNotice)
+        .Expect(kExitQuestion, Answer::Cancel)
+        .Expect(kExitQuestion, Answer::Ok);
+    Choose("Help");
     Choose("Esci");
     EXPECT_TRUE(mdi->isVisible());
     Choose("Esci");
     EXPECT_FALSE(mdi->isVisible());
-}
-
-TEST_F(MainWindow, ClosesByItsFrameWithoutAQuestion) {
-    EXPECT_TRUE(mdi->close());
+    mdi->show();
+    EXPECT_TRUE(mdi->close()) << "by its frame, without a question";
 }
 
 TEST_F(MainWindow, HintsAreToggledByTheMenuTheFrameAndTheMode) {
-    QDockWidget& hints = mdi->Hints();
+    const std::pair<std::function<void()>, bool> steps[] = {
+        {[this] { Choose("Helpslinea"); }, false}, {[this] { Choose("Helpslinea"); }, true},
+        {[this] { mdi->Hints().close(); }, false}, {[this] { Choose("Grafico"); }, true},
+        {[this] { Choose("sintub"); }, false},
+    };
+    for (const auto& [step, shown] : steps) {
+        step();
+        EXPECT_EQ(mdi->Hints().isVisible(), shown);
+        EXPECT_EQ(program->shell.HintsShown, shown);
+        EXPECT_EQ(Item("Helpslinea").isChecked(), shown);
+    }
     Choose("Helpslinea");
-    EXPECT_FALSE(hints.isVisible());
-    EXPECT_FALSE(Item("Helpslinea").isChecked());
-    Choose("Helpslinea");
-    EXPECT_TRUE(hints.isVisible());
-    hints.close();
-    EXPECT_FALSE(program->shell.HintsShown);
-    EXPECT_FALSE(Item("Helpslinea").isChecked());
-    Choose("Grafico");
-    EXPECT_TRUE(hints.isVisible());
-    EXPECT_TRUE(Item("Helpslinea").isChecked());
-    Choose("sintub");
-    EXPECT_FALSE(hints.isVisible());
-    EXPECT_FALSE(Item("Helpslinea").isChecked());
-}
-
-TEST_F(MainWindow, MinimisingDoesNotCountAsClosingTheHints) {
     mdi->showMinimized();
     QApplication::processEvents();
-    EXPECT_TRUE(program->shell.HintsShown);
+    EXPECT_TRUE(program->shell.HintsShown) << "minimising does not close them";
 }
 
-TEST_F(MainWindow, SinglePipeModeClosesTheDrawingAndLocksTheCalculateButton) {
-    program->project.numtubo = 3;
-    Choose("sintub");
-    EXPECT_EQ(Window("FrmCel"), nullptr);
-    EXPECT_FALSE(Child<QPushButton>("Command1", &mdi->Panel()).isEnabled());
-    EXPECT_EQ(program->project.Mode, WorkMode::SinglePipe);
-    EXPECT_EQ(program->project.numtubo, 3);
-    Choose("Grafico");
-    EXPECT_NE(Window("FrmCel"), nullptr);
-    EXPECT_TRUE(Child<QPushButton>("Command1", &mdi->Panel()).isEnabled());
-}
-
-TEST_F(MainWindow, ManualNotice) {
-    boxes.Expect(kManualNotice);
-    Choose("Help");
-}
-
-TEST_F(MainWindow, AboutWindowOpensProgressivelyAndClosesOnEscape) {
-    Choose("Logo");
-    ChildWindow* about = Window("FrmLogo");
-    ASSERT_NE(about, nullptr);
-    const QSize early = about->size();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return about->size() == QSize(400, 300); }));
+TEST_F(MainWindow, AboutWindowOpensProgressivelyAndStaysInReach) {
+    Open("Logo", "FrmLogo");
+    const QSize early = window->size();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == QSize(400, 300); }));
     EXPECT_LT(early.height(), 100);
-    EXPECT_EQ(Child<QLabel>("Label1", about).text(), "ver. 2.6.3");
-    QTest::keyClick(about, Qt::Key_Escape);
+    EXPECT_EQ(Shown("Label1"), "ver. 2.6.3");
+
+    QWidget* frame = window->parentWidget();
+    frame->move(900, 600);
+    mdi->resize(700, 500);
+    QApplication::processEvents();
+    const QRect area = mdi->Windows().viewport()->rect();
+    EXPECT_TRUE(area.contains(frame->pos()));
+    EXPECT_EQ(Window("FrmCel")->parentWidget()->geometry(), area);
+    QTest::keyClick(window, Qt::Key_Escape);
     EXPECT_EQ(Window("FrmLogo"), nullptr);
 }
 
-TEST_F(MainWindow, PanelFollowsTheSettings) {
+TEST_F(MainWindow, PanelAndChecksFollowTheSettings) {
     Choose("t4");
-    EXPECT_EQ(Child<QLabel>("RoughnessLabel").text(), "partially rusty...  2.00E-3");
-    QWidget& panel = mdi->Panel();
-    Choose("Rettangolare");
-    EXPECT_EQ(Child<QLabel>("LabelSideA").text(), "a [mm]");
-    EXPECT_TRUE(Child<QLabel>("LabelSideB").isVisible());
-    EXPECT_FALSE(Child<QComboBox>("Combo2", &panel).isVisible());
-    Choose("Circolare");
-    EXPECT_EQ(Child<QLabel>("LabelSideA").text(), "Diameter [mm]");
-    EXPECT_FALSE(Child<QLabel>("LabelSideB").isVisible());
+    EXPECT_EQ(Shown("RoughnessLabel"), "partially rusty...  2.00E-3");
     Choose("p_mbar");
-    for (const char* unit : {"LabelUnit_0", "LabelUnit_1", "LabelUnit_2", "LabelUnit_3"}) {
-        EXPECT_EQ(Child<QLabel>(unit).text(), "[mbar]");
-    }
-}
-
-TEST_F(MainWindow, CompressibleEquationIsRefusedForALiquid) {
+    EXPECT_EQ(Shown("LabelUnit_0 LabelUnit_1 LabelUnit_2 LabelUnit_3"),
+              "[mbar]|[mbar]|[mbar]|[mbar]");
     boxes.Expect(kNotCompressible);
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor1").isChecked());
-    program->project.FluidCompressibility = 1;
+    project.FluidCompressibility = 1;
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor2").isChecked());
-}
-
-TEST_F(MainWindow, CommandPanelCanNotBeClosed) {
-    EXPECT_FALSE(mdi->Panel().close());
-    EXPECT_TRUE(mdi->Panel().isVisible());
 }
 
 TEST_F(MainWindow, DroppedProjectIsOpenedAndOtherFilesAreNot) {
@@ -155,17 +115,6 @@ TEST_F(MainWindow, DroppedProjectIsOpenedAndOtherFilesAreNot) {
     boxes.Expect(kFileMissing);
     EXPECT_TRUE(send("absent.iv"));
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [absent.iv]");
-}
-
-TEST_F(MainWindow, ChildWindowsStayInReachWhenTheMainWindowShrinks) {
-    Choose("Logo");
-    QWidget* frame = Window("FrmLogo")->parentWidget();
-    frame->move(900, 600);
-    mdi->resize(700, 500);
-    QApplication::processEvents();
-    EXPECT_TRUE(mdi->Windows().viewport()->rect().contains(frame->pos()));
-    const QWidget* drawing = Window("FrmCel")->parentWidget();
-    EXPECT_EQ(drawing->geometry(), mdi->Windows().viewport()->rect());
 }
 
 }  // namespace

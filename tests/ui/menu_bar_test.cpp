@@ -11,13 +11,10 @@
 namespace idrova {
 namespace {
 
-QString WithoutMnemonic(QString caption) {
-    return caption.remove('&');
-}
-
 /// What a user finds: the entries of each menu, by the menu's name.
-void CollectMenu(const QList<QAction*>& actions, const QString& menu,
-                 std::map<QString, QList<QAction*>>& found) {
+using Menus = std::map<QString, QList<QAction*>>;
+
+void CollectMenu(const QList<QAction*>& actions, const QString& menu, Menus& found) {
     for (QAction* action : actions) {
         if (action->isSeparator()) continue;
         found[menu].push_back(action);
@@ -25,52 +22,35 @@ void CollectMenu(const QList<QAction*>& actions, const QString& menu,
     }
 }
 
-class MenuBarTest : public MainWindow {
-  protected:
-    MenuBarTest() { CollectMenu(mdi->menuBar()->actions(), "", menus); }
-
-    std::map<QString, QList<QAction*>> menus;
-};
-
-TEST_F(MenuBarTest, ShowsTheTableEntryForEntry) {
-    std::map<QString, QList<const MenuEntry*>> expected;
-    for (const MenuEntry& entry : MenuTable()) expected[ToQt(entry.parent)].push_back(&entry);
-    ASSERT_EQ(menus.size(), expected.size());
-    for (const auto& [menu, entries] : expected) {
-        ASSERT_EQ(menus[menu].size(), entries.size()) << FromQt(menu);
-        for (qsizetype i = 0; i < entries.size(); ++i) {
-            const MenuEntry& entry = *entries[i];
-            const QAction& action = *menus[menu][i];
-            const bool isMenu = entry.kind == MenuKind::Menu;
-            EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
-            EXPECT_EQ(WithoutMnemonic(action.text()), ToQt(entry.caption));
-            EXPECT_EQ(action.isChecked(), IsChecked(entry, {}, {})) << FromQt(action.text());
-            EXPECT_EQ(action.shortcut().toString(QKeySequence::PortableText), ToQt(entry.shortcut));
-            EXPECT_EQ(isMenu, action.statusTip().isEmpty()) << FromQt(action.text());
-        }
+TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
+    Menus menus;
+    CollectMenu(mdi->menuBar()->actions(), "", menus);
+    std::map<QString, qsizetype> next;
+    std::map<QString, std::set<QString>> keys;
+    for (const MenuEntry& entry : MenuTable()) {
+        SCOPED_TRACE(std::string(entry.name));
+        const QString menu = ToQt(entry.parent);
+        ASSERT_LT(next[menu], menus[menu].size());
+        const QAction& action = *menus[menu][next[menu]++];
+        const bool isMenu = entry.kind == MenuKind::Menu;
+        EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
+        EXPECT_EQ(action.text().remove('&'), ToQt(entry.caption));
+        EXPECT_EQ(action.isChecked(), IsChecked(entry, project, program->shell));
+        EXPECT_EQ(action.shortcut().toString(QKeySequence::PortableText), ToQt(entry.shortcut));
+        EXPECT_EQ(isMenu, action.statusTip().isEmpty());
+        const QString key = QKeySequence::mnemonic(action.text()).toString();
+        EXPECT_FALSE(key.isEmpty());
+        EXPECT_TRUE(keys[menu].insert(key).second) << "its mnemonic is taken";
     }
-}
+    for (const auto& [menu, actions] : menus) EXPECT_EQ(actions.size(), next[menu]);
 
-TEST_F(MenuBarTest, MnemonicsAreUniqueInEachMenu) {
-    for (const auto& [menu, actions] : menus) {
-        std::set<QString> keys;
-        for (const QAction* action : actions) {
-            const QString key = QKeySequence::mnemonic(action->text()).toString();
-            EXPECT_FALSE(key.isEmpty()) << FromQt(action->text());
-            EXPECT_TRUE(keys.insert(key).second) << FromQt(action->text());
-        }
-    }
-}
-
-TEST_F(MenuBarTest, GroupsKeepExactlyOneItemChecked) {
     for (const char* name : {"t1", "t5", "t5", "Rettangolare", "Rettangolare", "Circolare",
                              "p_mbar", "p_mbar", "Tabella", "sintub", "Grafico", "Cor1"}) {
         Choose(name);
         EXPECT_TRUE(Item(name).isChecked()) << name;
         for (const char* group : {"Rugosita", "Sezione", "Pressione", "Modalita", "Correlazioni"}) {
-            int checked = 0;
-            for (const QAction* action : menus[group]) checked += action->isChecked() ? 1 : 0;
-            EXPECT_EQ(checked, 1) << group << " after " << name;
+            const auto isChecked = [](const QAction* action) { return action->isChecked(); };
+            EXPECT_EQ(std::ranges::count_if(menus[group], isChecked), 1) << group << " " << name;
         }
     }
 }

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
 
-#include "main_window.h"
-#include "results/messages.h"
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
 #include "ui/messages.h"
@@ -24,11 +23,6 @@ TEST(PrintText, PdfHasThePagesAndReplacesNothingOnFailure) {
     EXPECT_TRUE(FileBytes(folder / "report.pdf").starts_with("%PDF-"));
     EXPECT_FALSE(WritePdf("text", folder / "absent" / "report.pdf"));
     EXPECT_FALSE(std::filesystem::exists(folder / "absent"));
-}
-
-TEST_F(MainWindow, PrintingAsksFirst) {
-    boxes.Expect(kAskPrint, Answer::No);
-    Choose("Stampa");
 }
 
 TEST(PrintText, PdfIsOfferedInPlaceOfAPrinter) {
@@ -59,11 +53,7 @@ TEST(StartWithFile, PathsWithBlanksReachTheProgramWhole) {
     const auto seen = folder / "the results.dat.seen";
     EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(seen); }));
     EXPECT_EQ(FileBytes(seen), "1:" + file.string() + ":" + folder.Path().string() + "\n");
-}
-
-TEST(StartWithFile, MissingProgramIsToldByName) {
-    const TempFolder folder;
-    const Status status = StartWithFile(folder / "vanished", folder / "out.dat");
+    const Status status = StartWithFile(folder / "vanished", file);
     ASSERT_FALSE(status);
     EXPECT_NE(status.Error().find("vanished"), std::string::npos);
 }

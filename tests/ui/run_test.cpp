@@ -1,123 +1,90 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <QLabel>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QToolButton>
-#include <vector>
 
-#include "editor/cell_click.h"
+#include "drawing_window.h"
 #include "hydraulics/messages.h"
-#include "main_window.h"
-#include "model/grid.h"
 #include "results/messages.h"
 #include "table/messages.h"
 #include "table/table_edit.h"
 #include "ui/frm_ava.h"
-#include "ui/frm_com.h"
 
 namespace idrova {
 namespace {
 
-class Run : public MainWindow {
+/// One pipe between two given pressures, drawn and in the table, no fluid yet.
+class Run : public DrawingWindow {
   protected:
-    /// One pipe of water between two given pressures.
-    void DrawPipe() {
-        Project& project = program->project;
-        for (const int column : {5, 15}) {
-            CellClick(project, program->editor, CellAt(column, 5, project.GridSize),
-                      MouseButton::Left, boxes);
-        }
-        project.Pipes[1].Length = 100;
-        project.Pipes[1].Diameter = 0.05F;
-        for (const int point : {1, 2}) {
-            project.PressureUnknown[static_cast<std::size_t>(point)] = false;
-            project.Points[static_cast<std::size_t>(point)].Pressure = point == 1 ? 3e5F : 2e5F;
-        }
+    Run() {
+        Draw(5, 5, 15, 5);
+        Select(10, 5);
+        Do("Text6=100;Text7=50;Option1_1;Option2_1;Text10=3;Text9=2");
+        const std::pair<int, const char*> row[] = {{1, "1"}, {2, "3"},  {3, "2"},
+                                                   {4, "2"}, {6, "50"}, {7, "100"}};
+        for (const auto& [column, text] : row) ChangeCell(project, program->table, 2, column, text);
     }
 
     void ChooseWater() {
-        program->project.FluidName = "water";
-        program->project.FluidDensity = 998.2;
-        program->project.FluidViscosity = 0.001002;
+        project.FluidName = "water";
+        project.FluidDensity = 998.2;
+        project.FluidViscosity = 0.001002;
         program->showSettings();
     }
 
-    void Calculate() { Child<QPushButton>("Command1", &mdi->Panel()).click(); }
-
+    std::string Stored() { return FileBytes(folder / "out.dat"); }
     QToolButton& OutcomeButton() { return Child<QToolButton>("StatusOutcome"); }
+    bool IsMarked() { return OutcomeButton().styleSheet().contains("background-color"); }
 };
 
-TEST_F(Run, ComputesTheDrawingAndWritesTheReport) {
-    DrawPipe();
+TEST_F(Run, OfTheDrawingIsReportedAndKeptInSequenceWhileThatIsChecked) {
     ChooseWater();
-    Calculate();
-    EXPECT_GT(program->project.Pipes[1].FlowRate, 1);
-    EXPECT_NE(FileBytes(folder / "out.dat").find("RESULTS CALCULATION"), std::string::npos);
-    EXPECT_TRUE(OutcomeButton().text().startsWith("Computed in "))
-        << OutcomeButton().text().toStdString();
-    EXPECT_EQ(OutcomeButton().styleSheet(), "");
+    project.BasePressure = 101325;
+    Do("Command1");
+    EXPECT_GT(project.Pipes[1].FlowRate, 1);
+    EXPECT_TRUE(OutcomeButton().text().startsWith("Computed in "));
+    EXPECT_FALSE(IsMarked());
     EXPECT_EQ(mdi->findChild<QWidget*>("FrmAva"), nullptr);
-    EXPECT_EQ(Child<QLabel>("StatusFluid").text(), "Fluid: water");
-}
+    EXPECT_EQ(Shown("StatusFluid"), "Fluid: water");
+    const std::string first = Stored();
+    EXPECT_NE(first.find("RESULTS CALCULATION"), std::string::npos);
+    EXPECT_EQ(program->report, first) << "what is printed is what is stored";
 
-TEST_F(Run, KeepsReportsInSequenceWhileTheItemIsChecked) {
-    DrawPipe();
-    ChooseWater();
-    const auto reports = [&] {
-        const std::string text = FileBytes(folder / "out.dat");
-        int count = 0;
-        for (auto at = text.find("RESULTS CALC"); at != std::string::npos;
-             at = text.find("RESULTS CALC", at + 1)) {
-            ++count;
-        }
-        return count;
-    };
-    Calculate();
     Choose("Risultatiseq");
     EXPECT_TRUE(Item("Risultatiseq").isChecked());
-    Calculate();
-    EXPECT_EQ(reports(), 2);
+    Do("Command1");
+    EXPECT_EQ(Stored(), first + program->report);
     Choose("Risultatiseq");
     EXPECT_FALSE(Item("Risultatiseq").isChecked());
-    Calculate();
-    EXPECT_EQ(reports(), 1);
-}
+    Do("Command1");
+    EXPECT_EQ(Stored(), program->report);
 
-TEST_F(Run, RefusalIsPlainlyMarkedAndItsNotesAreOneClickAway) {
-    DrawPipe();
-    boxes.Expect(kSelectAFluid);
-    Calculate();
-    EXPECT_TRUE(OutcomeButton().isVisible());
-    EXPECT_TRUE(OutcomeButton().styleSheet().contains("background-color"));
-    const idrova::MessageBox notes(OutcomeButton().text().toStdString(), "Computation",
-                                   BoxIcon::Exclamation);
-    boxes.Expect(notes);
-    OutcomeButton().click();
-}
-
-TEST_F(Run, TableIsComputedInTableModeAndNotWhenItIsRefused) {
-    ChooseWater();
-    Choose("Tabella");
-    const std::vector<std::pair<int, const char*>> row{{1, "1"}, {2, "3"},  {3, "2"},
-                                                       {4, "2"}, {6, "50"}, {7, "100"}};
-    for (const auto& [column, text] : row) {
-        ChangeCell(program->project, program->table, 2, column, text);
-    }
-    Calculate();
-    EXPECT_GT(program->work.WorkPipes[1].FlowRate, 1);
-    ChangeCell(program->project, program->table, 2, 3, "7");
-    boxes.Expect(kPointsLeaveGap);
-    program->work.WorkPipes[1].FlowRate = -1;
-    Calculate();
-    EXPECT_EQ(program->work.WorkPipes[1].FlowRate, -1);
-}
-
-TEST_F(Run, TurnsNegativeFlowRates) {
-    DrawPipe();
-    program->project.Pipes[1].FlowRate = -2;
+    project.Pipes[1].FlowRate = -2;
     boxes.Expect(kChangeDirections, Answer::Ok);
     Choose("Ordina");
-    EXPECT_EQ(program->project.Pipes[1].FlowRate, 2);
+    EXPECT_EQ(project.Pipes[1].FlowRate, 2);
+}
+
+TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
+    boxes.Expect(kSelectAFluid);
+    Do("Command1");
+    EXPECT_TRUE(OutcomeButton().isVisible() && IsMarked());
+    boxes.Expect({OutcomeButton().text().toStdString(), "Computation", BoxIcon::Exclamation});
+    OutcomeButton().click();
+
+    ChooseWater();
+    Choose("Tabella");
+    Do("Command1");
+    EXPECT_GT(program->work.WorkPipes[1].FlowRate, 1);
+    EXPECT_FALSE(IsMarked());
+    const std::string report = Stored();
+    ChangeCell(project, program->table, 2, 3, "7");
+    boxes.Expect(kPointsLeaveGap);
+    program->work.WorkPipes[1].FlowRate = -1;
+    Do("Command1");
+    EXPECT_EQ(program->work.WorkPipes[1].FlowRate, -1);
+    EXPECT_EQ(OutcomeButton().text(), "Not computed");
+    EXPECT_TRUE(IsMarked());
+    EXPECT_EQ(program->report, report);
 }
 
 TEST_F(Run, DeletedResultsCanNotBeShown) {
@@ -125,8 +92,9 @@ TEST_F(Run, DeletedResultsCanNotBeShown) {
     boxes.Expect(kAskDeleteResults, Answer::Ok);
     Choose("Elris");
     EXPECT_FALSE(std::filesystem::exists(folder / "out.dat"));
-    boxes.Expect(kConfigureEditor).Expect(kNoResultsFile);
+    boxes.Expect(kConfigureEditor).Expect(kNoResultsFile).Expect(kAskPrint, Answer::No);
     Choose("Risultati");
+    Choose("Stampa");
 }
 
 /// Counts how often an object is painted.

@@ -22,7 +22,6 @@ class WholeJob : public DrawingWindow {
                                        std::filesystem::copy_options::overwrite_existing);
         }
         program->handOvers.RereadComponents();
-        program->showComponents();
         LoadCurrentFluid(project, program->fluids, folder.Path(), boxes);
     }
 
@@ -30,15 +29,14 @@ class WholeJob : public DrawingWindow {
         Select(50, 50);
         Child<QComboBox>("Combo1").setCurrentIndex(kind);
         Child<QComboBox>("Combo3").setCurrentText(name);
-        Press("Command3");
+        Do("Command3");
         Click(column, row);
     }
 
     /// Selects the pipe in a cell and types its data.
-    void Describe(int column, int row, const char* length, int size) {
+    void Describe(int column, int row, const char* script) {
         Select(column, row);
-        Type("Text6", length);
-        Child<QComboBox>("Combo2", &mdi->Panel()).setCurrentIndex(size);
+        Do(script);
     }
 
     /// What idrova-calc reports on a project file in the folder.
@@ -77,23 +75,19 @@ TEST_F(WholeJob, DrawsDescribesComputesAndReports) {
     Place(1, "Gate valve, open", 25, 20);
     constexpr std::pair<int, int> pieces[] = {{12, 10}, {20, 15}, {12, 20}, {5, 15},
                                               {2, 10},  {22, 20}, {4, 10},  {27, 20}};
-    for (const auto& [column, row] : pieces) Describe(column, row, "8", 3);
-    Select(2, 10);
-    Press("Option1_1");
-    Type("Text10", "1.5");
-    Select(27, 20);
-    Press("Option2_1");
-    Type("Text9", "1.5");
+    for (const auto& [column, row] : pieces) Describe(column, row, "Text6=8;Combo2#3");
+    Describe(2, 10, "Option1_1;Text10=1.5");
+    Describe(27, 20, "Option2_1;Text9=1.5");
     ASSERT_EQ(project.numtubo, 8);
     ASSERT_EQ(project.npres, 10);
 
-    Press("Command1");
+    Do("Command1");
     ASSERT_TRUE(program->outcome);
     EXPECT_EQ(program->outcome->end, RunEnd::Settled) << OutcomeLine(*program->outcome);
     const std::vector<std::string> report = Words(FileBytes(folder / "out.dat"));
     ASSERT_GT(report.size(), 100U);
     Select(12, 10);
-    EXPECT_GT(std::abs(ReadNumber(FromQt(Box("Text2").text()))), 100);  // kg/h in one branch
+    EXPECT_GT(std::abs(ReadNumber(FromQt(Shown("Text2")))), 100);  // kg/h in one branch
 
     ASSERT_TRUE(WriteProject(project, folder / "job.iv"));
     const std::vector<std::string> other = Words(ReportOfCalc("job.iv"));
