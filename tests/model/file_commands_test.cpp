@@ -135,7 +135,7 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         {"huge", OpenFailed(Path("huge.iv") + " is too large"), stays},
         {"folder", OpenFailed(Path("folder.iv") + " is not a file"), stays},
         {"none", missing, Path("none.iv") + "|typed|title:none"},
-        {"old", tooOld, "New project|typed|clear reread title:New project"},
+        {"old", tooOld, "New project|typed|table clear reread title:New project"},
         {"old", tooOld, "New project|typed|table clear reread title:New project", WorkMode::Table},
     };
     for (const Case& c : cases) {
