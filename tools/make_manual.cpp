@@ -28,7 +28,8 @@ constexpr double kBodySize = 10;      ///< points
 constexpr std::array<double, 4> kHeadingSizes = {0, 20, 14, 11};
 constexpr double kPixelSize = 0.62 / 2;  ///< points; pictures have two pixels to one of the screen
 constexpr double kCodeSize = 8;
-constexpr int kSpace = 6;  ///< units below a paragraph
+constexpr int kSpace = 6;           ///< units below a paragraph
+constexpr double kCellPadding = 3;  ///< units
 constexpr QRgb kHeadingColour = 0xFF1F4E79;
 constexpr QRgb kTableHeadColour = 0xFFE4ECF4;
 constexpr QRgb kLineColour = 0xFFB0B8C0;
@@ -85,7 +86,7 @@ class Manual {
             text_.drawContents(&painter, {0, i * page.height(), page.width(), page.height()});
             painter.restore();
             painter.setFont(BodyFont());
-            const double foot = kMargin / 2 / kPointsPerInch * kResolution;
+            const double foot = Pixels(kMargin) / 2;
             painter.drawText(QRectF(0, page.height() - 1.6 * foot, page.width(), foot),
                              Qt::AlignHCenter, QString::number(i + 1));
         }
@@ -170,7 +171,7 @@ class Manual {
         format.setBorderBrush(QColor(kLineColour));
         format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
         format.setBorderCollapse(true);
-        format.setCellPadding(3);
+        format.setCellPadding(kCellPadding);
         format.setCellSpacing(0);
         format.setBottomMargin(2 * kSpace);
         format.setWidth(QTextLength(QTextLength::PercentageLength, 100));
@@ -240,9 +241,9 @@ class Manual {
     }
 
     /// A heading with a page break between it and what follows goes to the next page as well, and
-    /// so do lines of code that a page break would part.
+    /// so do lines of code and rows of a table that a page break would part.
     void KeepTogether() {
-        for (int round = 0; round < kMostRounds && MoveOneBlock(); ++round) {
+        for (int round = 0; round < kMostRounds && (MoveOneBlock() || MoveOneRow()); ++round) {
         }
     }
 
@@ -262,13 +263,51 @@ class Manual {
         QTextBlock last = block;
         if (Level(block) > 1) last = block.next();
         while (IsCode(last) && IsCode(last.next()) && !IsCode(block.previous())) last = last.next();
-        return last.isValid() && PageOf(block) != FirstLinePage(last);
+        return last.isValid() && PageOf(block) != LinePage(last, 0);
     }
 
-    int FirstLinePage(const QTextBlock& block) const {
-        if (block.layout()->lineCount() == 0) return PageOf(block);
+    bool MoveOneRow() {
+        for (QTextFrame* frame : text_.rootFrame()->childFrames()) {
+            auto* table = qobject_cast<QTextTable*>(frame);
+            for (int row = 2; table != nullptr && row < table->rows(); ++row) {
+                if (IsParted(*table, row)) return MoveRow(*table, row);
+            }
+        }
+        return false;
+    }
+
+    bool IsParted(const QTextTable& table, int row) const {
+        const int page = PageOf(table.cellAt(row, 0).firstCursorPosition().block());
+        for (int column = 0; column < table.columns(); ++column) {
+            const QTextBlock last = table.cellAt(row, column).lastCursorPosition().block();
+            if (LinePage(last, last.layout()->lineCount() - 1) != page) return true;
+        }
+        return false;
+    }
+
+    /// The row above grows until no line of this one has room below it. False when it has grown.
+    bool MoveRow(const QTextTable& table, int row) {
+        const QTextBlock first = table.cellAt(row, 0).firstCursorPosition().block();
+        const double bottom = (PageOf(first) + 1) * text_.pageSize().height() - Pixels(kMargin);
+        const double top = text_.documentLayout()->blockBoundingRect(first).top();
+        const double line = first.layout()->lineAt(0).height();
+        const double space = (bottom - top - line / 2) * kUnitsPerInch / kResolution;
+        for (int column = 0; column < table.columns(); ++column) {
+            QTextTableCell cell = table.cellAt(row - 1, column);
+            QTextTableCellFormat format = cell.format().toTableCellFormat();
+            if (format.hasProperty(QTextFormat::TableCellBottomPadding)) return false;
+            format.setBottomPadding(kCellPadding + space);
+            cell.setFormat(format);
+        }
+        return true;
+    }
+
+    static double Pixels(double points) { return points / kPointsPerInch * kResolution; }
+
+    int LinePage(const QTextBlock& block, int line) const {
+        if (line < 0 || line >= block.layout()->lineCount()) return PageOf(block);
         const QRectF box = text_.documentLayout()->blockBoundingRect(block);
-        const double bottom = box.top() + block.layout()->lineAt(0).rect().bottom();
+        const double bottom = box.top() + block.layout()->lineAt(line).rect().bottom();
         return static_cast<int>(bottom / text_.pageSize().height());
     }
 
