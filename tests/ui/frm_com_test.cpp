@@ -107,10 +107,8 @@ TEST_F(CommandPanel, TheArmedButtonBlinks) {
     EXPECT_EQ(Child<QTimer>("Timer1").interval(), 200);
     EXPECT_TRUE(QTest::qWaitFor(isLit, 1000));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !isLit(); }, 1000));
-    EXPECT_TRUE(QTest::qWaitFor(isLit, 1000));
     Click(5, 5);
-    EXPECT_FALSE(isLit());
-    EXPECT_FALSE(Child<QTimer>("Timer1").isActive());
+    EXPECT_FALSE(isLit() || Child<QTimer>("Timer1").isActive());
     EXPECT_EQ(project.Cells[CellAt(5, 5, 50)].Name, "gate valve");
     EXPECT_FALSE(Child<QWidget>("Command2").isVisible());
 }

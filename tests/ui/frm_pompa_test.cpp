@@ -43,14 +43,5 @@ TEST_F(PumpWindow, ANewPumpIsListedChosenAndOfferedForInsertion) {
     EXPECT_EQ(Child<QComboBox>("Combo3").findText("New"), 2);
 }
 
-TEST_F(PumpWindow, DeletesOnlyWhatIsChosen) {
-    Do("Combo1#0;Command3");
-    EXPECT_EQ(Names(), QStringList("Level"));
-    EXPECT_EQ(Shown("Text1"), "30.");
-    boxes.Expect(kNoPumpToDelete).Expect(kNoPumpToDelete);
-    Do("Command3;Combo1=Level;Command3");
-    EXPECT_EQ(StoredRecords<PumpRecord>().size(), 1U);
-}
-
 }  // namespace
 }  // namespace idrova

@@ -45,21 +45,16 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
 }
 
 TEST_F(SinglePipeWindow, UnknownIsYellowAndLockedAndItsArrowsAreToo) {
-    struct Option {
-        QString option, box, arrows;
-    };
-    const std::vector<Option> options{{"OptInc_0", "Text2", "Command3 Command4"},
-                                      {"OptInc_1", "Text3", "Command5 Command6"},
-                                      {"OptInc_2", "Text1", "Command1 Command2"},
-                                      {"OptInc_3", "Text4", "Command7 Command8"}};
-    for (const Option& chosen : options) {
-        Do(chosen.option);
-        for (const Option& shown : options) {
-            const bool known = &shown != &chosen;
-            const QString controls = shown.box + " " + shown.arrows;
-            EXPECT_EQ(Enabled(controls), known ? controls : "");
-            EXPECT_EQ(Child<QWidget>(shown.box).palette().color(QPalette::Base),
-                      known ? QColor(0xFFFFFF) : QColor(0xFFFFC0));
+    const char* arrows[] = {"Command3 Command4", "Command5 Command6", "Command1 Command2",
+                            "Command7 Command8"};
+    const QString fields[] = {"Text2", "Text3", "Text1", "Text4"};
+    for (int chosen : {0, 1, 2, 3}) {
+        Do("OptInc_" + QString::number(chosen));
+        for (int i : {0, 1, 2, 3}) {
+            const QString controls = fields[i] + " " + arrows[i];
+            EXPECT_EQ(Enabled(controls), i == chosen ? "" : controls);
+            EXPECT_EQ(Child<QWidget>(fields[i]).palette().color(QPalette::Base),
+                      QColor(i == chosen ? 0xFFFFC0 : 0xFFFFFF));
         }
     }
 }
