@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <string>
+#include <tuple>
 
 #include "hydraulics/law_check.h"
 #include "hydraulics/run_settings.h"
@@ -166,6 +167,25 @@ TEST(ComputeNetwork, IdlePipesSettle) {
         const NetworkRun still(bridge);
         EXPECT_EQ(still.outcome.end, RunEnd::Settled);
         for (int i = 1; i <= 7; ++i) EXPECT_EQ(still.Flow(i), 0);
+    }
+}
+
+/// A closed hydrant behind a valve or a pump, on a branch of a line from 2 to 1 bar.
+TEST(ComputeNetwork, ComponentsInClosedBranchesSettleFromAnyStart) {
+    for (const auto& [kind, param1, param2] : {std::tuple{kLoss, 10.0F, 0.0F}, {kPump, -9, 5e4F}}) {
+        for (std::uint32_t seed = 1; seed <= 20; ++seed) {
+            NetworkBuilder network = CutPipe(kind, 20, 0.05F);
+            CellRec& cell = network->Cells[network->Points[2].Cell];
+            cell.Param1 = param1;
+            cell.Param2 = param2;
+            network.SetFlow(2, 0);
+            for (const int row : {2, 8}) network.AddPipe(1, network.AddPoint(2, row), 50, 0.05F);
+            network.SetPressure(5, 2e5F);
+            network.SetPressure(6, 1e5F);
+            const NetworkRun run(network, seed);
+            EXPECT_EQ(run.outcome.end, RunEnd::Settled) << seed;
+            EXPECT_NEAR(run.Pressure(4) - run.Pressure(1), param2, 20) << seed;
+        }
     }
 }
 
