@@ -126,7 +126,7 @@ constexpr const char* kNewProject = "New project";
 
 /// Steps of a command that belong to windows or to other folders. They do nothing until attached.
 struct HandOvers {
-    std::function<void()> ClearDrawing = [] {};      ///< remove what is drawn, editor to its start
+    std::function<void()> ClearDrawing = [] {};      ///< the editor back to its start
     std::function<void()> RereadComponents = [] {};  ///< load the pump and loss databases again
     std::function<void()> ClearTable = [] {};        ///< empty the table editor's cells
     std::function<void()> ShowNetwork = [] {};       ///< redraw, or refill the table, by the mode

@@ -19,7 +19,6 @@ bool FileExists(const fs::path& path) {
     return fs::exists(path, error) && !fs::is_directory(path, error);
 }
 
-/// What the view of the current mode shows goes first, while the counts are still those it drew.
 void LeaveNetwork(Project& project, const HandOvers& handOvers) {
     if (project.Mode == WorkMode::Graphic) ResetProject(project, handOvers);
     if (project.Mode == WorkMode::Table) handOvers.ClearTable();
@@ -30,6 +29,7 @@ void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
     ResetProject(project, handOvers);
     ClearNetwork(project);
     project.ProjectName = kNewProject;
+    handOvers.ShowNetwork();
     handOvers.ShowTitle(project.ProjectName);
 }
 

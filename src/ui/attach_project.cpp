@@ -2,6 +2,7 @@
 #include "editor/editor_state.h"
 #include "model/project_commands.h"
 #include "physdata/component_lists.h"
+#include "physdata/pump_constants.h"
 #include "table/table_texts.h"
 #include "ui/child_windows.h"
 #include "ui/commands.h"
@@ -24,22 +25,22 @@ void Save(MDI& mdi) {
     if (!SaveToOwnFile(program.project, program.boxes)) ShowFileWindow(mdi, FilePurpose::Save);
 }
 
-/// The editor and the table texts are made again from the network that was put in place.
+/// The editor and the table texts are made again from the network that was put in place, and all
+/// that shows them.
 void TakeNetwork(MDI& mdi) {
     Program& program = mdi.State();
+    CompletePumpConstants(program.project, program.components.pumps);
     RedrawProject(program.project, program.editor);
     program.table = TableTexts();
     FillTable(program.project, program.table);
     mdi.ShowNetwork();
+    mdi.ShowSettings();
 }
 
 void AttachHandOvers(MDI& mdi) {
     Program& program = mdi.State();
     HandOvers& steps = program.handOvers;
-    steps.ClearDrawing = [&mdi, &program] {
-        ClearDrawing(program.editor);
-        mdi.ShowNetwork();
-    };
+    steps.ClearDrawing = [&program] { ClearDrawing(program.editor); };
     steps.RereadComponents = [&program] {
         LoadComponentDatabases(program.components, program.folder, program.boxes);
         program.showComponents();
