@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "hydraulics/linear_solver.h"
@@ -13,7 +14,8 @@
 namespace idrova {
 namespace {
 
-constexpr double kResidualFloor = 1e-6;       ///< Pa; below it a drop counts as none
+constexpr double kResidualFloor = 1e-6;  ///< Pa; below it a drop counts as none
+constexpr double kLargestStored = std::numeric_limits<float>::max();
 constexpr double kLowestMeanPressure = 1000;  ///< Pa
 
 class Stage {
@@ -86,7 +88,7 @@ class Stage {
                                              Inverse::NotWanted) == Solve::Singular;
         std::copy(system_.rightSide.begin(), system_.rightSide.end(), result_.solution.begin() + 1);
         result_.finite = std::all_of(result_.solution.begin(), result_.solution.end(),
-                                     [](double x) { return std::isfinite(x); });
+                                     [](double x) { return std::abs(x) <= kLargestStored; });
     }
 
     /// Measures every pipe and moves the guesses of those that are off half way to the solution.

@@ -47,7 +47,7 @@ bool GasLawApplies(const Settings& settings, MessageBoxes& boxes) {
         boxes.Show(kNotCompressible);
         return false;
     }
-    if (settings.FluidTemperature <= -kCelsiusToKelvin) {
+    if (settings.FluidTemperature <= ToSingle(-kCelsiusToKelvin)) {
         boxes.Show(kTooCold);
         return false;
     }

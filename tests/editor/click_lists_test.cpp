@@ -182,5 +182,22 @@ TEST(Capacity, IsCheckedBeforeAnythingChanges) {
     }
 }
 
+TEST(ClickLists, FourPipesMeetInOnePointInEveryOrder) {
+    std::string arms[] = {"10,5", "10,15", "15,10", "5,10"};
+    std::ranges::sort(arms);
+    do {
+        for (unsigned fromTip = 0; fromTip < 16; ++fromTip) {
+            Plant plant;
+            for (unsigned i = 0; i < 4; ++i) {
+                const bool tip = (fromTip >> i & 1U) != 0;
+                plant.Do(tip ? "L" + arms[i] + " L10,10" : "L10,10 L" + arms[i]);
+            }
+            EXPECT_EQ(plant.project.numtubo, 4);
+            EXPECT_EQ(plant.project.npres, 5);
+            ASSERT_THAT(BrokenInvariants(plant.project, plant.editor), IsEmpty());
+        }
+    } while (std::ranges::next_permutation(arms).found);
+}
+
 }  // namespace
 }  // namespace idrova

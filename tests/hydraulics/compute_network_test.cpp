@@ -189,6 +189,26 @@ TEST(ComputeNetwork, ComponentsInClosedBranchesSettleFromAnyStart) {
     }
 }
 
+TEST(ComputeNetwork, NumbersAndReferencesDoNotMatter) {
+    NetworkBuilder plain = LoopedNetwork(4, 4);
+    NetworkBuilder mixed = LoopedNetwork(4, 4);
+    const int pipes = plain->numtubo;
+    for (int i = 1; i <= pipes; ++i) {  // the other way round, every third counted backwards
+        PipeRec& pipe = mixed->Pipes[pipes + 1 - i] = plain->Pipes[i];
+        mixed->FlowUnknown[pipes + 1 - i] = plain->FlowUnknown[i];
+        if (i % 2 == 0) std::swap(pipe.StartPoint, pipe.EndPoint);
+        if (i % 3 == 0 && plain->FlowUnknown[i])
+            pipe.FlowFromPoint ^= pipe.StartPoint ^ pipe.EndPoint;
+    }
+    const NetworkRun expected(plain);
+    const NetworkRun run(mixed, 99);
+    ASSERT_EQ(run.outcome.end, RunEnd::Settled);
+    for (int i = 1; i <= pipes; ++i) {
+        const int sign = i % 3 == 0 && plain->FlowUnknown[i] ? -1 : 1;
+        EXPECT_NEAR(sign * run.Flow(pipes + 1 - i), expected.Flow(i), 1e-3) << i;
+    }
+}
+
 TEST(ComputeNetwork, ComponentsCrossedBackwardsAreToldAndCured) {
     for (const CellKind kind : {kLoss, kPump}) {
         NetworkBuilder network = Line{"", kind, 0, 20000, 0, 100, 0.1F, 2e5F, 3e5F}.Build();

@@ -42,7 +42,7 @@ void OverdetermineFirstPipe(NetworkBuilder& network) {
 
 void TooCold(NetworkBuilder& network) {
     MakeAir(*network);
-    network->FluidTemperature = -274;
+    network->FluidTemperature = -273.15F;
 }
 
 void ForgetSizes(NetworkBuilder& network) {
