@@ -4,10 +4,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <vector>
 
-#include "support/scripted_boxes.h"
+#include "support/network_run.h"
 #include "table/messages.h"
 
 namespace idrova {
@@ -56,6 +57,33 @@ TEST_F(TableNetwork, RowsBecomePipesAndPoints) {
     ASSERT_TRUE(Convert());
     EXPECT_EQ(work->WorkPoints[2].Pressure, kBar);
     EXPECT_EQ(work->WorkPoints[3].Pressure, 4 * kBar);
+}
+
+TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
+    NetworkBuilder drawn = LoopedNetwork(4, 4);
+    std::vector<TableRowRec> rows;
+    for (int i = 1; i <= drawn->numtubo; ++i) {
+        const PipeRec& pipe = drawn->Pipes[i];
+        const PointRec& start = drawn->Points[pipe.StartPoint];
+        const PointRec& end = drawn->Points[pipe.EndPoint];
+        rows.push_back({pipe.StartPoint, start.Pressure, pipe.EndPoint, end.Pressure, pipe.Diameter,
+                        pipe.Length, pipe.FlowRate, 0, 0, !drawn->PressureUnknown[pipe.StartPoint],
+                        !drawn->PressureUnknown[pipe.EndPoint], !drawn->FlowUnknown[i]});
+    }
+    static_cast<Settings&>(*project) = *drawn;
+    project->Mode = WorkMode::Table;
+    Load(rows);
+    ASSERT_TRUE(Convert());
+    EXPECT_EQ(ComputeNetwork(*project, *work, false, {.boxes = boxes, .seed = 1}).end,
+              RunEnd::Settled);
+    const NetworkRun graphic(drawn);
+    for (int i = 1; i <= drawn->numtubo; ++i) {
+        EXPECT_NEAR(work->WorkPipes[i].FlowRate, graphic.Flow(i), 1e-6 * std::abs(graphic.Flow(i)))
+            << i;
+    }
+    for (int i = 1; i <= drawn->npres; ++i) {
+        EXPECT_NEAR(work->WorkPoints[i].Pressure, graphic.Pressure(i), 0.5) << i;
+    }
 }
 
 TEST_F(TableNetwork, RefusedTablesLeaveTheWorkingNetwork) {
