@@ -10,7 +10,6 @@ namespace {
 
 void PlacePipe(const Project& project, const ProjectContent::Pipe& source, PipeRec& pipe) {
     pipe = source.record;
-    pipe.FlowFromPoint = pipe.StartPoint;
     if (source.startCell == 0) {
         pipe.X1 = pipe.X2 = pipe.Y1 = pipe.Y2 = kDeleted;
         return;

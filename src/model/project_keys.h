@@ -15,6 +15,7 @@ constexpr std::size_t kLargestProjectFile = std::size_t{16} * 1024 * 1024;
 /// Key lines of the project file that a reader has to know. It passes the others over.
 constexpr std::string_view kPumpConstantsKey = "pump constants";
 constexpr std::string_view kGivenZerosKey = "given zeros";
+constexpr std::string_view kFlowFromEndKey = "flow from end points";
 constexpr std::string_view kDescriptionKey = "Project description";
 
 /// A column of the table in which a typed zero differs from an empty cell.

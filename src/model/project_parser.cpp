@@ -38,6 +38,7 @@ ProjectContent::Pipe ReadPipe(ProjectLines& lines, int cellCount, int pointCount
     record.FlowRate = lines.Single();
     record.StartPoint = lines.Int16();
     record.EndPoint = lines.Int16();
+    record.FlowFromPoint = record.StartPoint;
     record.Z1 = lines.Int16();
     record.Z2 = lines.Int16();
     record.OuterSize = lines.Single();
@@ -178,6 +179,18 @@ void ReadGivenZeros(ProjectLines& lines, ProjectContent& content) {
     }
 }
 
+void ReadFlowsFromEnd(ProjectLines& lines, ProjectContent& content) {
+    const int pipes = static_cast<int>(content.pipes.size());
+    const int count = lines.Count(kMaxPipes);
+    for (int i = 0; i < count && !lines.Failed(); ++i) {
+        lines.Numbers(1);
+        const int number = lines.Whole(1, pipes);
+        if (lines.Failed()) return;
+        PipeRec& pipe = content.pipes[static_cast<std::size_t>(number - 1)].record;
+        pipe.FlowFromPoint = pipe.EndPoint;
+    }
+}
+
 /// The key before the description is compared only where the file may be cut off inside it.
 void ReadDescription(ProjectLines& lines, ProjectContent& content) {
     if (lines.AtEnd()) return;
@@ -207,6 +220,7 @@ Result<ProjectContent> ParseProject(std::string_view text, int gridSize) {
     ReadTableRows(lines, content);
     if (lines.PassKey(kPumpConstantsKey)) ReadPumpConstants(lines, content);
     if (lines.PassKey(kGivenZerosKey)) ReadGivenZeros(lines, content);
+    if (lines.PassKey(kFlowFromEndKey)) ReadFlowsFromEnd(lines, content);
     ReadDescription(lines, content);
     if (lines.Failed()) return Failure{lines.Fault()};
     return content;

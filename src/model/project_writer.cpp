@@ -144,6 +144,19 @@ void WriteGivenZeros(PrintZoneWriter& out, const Project& project) {
     for (const auto& [row, column] : zeros) NumberLine(out, row, column);
 }
 
+/// Only files with a pipe whose flow is counted from its end point have this group.
+void WriteFlowsFromEnd(PrintZoneWriter& out, const Project& project) {
+    std::vector<int> pipes;
+    for (int i = 1; i <= project.numtubo; ++i) {
+        const PipeRec& pipe = project.Pipes[static_cast<std::size_t>(i)];
+        if (pipe.IsDrawn() && pipe.FlowFromPoint == pipe.EndPoint) pipes.push_back(i);
+    }
+    if (pipes.empty()) return;
+    KeyLine(out, kFlowFromEndKey);
+    NumberLine(out, static_cast<int>(pipes.size()));
+    for (const int pipe : pipes) NumberLine(out, pipe);
+}
+
 }  // namespace
 
 int CountTableRows(const Project& project) {
@@ -170,6 +183,7 @@ std::string ProjectFileText(const Project& project) {
     WriteTableRows(out, project);
     WritePumpConstants(out, project, components);
     WriteGivenZeros(out, project);
+    WriteFlowsFromEnd(out, project);
     KeyLine(out, kDescriptionKey);
     TextLine(out, project.ProjectDescription);
     return out.Bytes();

@@ -135,8 +135,8 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         {"huge", OpenFailed(Path("huge.iv") + " is too large"), stays},
         {"folder", OpenFailed(Path("folder.iv") + " is not a file"), stays},
         {"none", missing, Path("none.iv") + "|typed|title:none"},
-        {"old", tooOld, "New project|typed|table clear reread title:New project"},
-        {"old", tooOld, "New project|typed|table clear reread title:New project", WorkMode::Table},
+        {"old", tooOld, "New project|typed|clear reread show title:New project"},
+        {"old", tooOld, "New project|typed|table clear reread show title:New project", WorkMode::Table},
     };
     for (const Case& c : cases) {
         project = SampleProject();
@@ -159,7 +159,7 @@ TEST_F(FileCommands, ANewProjectForgetsItsFile) {
     EXPECT_FALSE(NewProject(*project, boxes, handOvers));
     EXPECT_EQ(State(), "mine.iv|two taps, one pump|");
     EXPECT_TRUE(NewProject(*project, boxes, handOvers));
-    EXPECT_EQ(State(), "New project|two taps, one pump|clear reread title:New project");
+    EXPECT_EQ(State(), "New project|two taps, one pump|clear reread show title:New project");
     EXPECT_EQ(project->numtubo, 0);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), std::nullopt) << "the window is needed";
 }

@@ -37,6 +37,7 @@ TEST(MalformedProject, IsRefusedWithThePlaceNamed) {
         {kSampleText, "", "line 1: the line is missing"},
         {pipe, " 0             50 ", "line 7: one end of the pipe has no cell"},
         {pipe, " 0             0 ", "line 7: the points of a deleted pipe must be -10"},
+        {"Project d", "flow from end points\n1\n5\nProject d", "line 49: item 1 must be"},
         {pipe, " 1             2501 ", "line 7: item 2 must be a whole number from 0 to 2500"},
         {pipe, " 1 ", "line 7: 10 items expected, found 9"},
         {pipe, " 1 2 3 ", "line 7: 10 items expected, found more"},

@@ -43,17 +43,19 @@ TEST(ProjectText, AnEmptyProjectHasOnlyKeysAndZeros) {
     EXPECT_EQ(*copy, *project) << "nothing is left of the former network";
 }
 
-TEST(ProjectText, PumpConstantsAndGivenZerosHaveGroupsOfTheirOwn) {
+TEST(ProjectText, WhatTheOldFormatLacksHasGroupsOfItsOwn) {
     auto project = SampleProject();
     project->Cells[25].PumpConstant = 250000;
     project->Cells[100].PumpConstant = 1;  // no pump
     project->TableRows[2].FlowGiven = true;
     project->TableRows[3].P1Given = true;
     project->TableRows[4].P1Given = true;  // below the last row
+    project->Pipes[2].FlowFromPoint = 3;
     const std::string text = ProjectFileText(*project);
     EXPECT_EQ(text.substr(text.find("pump constants")),
               "pump constants\r\n 1 \r\n 25            250000 \r\n"
               "given zeros\r\n 2 \r\n 2             8 \r\n 3             2 \r\n"
+              "flow from end points\r\n 1 \r\n 2 \r\n"
               "Project description\r\ntwo taps, one pump\r\n");
     project->Cells[100].PumpConstant = 0;
     project->TableRows[4].P1Given = false;
