@@ -9,6 +9,7 @@ bool NewProject(Project& project, MessageBoxes& boxes, const HandOvers& handOver
     if (boxes.Show(kLeaveProject) != Answer::Ok) return false;
     ResetProject(project, handOvers);
     project.ProjectName = kNewProject;
+    handOvers.ShowNetwork();
     handOvers.ShowTitle(project.ProjectName);
     return true;
 }

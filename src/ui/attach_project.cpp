@@ -59,9 +59,8 @@ void AttachProjectCommands(MDI& mdi) {
     AttachHandOvers(mdi);
     MenuBar& menu = mdi.Menu();
     Program& program = mdi.State();
-    menu.Attach("Nuovo", [&mdi, &program] {
-        if (NewProject(program.project, program.boxes, program.handOvers)) mdi.ShowNetwork();
-    });
+    menu.Attach("Nuovo",
+                [&program] { NewProject(program.project, program.boxes, program.handOvers); });
     menu.Attach("Apri", [&mdi] { ShowFileWindow(mdi, FilePurpose::Open); });
     menu.Attach("Salva", [&mdi] { Save(mdi); });
     menu.Attach("Salva2", [&mdi] { ShowFileWindow(mdi, FilePurpose::Save); });
