@@ -25,7 +25,7 @@ void LeaveNetwork(Project& project, const HandOvers& handOvers) {
 }
 
 void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
-    handOvers.ClearTable();
+    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
     ResetProject(project, handOvers);
     ClearNetwork(project);
     project.ProjectName = kNewProject;
