@@ -136,7 +136,8 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         {"folder", OpenFailed(Path("folder.iv") + " is not a file"), stays},
         {"none", missing, Path("none.iv") + "|typed|title:none"},
         {"old", tooOld, "New project|typed|clear reread show title:New project"},
-        {"old", tooOld, "New project|typed|table clear reread show title:New project", WorkMode::Table},
+        {"old", tooOld, "New project|typed|table clear reread show title:New project",
+         WorkMode::Table},
     };
     for (const Case& c : cases) {
         project = SampleProject();
