@@ -3,6 +3,7 @@
 
 #include <QComboBox>
 #include <QPersistentModelIndex>
+#include <QTimer>
 
 #include "table/table_columns.h"
 #include "ui/name_list.h"
@@ -21,7 +22,10 @@ QWidget* TableDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem
                 sizeChosen(list, cell, position);
             });
     // The list has its place over the cell only once the view has taken it.
-    QMetaObject::invokeMethod(list, &QComboBox::showPopup, Qt::QueuedConnection);
+    auto* placed = new QTimer(list);
+    placed->setSingleShot(true);
+    connect(placed, &QTimer::timeout, list, &QComboBox::showPopup);
+    placed->start(0);
     return list;
 }
 
