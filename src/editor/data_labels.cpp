@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/data_labels.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <map>
 #include <set>
 #include <utility>
+#include <vector>
 
 #include "base/number_text.h"
 #include "editor/grid_view.h"
@@ -16,27 +19,70 @@ std::string LabelText(const Project& project, int number) {
     return "P" + GeneralText(number) + "=" + FormatNumber(shown, "##.###");
 }
 
-/// A point in the column of one labelled before has its label above, so that the two stay apart,
-/// where there is room above the grid; of those that would still hide each other, each stands
-/// further away than the one before.
+/// Finds a place for each label where it hides none of those before.
+class LabelPlaces {
+  public:
+    LabelPlaces(const GridGeometry& grid, ScreenPoint scrolled)
+        : cell_(grid.CellWidth), highest_(scrolled.y + grid.GridTop - grid.CellHeight) {}
+
+    /// Top-left corner of the label of a point. The first label of a column stands below its point,
+    /// the others above, where there is room above the grid; where that place is taken on the other
+    /// side, or further away.
+    ScreenPoint Take(const PointRec& point, std::size_t letters) {
+        const int half = cell_ / 2;
+        const bool below = columns_.insert(point.X).second;
+        ScreenPoint corner{point.X + half, 0};
+        for (int away = 0;; away += cell_) {
+            for (const bool lower : {below, !below}) {
+                corner.y = lower ? point.Y + half + away : point.Y - 6 * half - away;
+                const bool fits = lower || corner.y >= highest_;
+                if (fits && IsFree(corner, letters)) {
+                    taken_[corner.y / cell_].push_back({corner, WidthOf(letters)});
+                    return corner;
+                }
+            }
+        }
+    }
+
+  private:
+    struct Label {
+        ScreenPoint corner;
+        int width;
+    };
+
+    int WidthOf(std::size_t letters) const { return static_cast<int>(letters) * cell_ * 2 / 5; }
+
+    bool IsFree(ScreenPoint corner, std::size_t letters) const {
+        const int right = corner.x + WidthOf(letters);
+        const auto hides = [&](const Label& other) {
+            return std::abs(corner.y - other.corner.y) < cell_ &&
+                   corner.x < other.corner.x + other.width && other.corner.x < right;
+        };
+        const int row = corner.y / cell_;
+        for (auto at = taken_.lower_bound(row - 1); at != taken_.end() && at->first <= row + 1;
+             ++at) {
+            if (std::ranges::any_of(at->second, hides)) return false;
+        }
+        return true;
+    }
+
+    int cell_, highest_;
+    std::set<int> columns_;
+    std::map<int, std::vector<Label>> taken_;  ///< by row of cells
+};
+
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    const int half = project.Grid.CellWidth / 2;
-    std::set<int> columns;
-    std::set<std::pair<int, int>> taken;
+    const ScreenPoint origin = Shown(project, editor, {0, 0});
+    LabelPlaces places(project.Grid, {-origin.x, -origin.y});
     for (int i = 1; i <= project.npres; ++i) {
         const PointRec& point = project.Points[i];
         if (!point.IsDrawn()) continue;
-        const bool below = columns.insert(point.X).second;
-        ScreenPoint corner{point.X + half, below ? point.Y + half : point.Y - 6 * half};
-        int step = -2 * half;
-        if (Shown(project, editor, corner).y < project.Grid.GridTop - 2 * half) {
-            corner.y = point.Y + half;
-            step = 2 * half;
-        }
-        while (!taken.insert({corner.x, corner.y}).second) corner.y += step;
+        const std::string text = LabelText(project, i);
+        // Points that are scrolled away take their places too: no label moves by scrolling.
+        const ScreenPoint corner = places.Take(point, text.size());
         if (!IsOnGrid(project, Shown(project, editor, {point.X, point.Y}))) continue;
         surface.TextLabel(
-            Shown(project, editor, corner), LabelText(project, i),
+            Shown(project, editor, corner), text,
             project.PressureUnknown[i] ? drawing_colour::kUnknown : drawing_colour::kKnown);
     }
 }

@@ -12,7 +12,7 @@ std::string PrevalenceField(float pascal) {
 }
 
 std::string FlowField(float flow) {
-    return FormatNumber(DecimalDouble(flow) * kSecondsPerHour, "####.###");
+    return FormatNumber(ScaledSingle(flow, kSecondsPerHour), "####.###");
 }
 
 float TypedPrevalence(std::string_view text) {

@@ -17,12 +17,18 @@ const QFont& LabelFont() {
     return font;
 }
 
+const QFontMetricsF& LabelMetrics() {
+    static const QFontMetricsF metrics(LabelFont());
+    return metrics;
+}
+
 }  // namespace
 
 LabelItem::LabelItem(const QString& text, Rgb background, QGraphicsItem* parent)
     : QGraphicsItem(parent), text_(text), background_(background) {
-    const QFontMetricsF metrics(LabelFont());
-    box_ = {0, 0, metrics.horizontalAdvance(text) + 2 * kPadding, metrics.height()};
+    text_.setTextFormat(Qt::PlainText);
+    text_.prepare({}, LabelFont());
+    box_ = {0, 0, LabelMetrics().horizontalAdvance(text) + 2 * kPadding, LabelMetrics().height()};
 }
 
 void LabelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
@@ -33,7 +39,7 @@ void LabelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
     painter->drawRect(box_);
     painter->setPen(Qt::black);
     painter->setFont(LabelFont());
-    painter->drawText(box_, Qt::AlignCenter | Qt::TextDontClip, text_);
+    painter->drawStaticText(QPointF(kPadding, 0), text_);
 }
 
 }  // namespace idrova

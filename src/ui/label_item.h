@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QGraphicsItem>
+#include <QStaticText>
 #include <QString>
 
 #include "editor/drawing_surface.h"
@@ -17,7 +18,7 @@ class LabelItem : public QGraphicsItem {
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
   private:
-    const QString text_;
+    QStaticText text_;
     const Rgb background_;
     QRectF box_;
 };

@@ -46,7 +46,7 @@ const Drawing kDrawings[] = {
      "L1,1 L3,1 L3,1 L3,3 R2,1 again end1=given p1=1.25 end2=given p2=2 end2=unknown R3,2 again "
      "end2=given p2=2 end2=unknown R9,9 labels",
      {"grid from 1,1", "pipe 1 639,639 1195,639", "pipe 2 1195,639 1195,1195", "point 639,639",
-      "point 1195,639", "point 1195,1195", "known 'P1=1.25' 778,778", "unknown 'P2=2.' 1334,778",
+      "point 1195,639", "point 1195,1195", "known 'P1=1.25' 778,778", "unknown 'P2=2.' 1334,1056",
       "unknown 'P3=2.' 1334,361", "arrow 986,708 847,639", "arrow 986,570 847,639",
       "arrow 1126,847 1195,986", "arrow 1264,847 1195,986"}},
     {"cut by scrolling, which hides data",
