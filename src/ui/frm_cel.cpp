@@ -69,6 +69,13 @@ void FrmCel::Img_MouseDown(int place, MouseButton button) {
     program_.showSettings();
 }
 
+bool FrmCel::focusNextPrevChild(bool next) {
+    const QWidget* last = next ? ScrY : static_cast<QWidget*>(view_);
+    if (!last->hasFocus()) return ChildWindow::focusNextPrevChild(next);
+    program_.switchFocus();
+    return true;
+}
+
 void FrmCel::Scrolled() {
     ScrollDrawing(program_.project, program_.editor, ScrX->value(), ScrY->value());
     ShowNetwork();

@@ -19,6 +19,10 @@ class FrmCel final : public ChildWindow {
 
     void ShowNetwork() override;
 
+  protected:
+    /// After its last control comes the command panel.
+    bool focusNextPrevChild(bool next) override;
+
   private:
     QScrollBar* Bar(const char* name, Qt::Orientation orientation);
     void ConnectView();

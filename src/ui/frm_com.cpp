@@ -115,6 +115,15 @@ void FrmCom::ShowSettings() {
     ShowEnabling();
 }
 
+void FrmCom::FocusFirst() {
+    for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+        const bool takes = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled();
+        if (takes && next->isVisible() && isAncestorOf(next)) {
+            return next->setFocus(Qt::TabFocusReason);
+        }
+    }
+}
+
 void FrmCom::ShowFrames() {
     Frame3->Show();
     Frame4->Show();

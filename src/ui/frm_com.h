@@ -28,6 +28,9 @@ class FrmCom : public QDockWidget {
     /// Everything that the panel shows, as settings, project and editor now stand.
     void ShowSettings();
 
+    /// Gives the keyboard to the first control that takes it.
+    void FocusFirst();
+
     /// "Calculate by graphic" was pressed.
     std::function<void()> calculate = [] {};
     /// The drawing has to be shown anew.

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/mdi.h"
 
+#include <QApplication>
 #include <QDragEnterEvent>
 #include <QDropEvent>
+#include <QMdiSubWindow>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcut>
 #include <QUrl>
 
 #include "model/file_form.h"
@@ -65,6 +68,9 @@ MDI::MDI(Program& program)
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
     LoadStartState(program_);
     AttachCommands(*this);
+    program_.switchFocus = [this] { SwitchFocus(); };
+    connect(new QShortcut(QKeySequence("F4"), this), &QShortcut::activated, this,
+            [this] { SwitchFocus(); });
     // A maximised child window would put its own caption into the title.
     connect(this, &QWidget::windowTitleChanged, this, [this] { setWindowTitle(title_); });
     PlaceOnScreen();
@@ -100,6 +106,13 @@ void MDI::ShowNetwork() {
 void MDI::TakeEdits() {
     ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
     if (window != nullptr) window->TakeEdits();
+}
+
+void MDI::SwitchFocus() {
+    const QWidget* holder = QApplication::focusWidget();
+    if (holder != nullptr && !panel_->isAncestorOf(holder)) return panel_->FocusFirst();
+    const QMdiSubWindow* frame = windows_->activeSubWindow();
+    if (frame != nullptr) frame->widget()->setFocus(Qt::TabFocusReason);
 }
 
 void MDI::ShowTitle(std::string_view name) {

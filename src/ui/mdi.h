@@ -41,6 +41,9 @@ class MDI : public QMainWindow {
     /// Has the window of the working mode show the network anew.
     void ShowNetwork();
 
+    /// Moves the keyboard between the child windows and the command panel.
+    void SwitchFocus();
+
     /// Has the window of the working mode take what is being typed.
     void TakeEdits();
 

@@ -47,6 +47,8 @@ struct Program {
     /// Shows the names of the pumps and of the losses wherever they can be chosen for insertion.
     /// Every window that changes `components` calls it.
     std::function<void()> showComponents = [] {};
+    /// Moves the keyboard between the child windows and the command panel.
+    std::function<void()> switchFocus = [] {};
     /// Shows `outcome`. Every window that computes calls it.
     std::function<void()> showOutcome = [] {};
 };
