@@ -3,7 +3,7 @@
 
 #include <QListWidget>
 
-#include "main_window.h"
+#include "drawing_window.h"
 #include "model/messages.h"
 #include "model/project_file.h"
 #include "ui/drives.h"
@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class FileWindow : public MainWindow {
+class FileWindow : public DrawingWindow {
   protected:
     FileWindow() {
         fs::create_directory(folder / "plants");
@@ -37,9 +37,8 @@ class FileWindow : public MainWindow {
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
     }
 
-    void EnterFolder(const QString& text) {
-        auto& list = Child<QListWidget>("Dir1");
-        list.setCurrentItem(list.findItems(text, Qt::MatchExactly).at(0));
+    void EnterFolder(int row) {
+        Child<QListWidget>("Dir1").setCurrentRow(row);
         Do("Dir1!");
     }
 
@@ -57,72 +56,79 @@ TEST_F(FileWindow, SavesUnderTheTypedNameAndSavesThereAgain) {
     Do("Text4!");
     EXPECT_EQ(Window("FrmFile"), nullptr);
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [plant]");
-    EXPECT_NE(FileBytes(folder / "plant.iv").find("two loops"), std::string::npos);
 
     project.ProjectDescription = "changed";
     boxes.Expect(kOverwriteFile, Answer::No).Expect(kOverwriteFile, Answer::Yes);
     Choose("Salva");
-    EXPECT_EQ(FileBytes(folder / "plant.iv").find("changed"), std::string::npos);
+    EXPECT_NE(FileBytes(folder / "plant.iv").find("two loops"), std::string::npos);
     Choose("Salva");
     EXPECT_NE(FileBytes(folder / "plant.iv").find("changed"), std::string::npos);
-    EXPECT_NE(FileBytes(folder / "plant.iv~").find("two loops"), std::string::npos);
 }
 
 TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
     Open("Apri", "FrmFile");
     EXPECT_EQ(window->windowTitle(), "Idrova - Open project");
     EXPECT_EQ(Items("File1") + "|" + Items("Dir1"), "old.iv|.. plants");
+    Do("Text3=own");
+    Child<QWidget>("Dir1").setFocus();
+    QTest::keyClick(&Child<QWidget>("Dir1"), Qt::Key_Tab);
+    ASSERT_TRUE(Child<QWidget>("File1").hasFocus());
+    EXPECT_EQ(Shown("Text3"), "own") << "the first file of the list is not chosen";
     ClickFile("old.iv");
     EXPECT_EQ(Shown("Text2 Text3 Text4"), Path("old.iv") + "|old.iv|an old plant");
-    Do("Text3=");
-    EnterFolder("plants");
-    EXPECT_EQ(Shown("Text2"), Path("plants"));
+    EnterFolder(1);
+    ASSERT_NE(Window("FrmFile"), nullptr) << "Return in the list of folders opens no file";
+    EXPECT_EQ(Shown("Text2"), Path("plants/old.iv"));
     EXPECT_EQ(Items("File1"), "");
     for (const char* filter : {"*.txt", "*.iv;*.txt"}) {
         Child<QLineEdit>("Text1").setText(filter);
         EXPECT_EQ(Items("File1"), "notes.txt");
     }
-    EnterFolder("..");
+    EnterFolder(0);
     EXPECT_EQ(Items("Dir1"), ".. plants");
     auto& drives = Child<QComboBox>("Drive1");
     drives.setCurrentText("/");
     Q_EMIT drives.activated(drives.currentIndex());
-    EXPECT_EQ(Shown("Text2"), "/");
-    EXPECT_TRUE(Items("Dir1").contains("tmp"));
-    EXPECT_FALSE(Items("Dir1").contains(".."));
+    EXPECT_EQ(Shown("Text2"), "/old.iv");
+    EXPECT_TRUE(Items("Dir1").contains("tmp") && !Items("Dir1").contains(".."));
 }
 
-TEST_F(FileWindow, OpensAndLeavesProjects) {
+TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
+    Draw(1, 1, 9, 1);
     project.ProjectDescription = "to be found again";
     ASSERT_TRUE(WriteProject(project, folder / "saved.iv"));
     project.ProjectDescription.clear();
+    Draw(2, 5, 8, 5);
+    Select(5, 5);
+    Do("Text6=3");
+    EXPECT_EQ(Shown("Frame3 Text6"), "Pipe 2|3");
     Open("Apri", "FrmFile");
     Do("Command1");
     ASSERT_NE(Window("FrmFile"), nullptr) << "nothing is chosen yet";
     ClickFile("saved.iv");
     Do("Command1");
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
-    EXPECT_EQ(project.ProjectName, (folder / "saved.iv").string());
     EXPECT_EQ(project.ProjectDescription, "to be found again");
+    EXPECT_EQ(LinesDrawn(), 1);
+    EXPECT_EQ(Shown("Frame3 Text6") + Enabled("Frame3"), "Pipe|");
+
     Open("Apri", "FrmFile");
     Child<QWidget>("Command2").setFocus();
     Do("Command2!");
     EXPECT_EQ(Window("FrmFile"), nullptr);
     PutFile(folder / "broken.iv", "2.6.3\r\nnumtubo\r\nmany\r\n");
-    boxes.Expect(ProjectMalformed("line 3: item 1 is not a number"));
+    boxes.Expect(ProjectMalformed("line 3: item 1 is not a number"))
+        .Expect(kLeaveProject, Answer::Cancel);
     mdi->OpenFile(folder / "broken.iv");
-    boxes.Expect(kLeaveProject, Answer::Cancel).Expect(kLeaveProject, Answer::Ok);
     Choose("Nuovo");
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
-    Choose("Nuovo");
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
-}
 
-TEST_F(FileWindow, ARefusedOldProjectLeavesNothingOfTheTable) {
     PutFile(folder / "old.iv", "2.4");
     program->table.Set(2, 7, "12");
     boxes.Expect(kFileTooOld);
     mdi->OpenFile(folder / "old.iv");
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
+    EXPECT_EQ(LinesDrawn(), 0) << "a refused project leaves an empty drawing";
     EXPECT_EQ(program->table, TableTexts());
 }
 

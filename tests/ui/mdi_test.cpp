@@ -4,38 +4,51 @@
 #include <QDockWidget>
 #include <QDropEvent>
 #include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMimeData>
 #include <QUrl>
+#include <map>
+#include <set>
 
 #include "hydraulics/messages.h"
 #include "main_window.h"
 #include "model/messages.h"
+#include "shell/menu_table.h"
 #include "shell/messages.h"
 #include "ui/frm_com.h"
 #include "ui/frm_help.h"
+#include "ui/qt_text.h"
 
 namespace idrova {
 namespace {
 
 TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     EXPECT_EQ(mdi->objectName(), "MDI");
-    ASSERT_NE(Window("FrmCel"), nullptr);
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     EXPECT_EQ(Window("FrmCel")->windowTitle(), "Idrova - plant drawing");
     EXPECT_EQ(mdi->Panel().windowTitle(), "Idrova - Commands");
     EXPECT_EQ(mdi->Hints().windowTitle(), "Idrova - Help");
-    EXPECT_TRUE(mdi->Hints().isVisible());
     EXPECT_EQ(Shown("Label2 RoughnessLabel StatusMode StatusFluid"),
               "first point of a pipe|zincate steel\t  1.00E-4|Mode: Graphic|No fluid");
     EXPECT_FALSE(mdi->Panel().close());
     EXPECT_TRUE(mdi->Panel().isVisible());
 
-    QWidget* drawing = Window("FrmCel")->parentWidget();
-    drawing->showMaximized();
+    const auto hintsAreShown = [this] {
+        EXPECT_EQ(mdi->Hints().isVisible(), program->shell.HintsShown);
+        EXPECT_EQ(Item("Helpslinea").isChecked(), program->shell.HintsShown);
+        return program->shell.HintsShown;
+    };
+    EXPECT_TRUE(hintsAreShown());
+    Choose("Helpslinea");
+    EXPECT_FALSE(hintsAreShown());
+    Choose("Helpslinea");
+    mdi->showMinimized();
     QApplication::processEvents();
-    ASSERT_TRUE(drawing->isMaximized());
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
-    Choose("Logo");
-    EXPECT_FALSE(Window("FrmLogo")->parentWidget()->isMaximized());
+    mdi->showNormal();
+    EXPECT_TRUE(hintsAreShown()) << "minimising does not close them";
+    mdi->Hints().close();
+    EXPECT_FALSE(hintsAreShown());
 
     boxes.Expect(kManualNotice)
         .Expect(kExitQuestion, Answer::Cancel)
@@ -49,43 +62,73 @@ TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     EXPECT_TRUE(mdi->close()) << "by its frame, without a question";
 }
 
-TEST_F(MainWindow, HintsAreToggledByTheMenuAndTheFrame) {
-    Choose("Helpslinea");
-    EXPECT_FALSE(mdi->Hints().isVisible() || Item("Helpslinea").isChecked());
-    Choose("Helpslinea");
-    EXPECT_TRUE(mdi->Hints().isVisible() && Item("Helpslinea").isChecked());
-    mdi->showMinimized();
-    QApplication::processEvents();
-    EXPECT_TRUE(program->shell.HintsShown) << "minimising does not close them";
-    mdi->showNormal();
-    mdi->Hints().close();
-    EXPECT_FALSE(program->shell.HintsShown || Item("Helpslinea").isChecked());
-}
-
 TEST_F(MainWindow, AboutWindowOpensProgressivelyAndStaysInReach) {
+    QWidget* drawing = Window("FrmCel")->parentWidget();
+    drawing->showMaximized();
+    QApplication::processEvents();
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     Open("Logo", "FrmLogo");
     const QSize early = window->size();
+    QWidget* frame = window->parentWidget();
+    EXPECT_FALSE(frame->isMaximized());
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == QSize(400, 300); }));
     EXPECT_LT(early.height(), 100);
     EXPECT_EQ(Shown("Label1"), "ver. 2.6.3");
 
-    QWidget* frame = window->parentWidget();
     frame->move(900, 600);
     mdi->resize(700, 500);
     QApplication::processEvents();
     const QRect area = mdi->Windows().viewport()->rect();
     EXPECT_TRUE(area.contains(frame->pos()));
-    EXPECT_EQ(Window("FrmCel")->parentWidget()->geometry(), area);
+    EXPECT_EQ(drawing->geometry(), area);
     QTest::keyClick(window, Qt::Key_Escape);
     EXPECT_EQ(Window("FrmLogo"), nullptr);
 }
 
-TEST_F(MainWindow, PanelAndChecksFollowTheSettings) {
-    Choose("t4");
-    EXPECT_EQ(Shown("RoughnessLabel"), "partially rusty...  2.00E-3");
-    Choose("p_mbar");
-    EXPECT_EQ(Shown("LabelUnit_0 LabelUnit_1 LabelUnit_2 LabelUnit_3"),
-              "[mbar]|[mbar]|[mbar]|[mbar]");
+/// What a user finds: the entries of each menu, by the menu's name.
+using Menus = std::map<QString, QList<QAction*>>;
+
+void CollectMenu(const QList<QAction*>& actions, const QString& menu, Menus& found) {
+    for (QAction* action : actions) {
+        if (action->isSeparator()) continue;
+        found[menu].push_back(action);
+        if (QMenu* sub = action->menu()) CollectMenu(sub->actions(), sub->objectName(), found);
+    }
+}
+
+TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
+    Menus menus;
+    CollectMenu(mdi->menuBar()->actions(), "", menus);
+    std::map<QString, qsizetype> next;
+    std::map<QString, std::set<QString>> keys;
+    for (const MenuEntry& entry : MenuTable()) {
+        SCOPED_TRACE(std::string(entry.name));
+        const QString menu = ToQt(entry.parent);
+        ASSERT_LT(next[menu], menus[menu].size());
+        const QAction& action = *menus[menu][next[menu]++];
+        const bool isMenu = entry.kind == MenuKind::Menu;
+        EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
+        EXPECT_EQ(action.text().remove('&'), ToQt(entry.caption));
+        EXPECT_EQ(action.isChecked(), IsChecked(entry, project, program->shell));
+        EXPECT_EQ(action.shortcut().toString(QKeySequence::PortableText), ToQt(entry.shortcut));
+        EXPECT_EQ(isMenu, action.statusTip().isEmpty());
+        const QString key = QKeySequence::mnemonic(action.text()).toString();
+        EXPECT_FALSE(key.isEmpty());
+        EXPECT_TRUE(keys[menu].insert(key).second) << "its mnemonic is taken";
+    }
+    for (const auto& [menu, actions] : menus) EXPECT_EQ(actions.size(), next[menu]);
+
+    for (const char* name : {"t1", "t5", "t5", "Rettangolare", "Rettangolare", "Circolare",
+                             "p_mbar", "p_mbar", "Tabella", "sintub", "Grafico", "t4"}) {
+        Choose(name);
+        EXPECT_TRUE(Item(name).isChecked()) << name;
+        for (const char* group : {"Rugosita", "Sezione", "Pressione", "Modalita", "Correlazioni"}) {
+            const auto isChecked = [](const QAction* action) { return action->isChecked(); };
+            EXPECT_EQ(std::ranges::count_if(menus[group], isChecked), 1) << group << " " << name;
+        }
+    }
+    EXPECT_EQ(Shown("RoughnessLabel LabelUnit_0 LabelUnit_3"),
+              "partially rusty...  2.00E-3|[mbar]|[mbar]");
     boxes.Expect(kNotCompressible);
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor1").isChecked());

@@ -2,28 +2,23 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
+#include "ui/frm_start.h"
 #include "ui/messages.h"
 #include "ui/print_text.h"
+#include "ui/qt_message_boxes.h"
 #include "ui/qt_text.h"
 #include "ui/start_program.h"
 
 namespace idrova {
 namespace {
-
-TEST(PrintText, PdfHasThePagesAndReplacesNothingOnFailure) {
-    const TempFolder folder;
-    const std::string line(120, 'x');
-    ASSERT_TRUE(WritePdf(line + "\r\nsecond line\r\n", folder / "report.pdf"));
-    EXPECT_TRUE(FileBytes(folder / "report.pdf").starts_with("%PDF-"));
-    EXPECT_FALSE(WritePdf("text", folder / "absent" / "report.pdf"));
-    EXPECT_FALSE(std::filesystem::exists(folder / "absent"));
-}
 
 TEST(PrintText, PdfIsOfferedInPlaceOfAPrinter) {
     const TempFolder folder;
@@ -31,15 +26,13 @@ TEST(PrintText, PdfIsOfferedInPlaceOfAPrinter) {
     boxes.Expect(kNoPrinter, Answer::No).Expect(kNoPrinter, Answer::Yes);
     OfferPdf("report", nullptr, boxes);
     QTimer::singleShot(0, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        ASSERT_NE(dialog, nullptr);
-        auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
-        ASSERT_NE(name, nullptr);
+        auto* name = QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
         name->setText(PathToQt(folder / "report.pdf"));
         QTest::keyClick(name, Qt::Key_Return);
     });
-    OfferPdf("report", nullptr, boxes);
-    EXPECT_TRUE(std::filesystem::exists(folder / "report.pdf"));
+    OfferPdf(std::string(120, 'x') + "\r\nsecond line\r\n", nullptr, boxes);
+    EXPECT_TRUE(FileBytes(folder / "report.pdf").starts_with("%PDF-"));
+    EXPECT_FALSE(WritePdf("text", folder / "absent" / "report.pdf"));
 }
 
 TEST(StartWithFile, PathsWithBlanksReachTheProgramWhole) {
@@ -53,9 +46,56 @@ TEST(StartWithFile, PathsWithBlanksReachTheProgramWhole) {
     const auto seen = folder / "the results.dat.seen";
     EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(seen); }));
     EXPECT_EQ(FileBytes(seen), "1:" + file.string() + ":" + folder.Path().string() + "\n");
-    const Status status = StartWithFile(folder / "vanished", file);
-    ASSERT_FALSE(status);
-    EXPECT_NE(status.Error().find("vanished"), std::string::npos);
+    EXPECT_NE(StartWithFile(folder / "vanished", file).Error().find("vanished"), std::string::npos);
+}
+
+TEST(QtMessageBoxes, ShowTheTextAsItIsAndAnswerAsTheButtonsSay) {
+    const struct {
+        BoxButtons buttons;
+        Answer byReturn, byEscape;
+    } cases[] = {{BoxButtons::Ok, Answer::Ok, Answer::Ok},
+                 {BoxButtons::OkCancel, Answer::Ok, Answer::Cancel},
+                 {BoxButtons::YesNo, Answer::Yes, Answer::No}};
+    const auto answer = [](BoxButtons buttons, Qt::Key key) {
+        QTimer::singleShot(0, [key] {
+            auto& window = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            EXPECT_EQ(window.windowTitle() + window.text(), "Checka <b>bold</b> name\nsecond");
+            EXPECT_EQ(window.textFormat(), Qt::PlainText);
+            EXPECT_EQ(window.icon(), QMessageBox::Warning);
+            QTest::keyClick(&window, key);
+            EXPECT_FALSE(window.isVisible()) << "the key did not close the box";
+            if (window.isVisible()) window.reject();
+        });
+        return QtMessageBoxes().Show(
+            {"a <b>bold</b> name\nsecond", "Check", BoxIcon::Exclamation, buttons});
+    };
+    for (const auto& c : cases) {
+        EXPECT_EQ(answer(c.buttons, Qt::Key_Return), c.byReturn);
+        EXPECT_EQ(answer(c.buttons, Qt::Key_Escape), c.byEscape);
+    }
+}
+
+TEST(Splash, ShowsTheVersionAndOpensTheMainWindowOnce) {
+    ScriptedBoxes boxes;  // the test screen is wide enough: no message is expected
+    for (const int milliseconds : {20, 600000, 600001}) {
+        int opened = 0;
+        FrmStart(
+            boxes, [&opened] { ++opened; }, milliseconds);
+        QWidget* splash = nullptr;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "FrmWarn" && widget->isVisible()) splash = widget;
+        }
+        ASSERT_NE(splash, nullptr);
+        QStringList texts;
+        for (const QLabel* label : splash->findChildren<QLabel*>()) texts.append(label->text());
+        EXPECT_TRUE(texts.contains("ver. 2.6.3"));
+        EXPECT_EQ(opened, 0);
+        if (milliseconds == 600000) QTest::mouseClick(splash, Qt::LeftButton);
+        if (milliseconds == 600001) QTest::keyClick(splash, Qt::Key_Space);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return opened == 1; }));
+        QTest::qWait(60);
+        EXPECT_EQ(opened, 1);
+    }
 }
 
 }  // namespace
