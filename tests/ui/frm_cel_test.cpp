@@ -17,18 +17,15 @@ std::pair<int, int> CellsOf(const Project& project, int pipe) {
 }
 
 TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
-    constexpr std::pair<int, int> cells[] = {{1, 50}, {2451, 2500}, {1, 2451}, {50, 2500}};
     for (const QSize size : {QSize(1900, 1050), QSize(900, 1000), QSize(700, 620)}) {
         mdi->resize(size);
         QApplication::processEvents();
         ResetProject(project, program->handOvers);
         Draw(1, 1, 50, 1);
         Draw(1, 50, 50, 50);
-        Draw(1, 1, 1, 50);
-        Draw(50, 1, 50, 50);
-        ASSERT_EQ(project.numtubo, 4);
-        for (int i = 1; i <= 4; ++i) EXPECT_EQ(CellsOf(project, i), cells[i - 1]);
-        EXPECT_EQ(LinesDrawn(), 4);
+        EXPECT_EQ(CellsOf(project, 1), std::pair(1, 50));
+        EXPECT_EQ(CellsOf(project, 2), std::pair(2451, 2500));
+        EXPECT_EQ(LinesDrawn(), 2);
     }
     boxes.Expect(kLengthZero);
     Click(5, 5);
@@ -60,8 +57,7 @@ TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
 TEST_F(DrawingWindow, ScrollsWithItsBars) {
     Draw(2, 5, 8, 5);
     const auto& bar = Child<QScrollBar>("ScrX");
-    EXPECT_EQ(bar.minimum(), 1);
-    EXPECT_EQ(bar.maximum(), 250);
+    EXPECT_EQ(std::pair(bar.minimum(), bar.maximum()), std::pair(1, 250));
     Do("ScrX#9");
     EXPECT_EQ(LinesDrawn(), 0);
     Do("ScrY#3");

@@ -19,7 +19,6 @@ class SinglePipeWindow : public MainWindow {
     }
 
     double Value(const char* box) { return Shown(box).toDouble(); }
-    QString Flow() { return Child<QWidget>("FlowArrow").accessibleName(); }
 };
 
 TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
@@ -29,32 +28,30 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
     EXPECT_EQ(Shown("Text4"), "") << "there is no diameter yet";
     Do("Combo2#6");
     EXPECT_EQ(Shown("Text5"), "53.8");
-    EXPECT_EQ(project.SectionType, Section::Rectangular);
     project.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
     double taken = flow;
     EXPECT_NEAR(PipeDrop(project, .0538F, 0, taken, 100, 3e5), 101325, 20);
-    EXPECT_EQ(Flow(), "Flow from point 1 to point 2");
+    const auto& arrow = Child<QWidget>("FlowArrow");
+    EXPECT_EQ(arrow.accessibleName(), "Flow from point 1 to point 2");
     EXPECT_TRUE(Child<QAbstractButton>("StatusOutcome").text().startsWith("Computed in"));
     EXPECT_NE(FileBytes(folder / "out.dat").find("   Diameter [mm]"), std::string::npos);
 
     Do("Text3=3");
     EXPECT_NEAR(Value("Text4") / 3600, flow, 1e-3 * flow);
-    EXPECT_EQ(Flow(), "Flow from point 2 to point 1");
+    EXPECT_EQ(arrow.accessibleName(), "Flow from point 2 to point 1");
     EXPECT_EQ(project.Pipes[1].FlowRate, 7);
 }
 
 TEST_F(SinglePipeWindow, UnknownIsYellowAndLockedAndItsArrowsAreToo) {
-    const char* arrows[] = {"Command3 Command4", "Command5 Command6", "Command1 Command2",
-                            "Command7 Command8"};
-    const QString fields[] = {"Text2", "Text3", "Text1", "Text4"};
+    const QString controls[] = {"Text2 Command3 Command4", "Text3 Command5 Command6",
+                                "Text1 Command1 Command2", "Text4 Command7 Command8"};
     for (int chosen : {0, 1, 2, 3}) {
         Do("OptInc_" + QString::number(chosen));
         for (int i : {0, 1, 2, 3}) {
-            const QString controls = fields[i] + " " + arrows[i];
-            EXPECT_EQ(Enabled(controls), i == chosen ? "" : controls);
-            EXPECT_EQ(Child<QWidget>(fields[i]).palette().color(QPalette::Base),
-                      QColor(i == chosen ? 0xFFFFC0 : 0xFFFFFF));
+            EXPECT_EQ(Enabled(controls[i]), i == chosen ? "" : controls[i]);
+            const auto& palette = Child<QWidget>(controls[i].left(5)).palette();
+            EXPECT_EQ(palette.color(QPalette::Base), QColor(i == chosen ? 0xFFFFC0 : 0xFFFFFF));
         }
     }
 }

@@ -33,12 +33,6 @@ class WholeJob : public DrawingWindow {
         Click(column, row);
     }
 
-    /// Selects the pipe in a cell and types its data.
-    void Describe(int column, int row, const char* script) {
-        Select(column, row);
-        Do(script);
-    }
-
     /// What idrova-calc reports on a project file in the folder.
     std::string ReportOfCalc(const char* file) {
         std::filesystem::remove(folder / "out.dat");
@@ -75,9 +69,13 @@ TEST_F(WholeJob, DrawsDescribesComputesAndReports) {
     Place(1, "Gate valve, open", 25, 20);
     constexpr std::pair<int, int> pieces[] = {{12, 10}, {20, 15}, {12, 20}, {5, 15},
                                               {2, 10},  {22, 20}, {4, 10},  {27, 20}};
-    for (const auto& [column, row] : pieces) Describe(column, row, "Text6=8;Combo2#3");
-    Describe(2, 10, "Option1_1;Text10=1.5");
-    Describe(27, 20, "Option2_1;Text9=1.5");
+    for (const auto& [column, row] : pieces) {
+        Select(column, row);
+        Do("Text6=8;Combo2#3");
+    }
+    Do("Option2_1;Text9=1.5");
+    Select(2, 10);
+    Do("Option1_1;Text10=1.5");
     ASSERT_EQ(project.numtubo, 8);
     ASSERT_EQ(project.npres, 10);
 
