@@ -14,13 +14,13 @@ namespace {
 std::set<QString> ReachedByTab(const QWidget& window) {
     std::set<QString> reached;
     for (int i = 0; i < 30; ++i) {
-        const QWidget* control = QApplication::focusWidget();
+        QWidget* control = QApplication::focusWidget();
         EXPECT_TRUE(window.isAncestorOf(control));
         const bool isButton = qobject_cast<const QAbstractButton*>(control) != nullptr;
         EXPECT_TRUE(isButton || !control->accessibleName().isEmpty())
             << control->objectName().toStdString();
         reached.insert(control->objectName());
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::keyClick(control, Qt::Key_Tab);
     }
     return reached;
 }
@@ -59,7 +59,7 @@ TEST_F(MainWindow, DataWindowOpensOnceIsUsedByKeyboardAndClosesByEscape) {
     }
 }
 
-TEST_F(MainWindow, TypedRoughnessAndCalculationDataAreTaken) {
+TEST_F(MainWindow, TypedSettingsAreTaken) {
     Open("tt", "FrmRug");
     EXPECT_EQ(Shown("Text1"), ".0001");
     Do("Text1=-0.001;Command1");
@@ -70,6 +70,16 @@ TEST_F(MainWindow, TypedRoughnessAndCalculationDataAreTaken) {
     EXPECT_EQ(Shown("RoughnessLabel"), "2.50E-4");
     EXPECT_TRUE(Item("tt").isChecked() && !Item("t1").isChecked());
 
+    const QString editor = QString::fromStdString((folder / "my editor").string());
+    PutFile(folder / "my editor", "");
+    boxes.Expect(kEditorNotFound);
+    Open("Editor", "FrmCon");
+    EXPECT_EQ(Shown("Label1 Combo1"), "Text editor|Choose an editor or define a new editor");
+    Do("Command1;Combo1=" + editor + ";Command1");
+    EXPECT_EQ(Window("FrmCon"), nullptr);
+    Open("Editor", "FrmCon");
+    EXPECT_EQ(Shown("Combo1"), editor);
+
     project.BasePressure = 202650;
     project.FluidTemperature = 20.5F;
     Open("PresMini", "FrmPMin");
@@ -78,18 +88,6 @@ TEST_F(MainWindow, TypedRoughnessAndCalculationDataAreTaken) {
     EXPECT_EQ(Window("FrmPMin"), nullptr);
     EXPECT_EQ(project.BasePressure, 303975);
     EXPECT_EQ(project.FluidTemperature, 0);
-}
-
-TEST_F(MainWindow, EditorMustExist) {
-    const QString editor = QString::fromStdString((folder / "my editor").string());
-    PutFile(folder / "my editor", "");
-    boxes.Expect(kEditorNotFound).Expect(kEditorNotFound);
-    Open("Editor", "FrmCon");
-    EXPECT_EQ(Shown("Label1 Combo1"), "Text editor|Choose an editor or define a new editor");
-    Do("Command1;Combo1=;Command1;Combo1=" + editor + ";Command1");
-    EXPECT_EQ(Window("FrmCon"), nullptr);
-    Open("Editor", "FrmCon");
-    EXPECT_EQ(Shown("Combo1"), editor);
 }
 
 TEST_F(MainWindow, FastSettingsReachEveryPipeAndThePanel) {

@@ -130,6 +130,13 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     EXPECT_EQ(LinesDrawn(), 0) << "a refused project leaves an empty drawing";
     EXPECT_EQ(program->table, TableTexts());
+
+    Draw(2, 5, 8, 5);
+    Select(5, 5);
+    Choose("Tabella");
+    EXPECT_EQ(Shown("Frame3"), "Pipe 1");
+    mdi->OpenFile(folder / "saved.iv");
+    EXPECT_EQ(Shown("Frame3"), "Pipe") << "opened beside the table, too";
 }
 
 TEST(Drives, TheLongestStartOfThePathHoldsTheFolder) {

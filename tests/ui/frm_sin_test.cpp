@@ -28,6 +28,7 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
     EXPECT_EQ(Shown("Text4"), "") << "there is no diameter yet";
     Do("Combo2#6");
     EXPECT_EQ(Shown("Text5"), "53.8");
+    EXPECT_EQ(project.SectionType, Section::Rectangular);
     project.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
     double taken = flow;
