@@ -54,6 +54,17 @@ TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
     EXPECT_EQ(CellsOf(project, 2).second, CellAt(9, 10, 50));
 }
 
+TEST_F(DrawingWindow, TheKeyboardGoesOnToTheCommandPanelAndBack) {
+    for (const int tabs : {0, 3}) {  // by F4, by Tab over the scroll bars
+        View().setFocus();
+        if (tabs == 0) QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+        for (int i = 0; i < tabs; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(mdi->Panel().isAncestorOf(QApplication::focusWidget()));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
+        EXPECT_EQ(QApplication::focusWidget(), &View());
+    }
+}
+
 TEST_F(DrawingWindow, ScrollsWithItsBars) {
     Draw(2, 5, 8, 5);
     const auto& bar = Child<QScrollBar>("ScrX");
