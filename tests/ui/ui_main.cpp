@@ -7,6 +7,13 @@
 #include "support/asked_locale.h"
 #include "ui/frm_start.h"
 
+#ifdef __SANITIZE_ADDRESS__
+/// On a display, Qt asks the session bus, whose library keeps what it allocated.
+extern "C" const char* __lsan_default_suppressions() {
+    return "leak:libdbus-1";
+}
+#endif
+
 /// The windows run without a display, on a screen of a usual size.
 int main(int argc, char* argv[]) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
