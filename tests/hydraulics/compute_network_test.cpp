@@ -7,7 +7,9 @@
 #include <cmath>
 #include <string>
 #include <tuple>
+#include <vector>
 
+#include "hydraulics/allocations.h"
 #include "hydraulics/law_check.h"
 #include "hydraulics/run_settings.h"
 #include "support/network_run.h"
@@ -197,8 +199,10 @@ TEST(ComputeNetwork, NumbersAndReferencesDoNotMatter) {
         PipeRec& pipe = mixed->Pipes[pipes + 1 - i] = plain->Pipes[i];
         mixed->FlowUnknown[pipes + 1 - i] = plain->FlowUnknown[i];
         if (i % 2 == 0) std::swap(pipe.StartPoint, pipe.EndPoint);
-        if (i % 3 == 0 && plain->FlowUnknown[i])
-            pipe.FlowFromPoint ^= pipe.StartPoint ^ pipe.EndPoint;
+        if (i % 3 == 0 && plain->FlowUnknown[i]) {
+            pipe.FlowFromPoint =
+                pipe.FlowFromPoint == pipe.StartPoint ? pipe.EndPoint : pipe.StartPoint;
+        }
     }
     const NetworkRun expected(plain);
     const NetworkRun run(mixed, 99);
@@ -226,6 +230,21 @@ TEST(ComputeNetwork, ComponentsCrossedBackwardsAreToldAndCured) {
         EXPECT_NEAR(cured.Pressure(3) - cured.Pressure(2), 20000, 1);
         EXPECT_EQ(cured.outcome.notes.empty(), kind == kLoss);
     }
+}
+
+TEST(ComputeNetwork, NothingIsAllocatedFromPassToPass) {
+    NetworkBuilder network = LoopedNetwork(4, 4);
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*network, *work);
+    RecordedBoxes boxes;
+    std::vector<long> counts;
+    counts.reserve(200);
+    RunServices services{.boxes = boxes, .seed = 1};
+    services.showProgress = [&](const RunProgress&) { counts.push_back(Allocations()); };
+    ComputeNetwork(*network, *work, false, services);
+    ASSERT_GT(counts.size(), 3U);
+    EXPECT_EQ(counts.front(), counts.back());
+    EXPECT_GT(counts.front(), 0) << "the counter counts";
 }
 
 TEST(ComputeNetwork, MissingLevelIsTold) {
