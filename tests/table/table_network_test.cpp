@@ -70,7 +70,8 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
                         pipe.Length, pipe.FlowRate, 0, 0, !drawn->PressureUnknown[pipe.StartPoint],
                         !drawn->PressureUnknown[pipe.EndPoint], !drawn->FlowUnknown[i]});
     }
-    static_cast<Settings&>(*project) = *drawn;
+    const Settings& settings = *drawn;
+    static_cast<Settings&>(*project) = settings;
     project->Mode = WorkMode::Table;
     Load(rows);
     ASSERT_TRUE(Convert());
