@@ -166,7 +166,7 @@ class Elimination {
 
     void SubtractPivotRow(Index row, Index col, double d) {
         const bool open = open_.Has(row);
-        if (2 * entryCount_ > n_) {
+        if (3 * entryCount_ > n_) {
             SubtractWhole(rows_[row], rows_[col], d);
             if (open) FindLargest(row);
         } else if (open) {
@@ -176,7 +176,7 @@ class Elimination {
         }
     }
 
-    /// Where few entries are 0, walking along the rows beats picking the entries.
+    /// Where a third of the entries are not 0, walking along the row beats picking them.
     void SubtractWhole(double* values, const double* pivot, double d) const {
         for (Index column = 0; column < n_; ++column) values[column] -= pivot[column] * d;
     }
