@@ -8,7 +8,7 @@
 #include "ui/frm_start.h"
 
 #ifdef __SANITIZE_ADDRESS__
-/// On a display, Qt asks the session bus, whose library keeps what it allocated.
+/// On a display, Qt asks the message bus, whose library keeps what it allocated.
 extern "C" const char* __lsan_default_suppressions() {
     return "leak:libdbus-1";
 }
