@@ -32,7 +32,8 @@ Status StoreReport(const Settings& settings, std::string_view report, const fs::
     if (!settings.ResultsInSequence || !Exists(file)) return Write(file, report);
     const Result<std::string> old = ReadWholeFile(file, kMostResultsBytes);
     if (!old) return Failure{old.Error()};
-    return Write(file, *old + std::string(report));
+    // The reports before may be of networks that are gone.
+    return WriteWholeFile(file, *old + std::string(report));
 }
 
 bool WriteReport(const Settings& settings, std::string_view report, const fs::path& folder,
