@@ -3,6 +3,7 @@
 
 #include <QProcess>
 
+#include "ui/editor_window.h"
 #include "ui/qt_text.h"
 
 namespace idrova {
@@ -12,8 +13,12 @@ Status StartWithFile(const std::filesystem::path& program, const std::filesystem
     process.setProgram(PathToQt(program));
     process.setArguments({PathToQt(file)});
     process.setWorkingDirectory(PathToQt(file.parent_path()));
-    if (process.startDetached()) return Done{};
-    return Failure{program.string() + " can not be started: " + FromQt(process.errorString())};
+    qint64 pid = 0;
+    if (!process.startDetached(&pid)) {
+        return Failure{program.string() + " can not be started: " + FromQt(process.errorString())};
+    }
+    BringEditorToFront(pid, PathToQt(file.filename()));
+    return Done{};
 }
 
 }  // namespace idrova

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# first_start.sh PREFIX: on a display, a user who never started the program installed below PREFIX
+# first_start.sh PREFIX EDITOR: on a display, a user who never started the program installed below PREFIX
 # opens a sample with it and has it computed by its key. It has to make the folder that it works
-# in, and to write the results that idrova-calc gets, but for what the start values leave open.
+# in, and to write the results that idrova-calc gets, but for what the start values leave open. Then the results are
+# shown in EDITOR, whose window is to fill the screen and to have the focus.
 set -euo pipefail
 account=$1/account
 sample=$1/share/idrova/samples/ring-main.iv
@@ -11,13 +12,15 @@ mkdir -p "$account/batch"
 export HOME=$account XDG_DATA_HOME=$account/data QT_QPA_PLATFORM=xcb
 cd "$account"
 
+openbox &
+manager=$!
 "$1/bin/idrova" "$sample" &
 program=$!
-trap 'kill "$program" 2>/dev/null || true' EXIT
+trap 'kill "$program" "$manager" 2>/dev/null || true' EXIT
 
 made=$XDG_DATA_HOME/idrova
 window=$(timeout 60 xdotool search --sync --onlyvisible --name 'ring-main\.iv' | head -n 1)
-xdotool windowfocus --sync "$window" key F5
+xdotool windowactivate --sync "$window" key F5
 for ((tenths = 0; tenths < 600; ++tenths)); do
     [ -s "$made/out.dat" ] && break
     sleep 0.1
@@ -42,4 +45,12 @@ paste -d '\n' <(tail -n +3 "$made/out.dat") <(tail -n +3 batch/out.dat) | awk '
         }
     }
     END { exit bad || lines < 100 }'
+
+printf '%s\n' "$2" >"$made/IV.CFG"
+xdotool key F6
+for ((tenths = 0; tenths < 600; ++tenths)); do
+    [ -e "$made/out.dat.in-front" ] && break
+    sleep 0.1
+done
+[ -e "$made/out.dat.in-front" ]
 kill -0 "$program"
