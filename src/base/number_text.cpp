@@ -54,6 +54,14 @@ Decimal RoundedDecimal(Number value, int significantDigits) {
     return FromScientific({buffer.data(), end.ptr});
 }
 
+double RoundedTo(double value, int significantDigits) {
+    ConversionBuffer buffer;
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                   std::chars_format::scientific, significantDigits - 1);
+    std::from_chars(buffer.data(), end.ptr, value);
+    return value;
+}
+
 /// Keeps the first `count` digits (count may be 0 or less), rounding half away from zero.
 void RoundToDigits(Decimal& decimal, int count) {
     if (count >= static_cast<int>(decimal.digits.size())) return;
@@ -252,7 +260,13 @@ float ToSingle(double value) {
 }
 
 float ScaledSingle(float value, double factor) {
-    return ToSingle(DecimalDouble(value) * factor);
+    constexpr int kSingleDigits = 7;
+    const double scaled = static_cast<double>(value) * factor;
+    for (int digits = 1; digits < kSingleDigits; ++digits) {
+        const double typed = RoundedTo(scaled, digits);
+        if (ToSingle(typed / factor) == value) return ToSingle(typed);
+    }
+    return ToSingle(scaled);
 }
 
 }  // namespace idrova

@@ -80,7 +80,14 @@ TEST(NumberText, RoundsHalvesToEvenAndClamps) {
     EXPECT_EQ(ToSingle(-kInfinity), -kLargestSingle);
     EXPECT_EQ(ToSingle(std::nan("")), 0.0F);
     EXPECT_EQ(DecimalDouble(998.2F), 998.2);
-    EXPECT_EQ(ScaledSingle(.0654F, 1000), 65.4F);
+    for (int typed = 1; typed <= 20000; ++typed) {
+        const double shown = typed / 10.0;
+        for (const double factor : {3600.0, 1000.0, 3600 / 998.2}) {
+            const auto stored = static_cast<float>(shown / factor);
+            ASSERT_EQ(ScaledSingle(stored, factor), static_cast<float>(shown)) << factor;
+        }
+    }
+    EXPECT_EQ(ScaledSingle(kLargestSingle, 2), kLargestSingle);
 }
 
 TEST(PrintZones, CountCharactersNotBytes) {
