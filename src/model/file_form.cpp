@@ -28,16 +28,27 @@ std::string WithExtension(const std::string& path) {
     return path.ends_with(kExtension) ? path : path + std::string(kExtension);
 }
 
-/// Saves or opens the file that the project is named after. False when it cannot be written or
-/// read, or is malformed: the project's content is then what it was.
-bool RunPurpose(FilePurpose purpose, Project& project, MessageBoxes& boxes,
-                const HandOvers& handOvers) {
+/// What became of the file that the project is named after.
+enum class FileRun { Done, Missing, Failed };
+
+/// Saves or opens it. `Failed` when it cannot be written or read, or is malformed: the project's
+/// content is then what it was, as it is when the file is missing.
+FileRun RunPurpose(FilePurpose purpose, Project& project, MessageBoxes& boxes,
+                   const HandOvers& handOvers) {
     const std::filesystem::path path = project.ProjectName;
     if (purpose == FilePurpose::Save) {
-        return SaveProject(project, path, boxes) != SaveOutcome::Failed;
+        const SaveOutcome saved = SaveProject(project, path, boxes);
+        return saved == SaveOutcome::Failed ? FileRun::Failed : FileRun::Done;
     }
-    const OpenOutcome outcome = OpenProject(project, path, boxes, handOvers);
-    return outcome != OpenOutcome::Malformed && outcome != OpenOutcome::Unreadable;
+    switch (OpenProject(project, path, boxes, handOvers)) {
+        case OpenOutcome::Malformed:
+        case OpenOutcome::Unreadable:
+            return FileRun::Failed;
+        case OpenOutcome::Missing:
+            return FileRun::Missing;
+        default:
+            return FileRun::Done;
+    }
 }
 
 }  // namespace
@@ -89,13 +100,24 @@ bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes
     const std::string path = WithExtension(form.Text2);
     std::string formerName = std::exchange(project.ProjectName, path);
     std::string formerDescription = std::exchange(project.ProjectDescription, form.Text4);
-    if (!RunPurpose(form.purpose, project, boxes, handOvers)) {
+    const FileRun run = RunPurpose(form.purpose, project, boxes, handOvers);
+    if (run != FileRun::Done) project.ProjectDescription = std::move(formerDescription);
+    if (run == FileRun::Failed) {
         project.ProjectName = std::move(formerName);
-        project.ProjectDescription = std::move(formerDescription);
-    } else if (project.ProjectName == path) {  // an old version has detached the file instead
+        return false;
+    }
+    if (project.ProjectName == path) {  // an old version has detached the file instead
         handOvers.ShowTitle(form.Text3);
     }
     return true;
+}
+
+std::filesystem::path NearestFolder(std::filesystem::path folder) {
+    std::error_code ignored;
+    while (!std::filesystem::is_directory(folder, ignored) && folder.has_relative_path()) {
+        folder = folder.parent_path();
+    }
+    return folder;
 }
 
 std::string DescriptionIn(const std::filesystem::path& path) {

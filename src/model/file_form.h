@@ -41,11 +41,15 @@ void TypeName(FileForm& form, std::string_view text, MessageBoxes& boxes);
 void ClickFile(FileForm& form, std::string_view name, MessageBoxes& boxes);
 void DoubleClickFile(FileForm& form, std::string_view name);
 
-/// Opens or saves. False, with nothing done, when there is no name; else the window closes.
-/// The project takes name, title and description of the form, unless the file could not be written,
-/// could not be read or is malformed: then it stays as it was.
+/// Opens or saves; true when the window is to close. The project takes name and title of the form,
+/// and its description unless the file to open does not exist. Without a name nothing happens; a
+/// file that cannot be written or read, or is malformed, is told in a box and leaves the project as
+/// it was. Either keeps the window open with what was typed.
 bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes,
                      const HandOvers& handOvers);
+
+/// `folder`, or the closest folder above it that exists.
+std::filesystem::path NearestFolder(std::filesystem::path folder);
 
 /// The description that a project file holds; empty when it has none or cannot be read.
 std::string DescriptionIn(const std::filesystem::path& path);

@@ -24,6 +24,10 @@ inline MessageBox OpenFailed(const std::string& reason) {
     return {reason, "Open file"};
 }
 
+inline MessageBox FolderUnreadable(const std::string& folder) {
+    return {"The folder " + folder + " cannot be read", "Project files"};
+}
+
 inline MessageBox ProjectMalformed(const std::string& fault) {
     return {"The file is not a valid project, " + fault, "Open file"};
 }

@@ -4,19 +4,23 @@
 #include "physdata/component_lists.h"
 #include "physdata/pump_constants.h"
 #include "table/table_texts.h"
+#include "ui/child_window.h"
 #include "ui/child_windows.h"
 #include "ui/commands.h"
 #include "ui/frm_file.h"
 #include "ui/mdi.h"
 #include "ui/menu_bar.h"
 #include "ui/program.h"
+#include "ui/qt_text.h"
 
 namespace idrova {
 
 namespace {
 
 void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
-    mdi.Windows().Close("FrmFile");  // it may be open for the other purpose
+    const ChildWindow* open = mdi.Windows().Find("FrmFile");
+    const bool other = open != nullptr && open->windowTitle() != ToQt(FileFormCaption(purpose));
+    if (other) mdi.Windows().Close("FrmFile");
     mdi.Windows().Open("FrmFile", [&] { return new FrmFile(mdi.State(), purpose); });
 }
 

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +12,7 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 
+#include "model/messages.h"
 #include "ui/controls.h"
 #include "ui/drives.h"
 #include "ui/program.h"
@@ -44,7 +44,7 @@ void ShowText(QLineEdit& field, const std::string& text) {
 FrmFile::FrmFile(Program& program, FilePurpose purpose)
     : ChildWindow("FrmFile", ToQt(FileFormCaption(purpose))),
       program_(program),
-      form_(StartFileForm(purpose, program.lastFolder, program.project)),
+      form_(StartFileForm(purpose, NearestFolder(program.lastFolder), program.project)),
       Drive1(Named(new QComboBox, "Drive1")),
       Dir1(Named<QListWidget>(new FolderList, "Dir1")),
       File1(Named(new QListWidget, "File1")),
@@ -127,11 +127,15 @@ void FrmFile::ConnectControls() {
             [this](const QString& text) { form_.Text4 = FromQt(text); });
     connect(File1, &QListWidget::itemClicked, this,
             [this](const QListWidgetItem* item) { File1_Click(item->text()); });
-    connect(File1, &QListWidget::itemSelectionChanged, this, [this] {
-        // A press of the mouse becomes a click; here it is the keyboard that moves along.
-        if (QGuiApplication::mouseButtons() != Qt::NoButton) return;
-        for (const QListWidgetItem* item : File1->selectedItems()) File1_Click(item->text());
-    });
+    // Queued, so that a message box never opens inside the press of a mouse button.
+    connect(
+        File1, &QListWidget::itemSelectionChanged, this,
+        [this] {
+            for (const QListWidgetItem* item : File1->selectedItems()) {
+                if (item->text() != clicked_) File1_Click(item->text());
+            }
+        },
+        Qt::QueuedConnection);
     connect(File1, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) {
         DoubleClickFile(form_, FromQt(item->text()));
         ShowForm();
@@ -158,27 +162,39 @@ void FrmFile::ShowFolder() {
 
 void FrmFile::ShowFiles() {
     const QSignalBlocker quiet(File1);
+    const bool all = form_.pattern.empty() || form_.pattern == "*.*";
+    clicked_.clear();
     File1->clear();
-    File1->addItems(
-        QDir(ToQt(form_.folder))
-            .entryList({ToQt(form_.pattern)}, QDir::Files, QDir::Name | QDir::IgnoreCase));
+    File1->addItems(QDir(ToQt(form_.folder))
+                        .entryList({all ? QString("*") : ToQt(form_.pattern)}, QDir::Files,
+                                   QDir::Name | QDir::IgnoreCase));
 }
 
 void FrmFile::Drive1_Change() {
-    ChooseFolder(form_, PathFromQt(Drive1->currentText()));
-    ShowFolder();
-    ShowForm();
+    GoTo(PathFromQt(Drive1->currentText()));
 }
 
 void FrmFile::Dir1_Change(const QListWidgetItem& item) {
-    QDir folder(ToQt(form_.folder));
-    if (!folder.cd(item.text())) return;
-    ChooseFolder(form_, PathFromQt(folder.absolutePath()));
+    const std::filesystem::path folder = form_.folder;
+    if (item.text() == kParentFolder) {
+        GoTo(NearestFolder(folder.parent_path()));
+    } else {
+        GoTo(folder / PathFromQt(item.text()));
+    }
+}
+
+void FrmFile::GoTo(const std::filesystem::path& folder) {
+    if (QDir(PathToQt(folder)).isReadable()) {
+        ChooseFolder(form_, folder);
+    } else {
+        program_.boxes.Show(FolderUnreadable(folder.string()));
+    }
     ShowFolder();
     ShowForm();
 }
 
 void FrmFile::File1_Click(const QString& name) {
+    clicked_ = name;
     ClickFile(form_, FromQt(name), program_.boxes);
     ShowForm();
 }

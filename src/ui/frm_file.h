@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
+#include <filesystem>
+
 #include "model/file_form.h"
 #include "ui/child_window.h"
 
@@ -32,6 +35,9 @@ class FrmFile : public ChildWindow {
     void ShowFolder();
     void ShowFiles();
 
+    /// Shows a folder, or says that it cannot be read and stays.
+    void GoTo(const std::filesystem::path& folder);
+
     void Drive1_Change();
     void Dir1_Change(const QListWidgetItem& item);
     void File1_Click(const QString& name);
@@ -39,6 +45,7 @@ class FrmFile : public ChildWindow {
 
     Program& program_;
     FileForm form_;
+    QString clicked_;  ///< the file of the list that the form shows
     QComboBox* Drive1;
     QListWidget* Dir1;
     QListWidget* File1;

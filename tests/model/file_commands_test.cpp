@@ -75,6 +75,8 @@ TEST_F(FileCommands, AClickShowsTheDescription) {
         EXPECT_EQ(form.Text4, description);
     }
     EXPECT_EQ(DescriptionIn(folder / "none.iv"), "");
+    EXPECT_EQ(NearestFolder(folder / "gone" / "deeper"), folder.Path());
+    EXPECT_EQ(NearestFolder("/absent"), "/");
 }
 
 TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
@@ -94,7 +96,7 @@ TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
     project->numins = 50;
     const Project before = *project;
     boxes.Expect(SaveFailed(Path("folder.iv") + " is a folder"));
-    EXPECT_TRUE(Confirm(FilePurpose::Save, "folder"));
+    EXPECT_FALSE(Confirm(FilePurpose::Save, "folder")) << "the window keeps what was typed";
     EXPECT_EQ(steps, "");
     boxes.Expect(question, Answer::No).Expect(question, Answer::Yes);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), SaveOutcome::Declined);
@@ -134,7 +136,7 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         {"line", ProjectMalformed("line 1: the file ends inside the line"), stays},
         {"huge", OpenFailed(Path("huge.iv") + " is too large"), stays},
         {"folder", OpenFailed(Path("folder.iv") + " is not a file"), stays},
-        {"none", missing, Path("none.iv") + "|typed|title:none"},
+        {"none", missing, Path("none.iv") + "|two taps, one pump|title:none"},
         {"old", tooOld, "New project|typed|clear reread show title:New project"},
         {"old", tooOld, "New project|typed|table clear reread show title:New project",
          WorkMode::Table},
@@ -145,7 +147,7 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         project->Mode = c.mode;
         const Project before = *project;
         if (c.box) boxes.Expect(*c.box);
-        EXPECT_TRUE(Confirm(FilePurpose::Open, c.name));
+        EXPECT_EQ(Confirm(FilePurpose::Open, c.name), c.state != stays) << c.name;
         EXPECT_EQ(State(), c.state);
         EXPECT_EQ(*project == before, c.state == stays) << c.name;
         EXPECT_EQ(project->numtubo, c.name == "old" ? 0 : 4);

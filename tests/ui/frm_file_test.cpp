@@ -30,11 +30,11 @@ class FileWindow : public DrawingWindow {
         return items.join(' ');
     }
 
-    void ClickFile(const QString& text) {
+    void ClickFile(const QString& text, Qt::MouseButton button = Qt::LeftButton) {
         auto& list = Child<QListWidget>("File1");
         const QPoint place =
             list.visualItemRect(list.findItems(text, Qt::MatchExactly).at(0)).center();
-        QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseClick(list.viewport(), button, {}, place);
     }
 
     void EnterFolder(int row) {
@@ -48,10 +48,15 @@ class FileWindow : public DrawingWindow {
 TEST_F(FileWindow, SavesUnderTheTypedNameAndSavesThereAgain) {
     Open("Salva", "FrmFile");
     EXPECT_EQ(window->windowTitle(), "Idrova - Save project");
-    boxes.Expect(kNameNotAllowed);
+    boxes.Expect(kNameNotAllowed)
+        .Expect(SaveFailed((folder / "taken.iv").string() + " is a folder"));
     Do("Text3=a/");
     EXPECT_EQ(Shown("Text3"), "");
-    Do("Text3=plant;Text4=two loops");
+    fs::create_directory(folder / "taken.iv");
+    Do("Text3=taken;Text4=two loops;Text4!");
+    Choose("Salva2");
+    EXPECT_EQ(Shown("Text3 Text4"), "taken|two loops") << "neither failure nor command empties it";
+    Do("Text3=plant");
     EXPECT_EQ(Shown("Text2"), Path("plant"));
     Do("Text4!");
     EXPECT_EQ(Window("FrmFile"), nullptr);
@@ -74,7 +79,8 @@ TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
     QTest::keyClick(&Child<QWidget>("Dir1"), Qt::Key_Tab);
     ASSERT_TRUE(Child<QWidget>("File1").hasFocus());
     EXPECT_EQ(Shown("Text3"), "own") << "the first file of the list is not chosen";
-    ClickFile("old.iv");
+    ClickFile("old.iv", Qt::RightButton);
+    QApplication::processEvents();
     EXPECT_EQ(Shown("Text2 Text3 Text4"), Path("old.iv") + "|old.iv|an old plant");
     EnterFolder(1);
     ASSERT_NE(Window("FrmFile"), nullptr) << "Return in the list of folders opens no file";
@@ -84,8 +90,13 @@ TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
         Child<QLineEdit>("Text1").setText(filter);
         EXPECT_EQ(Items("File1"), "notes.txt");
     }
+    fs::rename(folder / "plants", folder / "moved");
     EnterFolder(0);
-    EXPECT_EQ(Items("Dir1"), ".. plants");
+    EXPECT_EQ(Items("Dir1"), ".. moved");
+    fs::remove_all(folder / "moved");
+    boxes.Expect(FolderUnreadable((folder / "moved").string()));
+    EnterFolder(1);
+    EXPECT_EQ(Items("Dir1"), "..");
     auto& drives = Child<QComboBox>("Drive1");
     drives.setCurrentText("/");
     Q_EMIT drives.activated(drives.currentIndex());
