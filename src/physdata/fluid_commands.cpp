@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "physdata/fluid_commands.h"
 
+#include <algorithm>
+#include <span>
 #include <utility>
 
 #include "base/number_text.h"
@@ -8,13 +10,17 @@
 
 namespace idrova {
 
-void UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes) {
+void UseFluid(Project& project, int selected, const FluidFields& fields) {
     project.FluidDensity = ReadNumber(fields.density);
     project.FluidViscosity = ReadNumber(fields.viscosity);
     project.FluidCompressibility = ReadNumber(fields.compressibility);
     const std::string number = selected > 0 ? "[" + GeneralText(selected) + "] " : "";
     project.FluidName = number + fields.name;
-    if (project.numtubo > 0) boxes.Show(kRedefineVolumeFlows);
+}
+
+void TellVolumeFlows(const Project& project, MessageBoxes& boxes) {
+    const auto pipes = std::span(project.Pipes).subspan(1, project.numtubo);
+    if (std::ranges::any_of(pipes, &PipeRec::IsDrawn)) boxes.Show(kRedefineVolumeFlows);
 }
 
 EditOutcome SaveFluid(FluidDb& db, int selected, const FluidFields& fields,

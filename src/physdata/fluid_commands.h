@@ -14,8 +14,11 @@ namespace idrova {
 /// one.
 
 /// "Use": the typed values become the current fluid, named "[selected] name" (the name alone when
-/// none was chosen). A project with pipes is told that volume flows must be given again.
-void UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes);
+/// none was chosen).
+void UseFluid(Project& project, int selected, const FluidFields& fields);
+
+/// After "Use": with pipes drawn, says that volume flows must be given again.
+void TellVolumeFlows(const Project& project, MessageBoxes& boxes);
 
 /// "Save": the typed values into the chosen fluid, whose `userDefined` stays.
 EditOutcome SaveFluid(FluidDb& db, int selected, const FluidFields& fields,

@@ -121,8 +121,9 @@ void FrmFlu::Text6_Change() {
 }
 
 void FrmFlu::Command1_Click() {
-    UseFluid(program_.project, selected_, Fields(), program_.boxes);
+    UseFluid(program_.project, selected_, Fields());
     program_.showSettings();
+    TellVolumeFlows(program_.project, program_.boxes);
     CloseWindow();
 }
 

@@ -20,12 +20,15 @@ const FluidFields kWater{"Water 20 °C", "998.2", "1.002E-3", "0", "4182", ".598
 TEST(Fluids, UseTakesTheTypedValues) {
     const auto project = std::make_unique<Project>();
     ScriptedBoxes boxes;
-    UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""}, boxes);
+    UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""});
+    project->numtubo = 1;  // a slot whose pipe was deleted
+    TellVolumeFlows(*project, boxes);
     EXPECT_EQ(project->FluidName, "[7] Water");
     EXPECT_EQ(FluidPropertyLabel(*project), " 1500 kg/mc ; 1.500E3 Ns/mq");
-    project->numtubo = 1;
+    project->Pipes[1].X1 = 10;
     boxes.Expect(kRedefineVolumeFlows);
-    UseFluid(*project, 0, kWater, boxes);
+    TellVolumeFlows(*project, boxes);
+    UseFluid(*project, 0, kWater);
     EXPECT_EQ(project->FluidName, "Water 20 °C");
     EXPECT_EQ(project->FluidViscosity, 1.002e-3);
 }
