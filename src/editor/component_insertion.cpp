@@ -79,6 +79,14 @@ InsertState ArmedFor(CellKind kind) {
     return kind == CellKind::Pump ? InsertState::Pump : InsertState::Loss;
 }
 
+/// Whether choosing this position would choose what is chosen already: names may be equal.
+bool ChoiceStaysAt(const Editor& editor, const ComponentLists& lists, int position) {
+    if (position < 0 || position >= lists.CompCount(editor.componentKind)) return false;
+    ComponentChoice choice = editor.choice;
+    ChooseComponent(choice, lists, editor.componentKind, position);
+    return choice == editor.choice;
+}
+
 }  // namespace
 
 void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind kind) {
@@ -99,9 +107,16 @@ void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position
 }
 
 void RefreshComponentChoice(Editor& editor, const ComponentLists& lists) {
+    if (ChoiceStaysAt(editor, lists, editor.componentPosition)) return;
+    for (int position = 0; position < lists.CompCount(editor.componentKind); ++position) {
+        if (!ChoiceStaysAt(editor, lists, position)) continue;
+        editor.componentPosition = position;
+        return;
+    }
     const auto names = ComponentNames(lists, editor.componentKind);
     const auto chosen = std::ranges::find(names, editor.choice.CompName);
     if (chosen == names.end()) {
+        AbortInsertion(editor);
         ChooseComponentKind(editor, lists, editor.componentKind);
     } else {
         ChooseComponentAt(editor, lists, static_cast<int>(chosen - names.begin()));

@@ -14,7 +14,8 @@ void ChooseComponentKind(Editor& editor, const ComponentLists& lists, CellKind k
 /// `Combo3`: chooses the component in a list position (from 0); other positions change nothing.
 void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position);
 
-/// The lists were loaded again: keeps the position of the chosen name, or chooses the first.
+/// The lists were loaded again: finds the chosen component in them, one with its name if its values
+/// changed; when it is gone, chooses the first and aborts an armed insertion.
 void RefreshComponentChoice(Editor& editor, const ComponentLists& lists);
 
 /// `Command3`: the next left click places the chosen component. Told in a box when none is chosen.

@@ -149,6 +149,31 @@ TEST(Components, ArmedFollowTheKindChosenLast) {
     EXPECT_EQ(plant.editor.state, InsertState::FirstPoint);
 }
 
+TEST(Components, StayChosenWhenTheListsAreLoadedAgain) {
+    Plant plant;
+    PumpDb& pumps = plant.lists.pumps;
+    pumps[2] = pumps[3] = pumps[1];
+    pumps[2].pMax = 600000;
+    pumps[3].name = "other pump";
+    pumps.count = 3;
+    plant.Do("pump");
+    ChooseComponentAt(plant.editor, plant.lists, 1);
+    const auto reload = [&plant] {
+        RefreshComponentChoice(plant.editor, plant.lists);
+        return std::pair(plant.editor.componentPosition, plant.editor.choice.ChosenPump.pMax);
+    };
+    EXPECT_EQ(reload(), std::pair(1, 600000.0F)) << "not the first of that name";
+    std::swap(pumps[2], pumps[3]);
+    EXPECT_EQ(reload(), std::pair(2, 600000.0F)) << "it moved";
+    pumps[1].name = "renamed pump";
+    pumps[3].pMax = 500000;
+    EXPECT_EQ(reload(), std::pair(2, 500000.0F)) << "its values changed";
+    EXPECT_TRUE(IsArmed(plant.editor));
+    pumps.count = 2;
+    EXPECT_EQ(reload().first, 0) << "it is gone";
+    EXPECT_FALSE(IsArmed(plant.editor));
+}
+
 /// Pipes that touch nothing, from the top of the grid, and a script that finds no room for all.
 constexpr struct {
     int pipes, deletedPoints;
