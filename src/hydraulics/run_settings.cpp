@@ -24,9 +24,14 @@ CalculationData ShowCalculationData(const Settings& settings) {
             GeneralText(settings.FluidTemperature)};
 }
 
-void SetCalculationData(Settings& settings, const CalculationData& typed) {
-    settings.BasePressure = ToSingle(ReadNumber(typed.basePressure) * kPascalPerBar);
-    settings.FluidTemperature = ToSingle(ReadNumber(typed.temperature));
+void SetCalculationData(Settings& settings, const CalculationData& shown,
+                        const CalculationData& typed) {
+    if (typed.basePressure != shown.basePressure) {
+        settings.BasePressure = ToSingle(ReadNumber(typed.basePressure) * kPascalPerBar);
+    }
+    if (typed.temperature != shown.temperature) {
+        settings.FluidTemperature = ToSingle(ReadNumber(typed.temperature));
+    }
 }
 
 bool MakeFlowRatesPositive(Project& project, MessageBoxes& boxes) {

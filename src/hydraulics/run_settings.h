@@ -24,7 +24,10 @@ struct CalculationData {
 };
 
 CalculationData ShowCalculationData(const Settings& settings);
-void SetCalculationData(Settings& settings, const CalculationData& typed);
+
+/// Takes the texts that differ from those `shown`: the others may have lost digits.
+void SetCalculationData(Settings& settings, const CalculationData& shown,
+                        const CalculationData& typed);
 
 /// Asks, then moves the reference point of every pipe with a negative flow to its other end, so
 /// that all flows are positive. True when it was done.

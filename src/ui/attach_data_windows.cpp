@@ -31,8 +31,12 @@ void AttachDataWindows(MDI& mdi) {
     AttachWindow<FrmRug>(mdi, "tt", "FrmRug");
     AttachWindow<FrmVel>(mdi, "Veloce", "FrmVel");
     AttachWindow<FrmCon>(mdi, "Editor", "FrmCon");
-    AttachWindow<FrmPMin>(mdi, "Temperatura", "FrmPMin");
     AttachWindow<FrmPMin>(mdi, "PresMini", "FrmPMin");
+    mdi.Menu().Attach("Temperatura", [&mdi] {
+        ChildWindow* window =
+            mdi.Windows().Open("FrmPMin", [&] { return new FrmPMin(mdi.State()); });
+        if (auto* data = dynamic_cast<FrmPMin*>(window)) data->GoToTemperature();
+    });
 }
 
 }  // namespace idrova

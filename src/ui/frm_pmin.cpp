@@ -15,6 +15,7 @@ namespace idrova {
 FrmPMin::FrmPMin(Program& program)
     : ChildWindow("FrmPMin", "Idrova - calculation data"),
       program_(program),
+      shown_(ShowCalculationData(program.project)),
       Text1(TextField("Text1")),
       Text2(TextField("Text2")) {
     QPushButton* confirm = CommandButton("Command1", "OK", [this] { Command1_Click(); });
@@ -26,15 +27,19 @@ FrmPMin::FrmPMin(Program& program)
     column->addLayout(rows);
     column->addStretch(1);
     column->addLayout(ButtonRow({confirm}));
-    const CalculationData shown = ShowCalculationData(program_.project);
-    Text1->setText(ToQt(shown.basePressure));
-    Text2->setText(ToQt(shown.temperature));
+    Text1->setText(ToQt(shown_.basePressure));
+    Text2->setText(ToQt(shown_.temperature));
     setFocusProxy(Text1);
 }
 
+void FrmPMin::GoToTemperature() {
+    Text2->setFocus();
+}
+
 void FrmPMin::Command1_Click() {
-    SetCalculationData(program_.project, {.basePressure = FromQt(Text1->text()),
-                                          .temperature = FromQt(Text2->text())});
+    SetCalculationData(
+        program_.project, shown_,
+        {.basePressure = FromQt(Text1->text()), .temperature = FromQt(Text2->text())});
     program_.showSettings();
     CloseWindow();
 }

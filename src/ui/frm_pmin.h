@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "hydraulics/run_settings.h"
 #include "ui/child_window.h"
 
 class QLineEdit;
@@ -14,10 +15,13 @@ class FrmPMin : public ChildWindow {
   public:
     explicit FrmPMin(Program& program);
 
+    void GoToTemperature();
+
   private:
     void Command1_Click();
 
     Program& program_;
+    const CalculationData shown_;
     QLineEdit* Text1;
     QLineEdit* Text2;
 };

@@ -144,10 +144,15 @@ TEST(RunMessages, PumpsOutOfRangeAreListedInDrawnNetworksOnly) {
 
 TEST(RunSettings, CalculationDataAreReadAndShown) {
     Settings settings;
-    SetCalculationData(settings, {"2.5", "20 C"});
+    SetCalculationData(settings, {}, {"2.5", "20 C"});
     EXPECT_EQ(settings.BasePressure, 2.5F * 101325);
     EXPECT_EQ(ShowCalculationData(settings).basePressure, "2.5");
     EXPECT_EQ(ShowCalculationData(settings).temperature, "20");
+    settings.BasePressure = 20000;  // ".1973847" bar is not quite that
+    const CalculationData shown = ShowCalculationData(settings);
+    SetCalculationData(settings, shown, {shown.basePressure, "30"});
+    EXPECT_EQ(settings.BasePressure, 20000);
+    EXPECT_EQ(settings.FluidTemperature, 30);
 }
 
 }  // namespace
