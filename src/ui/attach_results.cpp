@@ -17,8 +17,9 @@ void PrintLastResults(MDI& mdi) {
     const std::string report = program.report.empty()
                                    ? ReportText(program.project, program.work, CurrentReportTime())
                                    : program.report;
-    PrintReport(report, program.boxes,
-                [&](const std::string& text) { PrintText(text, &mdi, program.boxes); });
+    PrintReport(report, program.boxes, [&](const std::string& text) {
+        PrintText(text, program.lastFolder, &mdi, program.boxes);
+    });
 }
 
 }  // namespace

@@ -9,4 +9,6 @@ constexpr FixedMessage kNoPrinter{
     "No printer is set up\nDo you want to save the results as a PDF file ?", "Print",
     BoxIcon::Exclamation, BoxButtons::YesNo};
 
+constexpr FixedMessage kPrinterFailed{"The printer did not take the results", "Print"};
+
 }  // namespace idrova

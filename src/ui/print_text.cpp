@@ -23,7 +23,7 @@ namespace idrova {
 namespace {
 
 constexpr double kLargestPoints = 10;
-constexpr double kSmallestPoints = 4;
+constexpr double kSmallestPoints = 8;
 constexpr double kMarginsInches = 4 / 2.54;  ///< both together, inside those of the device
 constexpr QChar kNominalSizeMark = u'\x16';
 
@@ -36,13 +36,14 @@ QString LongestLine(const QString& text) {
     return QString(longest, 'x');
 }
 
-QTextOption Unwrapped() {
+/// Only what no legible size fits goes on in the next line.
+QTextOption WrappedAtTheEdge() {
     QTextOption option;
-    option.setWrapMode(QTextOption::NoWrap);
+    option.setWrapMode(QTextOption::WrapAnywhere);
     return option;
 }
 
-/// The size at which the longest line just fits the page.
+/// The size at which the longest line just fits the page, as far as that can be read.
 QFont FittingFont(const QString& text, QPagedPaintDevice& device) {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(kLargestPoints);
@@ -58,38 +59,54 @@ void PrintOn(QPagedPaintDevice& device, const std::string& text) {
     lines.replace(kNominalSizeMark, ' ');  // paper would show it as an empty box
     QTextDocument document;
     document.setDefaultFont(FittingFont(lines, device));
-    document.setDefaultTextOption(Unwrapped());
+    document.setDefaultTextOption(WrappedAtTheEdge());
     document.setPlainText(lines);
     document.print(&device);
 }
 
-}  // namespace
-
-void OfferPdf(const std::string& text, QWidget* parent, MessageBoxes& boxes) {
-    if (boxes.Show(kNoPrinter) != Answer::Yes) return;
-    const QString path =
-        QFileDialog::getSaveFileName(parent, "Print", "results.pdf", "PDF (*.pdf)");
-    if (path.isEmpty()) return;
-    const Status written = WritePdf(text, PathFromQt(path));
+/// A failure is told under the title of the printing messages.
+void Tell(const Status& written, MessageBoxes& boxes) {
     if (!written) boxes.Show({written.Error(), kNoPrinter.title});
 }
 
-void PrintText(const std::string& text, QWidget* parent, MessageBoxes& boxes) {
+}  // namespace
+
+void OfferPdf(const std::string& text, const std::filesystem::path& folder, QWidget* parent,
+              MessageBoxes& boxes) {
+    if (boxes.Show(kNoPrinter) != Answer::Yes) return;
+    QFileDialog dialog(parent, "Print", PathToQt(folder), "PDF (*.pdf)");
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix("pdf");
+    dialog.selectFile("results.pdf");
+    if (dialog.exec() != QDialog::Accepted) return;
+    Tell(WritePdf(text, PathFromQt(dialog.selectedFiles().value(0))), boxes);
+}
+
+void PrintText(const std::string& text, const std::filesystem::path& folder, QWidget* parent,
+               MessageBoxes& boxes) {
     if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-        OfferPdf(text, parent, boxes);
+        OfferPdf(text, folder, parent, boxes);
         return;
     }
     QPrinter printer;
     QPrintDialog dialog(&printer, parent);
-    if (dialog.exec() == QDialog::Accepted) PrintOn(printer, text);
+    if (dialog.exec() != QDialog::Accepted) return;
+    if (printer.outputFormat() == QPrinter::PdfFormat) {
+        const auto path = PathFromQt(printer.outputFileName());
+        return Tell(WritePdf(text, path, printer.pageLayout()), boxes);
+    }
+    PrintOn(printer, text);
+    if (printer.printerState() == QPrinter::Error) boxes.Show(kPrinterFailed);
 }
 
-Status WritePdf(const std::string& text, const std::filesystem::path& path) {
+Status WritePdf(const std::string& text, const std::filesystem::path& path,
+                const std::optional<QPageLayout>& layout) {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     {
         QPdfWriter writer(&buffer);
         writer.setPageSize(QPageSize(QPageSize::A4));
+        if (layout) writer.setPageLayout(*layout);
         PrintOn(writer, text);
     }
     const QByteArray& bytes = buffer.data();

@@ -24,13 +24,13 @@ TEST(PrintText, PdfIsOfferedInPlaceOfAPrinter) {
     const TempFolder folder;
     ScriptedBoxes boxes;
     boxes.Expect(kNoPrinter, Answer::No).Expect(kNoPrinter, Answer::Yes);
-    OfferPdf("report", nullptr, boxes);
+    OfferPdf("report", folder.Path(), nullptr, boxes);
     QTimer::singleShot(0, [&] {
         auto* name = QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
         name->setText(PathToQt(folder / "report.pdf"));
         QTest::keyClick(name, Qt::Key_Return);
     });
-    OfferPdf(std::string(120, 'x') + "\r\nsecond line\r\n", nullptr, boxes);
+    OfferPdf(std::string(120, 'x') + "\r\nsecond line\r\n", folder.Path(), nullptr, boxes);
     EXPECT_TRUE(FileBytes(folder / "report.pdf").starts_with("%PDF-"));
     EXPECT_FALSE(WritePdf("text", folder / "absent" / "report.pdf"));
 }
