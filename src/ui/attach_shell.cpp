@@ -16,8 +16,8 @@ namespace {
 void SwitchMode(MDI& mdi, WorkMode mode) {
     Program& program = mdi.State();
     EnterMode(mode, program.project, program.shell);
+    AbortInsertion(program.editor);
     if (mode == WorkMode::Graphic) {
-        AbortInsertion(program.editor);
         program.editor.framesEnabled = true;
         program.handOvers.RereadComponents();
     }

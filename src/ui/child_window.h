@@ -22,6 +22,9 @@ class ChildWindow : public QWidget {
     /// Takes what is being typed as if it had been finished. Called before every command.
     virtual void TakeEdits() {}
 
+    /// The frame's buttons; none named: the usual ones.
+    virtual Qt::WindowFlags FrameFlags() const { return {}; }
+
     /// Closes the window with its frame; it is deleted when control returns to the event loop.
     void CloseWindow();
 

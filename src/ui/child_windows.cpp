@@ -44,7 +44,7 @@ ChildWindow* ChildWindows::Open(std::string_view name, const std::function<Child
     if (window == nullptr) {
         window = make();
         if (window == nullptr) return nullptr;
-        QMdiSubWindow* frame = addSubWindow(window);
+        QMdiSubWindow* frame = addSubWindow(window, window->FrameFlags());
         frame->setAttribute(Qt::WA_DeleteOnClose);
         frame->show();
         if (place == Place::FillsArea) {

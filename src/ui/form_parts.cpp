@@ -14,6 +14,8 @@ namespace {
 
 enum Column { ColumnCaption, ColumnField, ColumnUnit, ColumnHint, ColumnButton };
 
+constexpr int kValueCharacters = 14;  ///< what a value label shows at least
+
 }  // namespace
 
 FieldGrid::FieldGrid() {
@@ -68,6 +70,9 @@ QLabel* ValueLabel(const char* name) {
     label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setMargin(2);
+    // A long number is cut: it must not widen the window.
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * kValueCharacters);
+    label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return label;
 }
 

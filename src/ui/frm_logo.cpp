@@ -23,6 +23,7 @@ constexpr int kPictureSide = 160;
 }  // namespace
 
 FrmLogo::FrmLogo() : ChildWindow("FrmLogo", "Idrova"), content_(MakeContent()) {
+    Named(&Timer1, "Timer1");
     connect(&Timer1, &QTimer::timeout, this, [this] { OpenFurther(); });
     Timer1.start(kTickMilliseconds);
 }

@@ -13,6 +13,11 @@ class FrmLogo : public ChildWindow {
     FrmLogo();
 
     QSize sizeHint() const override { return {1, 1}; }
+    /// No button to maximise what has one size.
+    Qt::WindowFlags FrameFlags() const override {
+        return Qt::SubWindow | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+               Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+    }
 
   private:
     QWidget* MakeContent();

@@ -82,6 +82,7 @@ void FrmPerCon::Show(const LossFields& fields) {
 void FrmPerCon::Load() {
     Combo1->Refill(RecordNames(program_.components.losses));
     Show({});
+    Label2->clear();  // emptying a field has filled it
 }
 
 void FrmPerCon::Combo1_Click(int position) {

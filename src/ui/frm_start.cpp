@@ -17,7 +17,9 @@ void SetDecimalPoint() {
 }
 
 void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow, int splashMilliseconds) {
-    CheckScreen(QGuiApplication::primaryScreen()->size().width(), boxes);
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        CheckScreen(screen->size().width(), boxes);
+    }
     // It deletes itself at its end.
     new FrmWarn(splashMilliseconds, std::move(openMainWindow));
 }  // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)

@@ -26,13 +26,15 @@ FrmWarn::FrmWarn(int milliseconds, std::function<void()> ended)
     setWindowTitle("Idrova");
     setFixedSize(kSize);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(LogoLabel(kPictureSide), 1);
-    for (const QString& text : {QString("Idrova"), ToQt(VersionLine())}) {
-        auto* line = new QLabel(text);
+    column->addWidget(Named(LogoLabel(kPictureSide), "Image1"), 1);
+    for (const auto& [name, text] :
+         {std::pair("Label1", QString("Idrova")), std::pair("Label2", ToQt(VersionLine()))}) {
+        auto* line = Named(new QLabel(text), name);
         line->setAlignment(Qt::AlignCenter);
         column->addWidget(line);
     }
     move(screen()->availableGeometry().center() - rect().center());
+    Named(&Timer1, "Timer1");
     Timer1.setSingleShot(true);
     connect(&Timer1, &QTimer::timeout, this, [this] { End(); });
     Timer1.start(milliseconds);

@@ -31,6 +31,7 @@ namespace idrova {
 namespace {
 
 constexpr QSize kPreferredSize(1360, 1080);
+constexpr QSize kFrameAllowance(16, 48);  ///< what a desktop puts round a window
 
 void LoadStartState(Program& program) {
     InitialiseProject(program.project);
@@ -100,7 +101,8 @@ void MDI::ShowSettings() {
 
 void MDI::ShowNetwork() {
     ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
-    if (window != nullptr) window->ShowNetwork();
+    if (window == nullptr) return ShowMode();  // its user had closed it
+    window->ShowNetwork();
 }
 
 void MDI::TakeEdits() {
@@ -116,7 +118,8 @@ void MDI::SwitchFocus() {
 }
 
 void MDI::ShowTitle(std::string_view name) {
-    title_ = ToQt(WindowTitle(name));
+    // Qt takes the first pair of brackets round a star for the place of its own mark.
+    title_ = ToQt(WindowTitle(name)).replace("[*]", "[*][*]");
     setWindowTitle(title_);
 }
 
@@ -137,13 +140,16 @@ void MDI::dragEnterEvent(QDragEnterEvent* event) {
 
 void MDI::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
+    TakeEdits();
     OpenFile(DraggedProject(*event->mimeData()));
 }
 
 void MDI::PlaceOnScreen() {
     const QRect available = screen()->availableGeometry();
-    resize(kPreferredSize.boundedTo(available.size()));
+    const QSize room = available.size() - kFrameAllowance;
+    resize(kPreferredSize.boundedTo(room));
     move(available.center().x() - width() / 2, available.top());
+    if (size() != kPreferredSize) setWindowState(Qt::WindowMaximized);
 }
 
 }  // namespace idrova

@@ -29,6 +29,11 @@ QString ModeText(WorkMode mode) {
     return "Graphic";
 }
 
+QString FluidText(const Settings& settings) {
+    if (!settings.FluidName.empty()) return "Fluid: " + ToQt(settings.FluidName);
+    return settings.FluidDensity > 0 ? "Fluid without a name" : "No fluid";
+}
+
 }  // namespace
 
 StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
@@ -50,8 +55,7 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
 
 void StatusLine::ShowSettings(const Settings& settings) {
     mode_->setText("Mode: " + ModeText(settings.Mode));
-    fluid_->setText(settings.FluidName.empty() ? QString("No fluid")
-                                               : "Fluid: " + ToQt(settings.FluidName));
+    fluid_->setText(FluidText(settings));
 }
 
 void StatusLine::ShowOutcome(const Outcome& outcome) {

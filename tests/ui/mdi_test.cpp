@@ -33,6 +33,12 @@ TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
               "first point of a pipe|zincate steel\t  1.00E-4|Mode: Graphic|No fluid");
     EXPECT_FALSE(mdi->Panel().close());
     EXPECT_TRUE(mdi->Panel().isVisible());
+    EXPECT_LT(mdi->height(), mdi->screen()->availableGeometry().height());
+    mdi->ShowTitle("a[*]b");
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a[*][*]b]") << "shown with one star";
+    Window("FrmCel")->CloseWindow();
+    mdi->ShowNetwork();
+    EXPECT_NE(Window("FrmCel"), nullptr) << "a new network is shown";
 
     const auto hintsAreShown = [this] {
         EXPECT_EQ(mdi->Hints().isVisible(), Item("Helpslinea").isChecked());
