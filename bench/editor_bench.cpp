@@ -12,6 +12,7 @@
 #include "editor/cell_click.h"
 #include "editor/invariants.h"
 #include "model/grid.h"
+#include "model/project_file.h"
 #include "support/temp_folder.h"
 #include "ui/child_window.h"
 #include "ui/child_windows.h"
@@ -51,6 +52,22 @@ class Plant {
     void Press(int column, int row, Qt::MouseButton button) {
         const ScreenPoint at = CellCentre(project, CellAt(column, row, project.GridSize));
         QTest::mousePress(view_->viewport(), button, {}, view_->mapFromScene(QPointF(at.x, at.y)));
+        QApplication::processEvents();
+    }
+
+    /// Chooses a menu item, and everything shown that it changed.
+    void Choose(const QString& item) {
+        mdi_.findChild<QAction*>(item)->trigger();
+        QApplication::processEvents();
+    }
+
+    void Open(const std::filesystem::path& file) {
+        mdi_.OpenFile(file);
+        view_->viewport()->repaint();
+    }
+
+    void CloseWindow(const char* name) {
+        mdi_.Windows().Close(name);
         QApplication::processEvents();
     }
 
@@ -102,6 +119,46 @@ void FullRedraw(benchmark::State& state) {
     for (auto _ : state) plant.Redraw();
 }
 BENCHMARK(FullRedraw)->Arg(0)->Arg(1)->ArgName("data")->Unit(benchmark::kMillisecond);
+
+void MainWindowOpens(benchmark::State& state) {
+    for (auto _ : state) {
+        auto plant = std::make_unique<Plant>(0);
+        state.PauseTiming();
+        plant.reset();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(MainWindowOpens)->Unit(benchmark::kMillisecond);
+
+void OpenProject(benchmark::State& state) {
+    Plant plant(kMaxPipes);
+    const TempFolder folder;
+    if (!WriteProject(plant.project, folder / "plant.iv")) return state.SkipWithError("no file");
+    for (auto _ : state) plant.Open(folder / "plant.iv");
+    if (plant.project.ProjectName == kNewProject) state.SkipWithError("not opened");
+}
+BENCHMARK(OpenProject)->Unit(benchmark::kMillisecond);
+
+/// A menu item with 200 pipes drawn, and what undoes it.
+void MenuItem(benchmark::State& state, const char* item, const char* back, const char* window) {
+    Plant plant(kMaxPipes);
+    for (auto _ : state) {
+        plant.Choose(item);
+        state.PauseTiming();
+        if (back != nullptr) plant.Choose(back);
+        if (window != nullptr) plant.CloseWindow(window);
+        state.ResumeTiming();
+    }
+    state.SetLabel(item);
+}
+BENCHMARK_CAPTURE(MenuItem, table, "Tabella", "Grafico", nullptr)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, graphic, "Grafico", "Tabella", nullptr)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, single, "sintub", "Grafico", nullptr)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, section, "Rettangolare", "Circolare", nullptr)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, fluid, "Fluido", nullptr, "FrmFlu")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, pump, "Pompe", nullptr, "FrmPompa")->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(MenuItem, file, "Apri", nullptr, "FrmFile")->Unit(benchmark::kMillisecond);
 
 void CheckInvariants(benchmark::State& state) {
     const Plant plant(kMaxPipes);
