@@ -18,6 +18,10 @@ constexpr double kResidualFloor = 1e-6;  ///< Pa; below it a drop counts as none
 constexpr double kLargestStored = std::numeric_limits<float>::max();
 constexpr double kLowestMeanPressure = 1000;  ///< Pa
 
+constexpr double kRefinedTolerance = 2e-7;  ///< as `kPipeTolerance`; resistances are singles
+constexpr double kNegligibleShare = 1e-4;   ///< of the largest flow
+constexpr int kRefiningPasses = 20;
+
 class Stage {
   public:
     Stage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
@@ -36,7 +40,7 @@ class Stage {
             ++result_.passes;
             SolvePass();
             if (!result_.finite) return std::move(result_);
-            const bool guessesRest = Relax();
+            const bool guessesRest = Relax(kPipeTolerance, 0);
             const bool componentsRest = FindIdleComponents();
             const bool pressuresRest = RefreshMeanPressures();
             report(result_.passes, result_.residual);
@@ -44,8 +48,8 @@ class Stage {
                     (pressuresRest && componentsRest &&
                      (result_.residual < kTotalTolerance || guessesRest));
         }
-        KeepGivenValues();
-        CheckSolution(project_, plan_, work_, state_, result_);
+        Conclude();
+        if (result_.settled) Refine();
         return std::move(result_);
     }
 
@@ -91,9 +95,9 @@ class Stage {
                                      [](double x) { return std::abs(x) <= kLargestStored; });
     }
 
-    /// Measures every pipe and moves the guesses of those that are off half way to the solution.
-    /// True when none had to move.
-    bool Relax() {
+    /// Measures every pipe and moves the guesses of those that are off by more than `tolerance`,
+    /// and have a flow above `negligible`, half way to the solution. True when none had to move.
+    bool Relax(double tolerance, double negligible) {
         bool atRest = true;
         result_.residual = 0;
         ForUnknownFlows([&](int i) {
@@ -101,12 +105,38 @@ class Stage {
             const PipeResidual residual = Measure(i, q);
             result_.pipes[i] = residual;
             result_.residual += residual.relative;
-            moved_[i] = residual.relative > kPipeTolerance;
+            moved_[i] = residual.relative > tolerance && std::abs(q) >= negligible;
             if (!moved_[i]) return;
             state_.guess[i] = (q + state_.guess[i]) / 2;
             atRest = false;
         });
         return atRest;
+    }
+
+    /// What has settled depends on the start values within the tolerance: two runs would differ in
+    /// the fifth digit. A few passes more leave the rounding of the resistances; they count only
+    /// when they settle too.
+    void Refine() {
+        StageResult settled = result_;
+        double largest = 0;
+        ForUnknownFlows(
+            [&](int i) { largest = std::max(largest, std::abs(result_.Flow(plan_, i))); });
+        const double negligible = kNegligibleShare * largest;
+        bool atRest = largest == 0 || Relax(kRefinedTolerance, negligible);
+        for (int pass = 0; pass < kRefiningPasses && !atRest; ++pass) {
+            SolvePass();
+            if (!result_.finite) break;
+            const bool guessesRest = Relax(kRefinedTolerance, negligible);
+            const bool componentsRest = FindIdleComponents();
+            atRest = RefreshMeanPressures() && guessesRest && componentsRest;
+        }
+        Conclude();
+        if (!result_.finite || !result_.settled) result_ = std::move(settled);
+    }
+
+    void Conclude() {
+        KeepGivenValues();
+        CheckSolution(project_, plan_, work_, state_, result_);
     }
 
     /// Without flow a pipe's law holds at any guess, which then never moves; the row of a component

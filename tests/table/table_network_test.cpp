@@ -75,7 +75,7 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
     project->Mode = WorkMode::Table;
     Load(rows);
     ASSERT_TRUE(Convert());
-    EXPECT_EQ(ComputeNetwork(*project, *work, false, {.boxes = boxes, .seed = 1}).end,
+    EXPECT_EQ(ComputeNetwork(*project, *work, false, {.boxes = boxes, .seed = 2}).end,
               RunEnd::Settled);
     const NetworkRun graphic(drawn);
     for (int i = 1; i <= drawn->numtubo; ++i) {
