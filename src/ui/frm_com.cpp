@@ -54,6 +54,7 @@ FrmCom::FrmCom(Program& program, QWidget* parent)
     auto* scroller = new QScrollArea;
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);  // it would show nothing of having the keyboard
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setWidget(content);
     scroller->setMinimumWidth(content->minimumSizeHint().width() + 20);
