@@ -18,7 +18,7 @@ constexpr double kResidualFloor = 1e-6;  ///< Pa; below it a drop counts as none
 constexpr double kLargestStored = std::numeric_limits<float>::max();
 constexpr double kLowestMeanPressure = 1000;  ///< Pa
 
-constexpr double kRefinedTolerance = 2e-7;  ///< as `kPipeTolerance`; resistances are singles
+constexpr double kRefinedTolerance = 1e-8;  ///< as `kPipeTolerance`
 constexpr double kNegligibleShare = 1e-4;   ///< of the largest flow
 constexpr int kRefiningPasses = 20;
 
@@ -67,8 +67,10 @@ class Stage {
                         state_.meanPressure[i]);
     }
 
-    float ResistanceAt(int i, double guess) const {
-        return guess == 0 ? 0 : static_cast<float>(std::abs(Drop(i, guess) / guess));
+    /// Rounded to a single until the result is refined.
+    double ResistanceAt(int i, double guess) const {
+        const double resistance = guess == 0 ? 0 : std::abs(Drop(i, guess) / guess);
+        return refining_ ? resistance : static_cast<float>(resistance);
     }
 
     void StartMeanPressures() {
@@ -114,10 +116,11 @@ class Stage {
     }
 
     /// What has settled depends on the start values within the tolerance: two runs would differ in
-    /// the fifth digit. A few passes more leave the rounding of the resistances; they count only
-    /// when they settle too.
+    /// the fifth digit. A few passes more leave nothing of that; they count only when they settle
+    /// too.
     void Refine() {
         StageResult settled = result_;
+        refining_ = true;
         double largest = 0;
         ForUnknownFlows(
             [&](int i) { largest = std::max(largest, std::abs(result_.Flow(plan_, i))); });
@@ -206,6 +209,7 @@ class Stage {
     LinearSystem system_;
     PassState state_;
     StageResult result_;
+    bool refining_ = false;
     std::array<bool, kMaxPipes + 1> moved_{};  ///< guess or mean pressure differs from last pass
 };
 

@@ -33,7 +33,7 @@ struct LinearSystem {
 /// Quantities of a pass, per pipe.
 struct PassState {
     std::array<double, kMaxPipes + 1> guess{};         ///< Q, kg/s
-    std::array<float, kMaxPipes + 1> resistance{};     ///< R = drop / |Q|, Pa s/kg
+    std::array<double, kMaxPipes + 1> resistance{};    ///< R = drop / |Q|, Pa s/kg
     std::array<double, kMaxPipes + 1> meanPressure{};  ///< absolute, Pa; used for gases
     /// The sloped row of a component on this pipe is taken at no flow, not at the guess.
     std::array<bool, kMaxPipes + 1> componentIdles{};

@@ -86,11 +86,10 @@ void BringEditorToFront(qint64 pid, const QString& fileName) {
     timer->setInterval(kLookEvery);
     QObject::connect(timer, &QTimer::timeout, timer, [=, looks = 0]() mutable {
         for (const xcb_window_t window : desktop->Windows()) {
-            if (std::ranges::find(before, window) != before.end()) continue;
-            if (desktop->Process(window) != pid &&
-                !desktop->Title(window).contains(fileName, Qt::CaseInsensitive)) {
-                continue;
-            }
+            const bool isNew = std::ranges::find(before, window) == before.end();
+            const bool bearsName =
+                isNew && desktop->Title(window).contains(fileName, Qt::CaseInsensitive);
+            if (!bearsName && desktop->Process(window) != pid) continue;
             desktop->Maximise(window);
             looks = kLooks;
             break;
