@@ -42,7 +42,8 @@ FrmFlu::FrmFlu(Program& program)
 }
 
 QBoxLayout* FrmFlu::NameRow() {
-    Label8->setMinimumWidth(Label8->fontMetrics().averageCharWidth() * 5);
+    Label8->setFixedWidth(Label8->fontMetrics().averageCharWidth() * 5);
+    Label8->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     Label8->setAlignment(Qt::AlignCenter);
     auto* row = new QHBoxLayout;
     row->addWidget(LabelFor(Combo1, "Name"));
