@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QShortcut>
+#include <QStatusBar>
 #include <QUrl>
 
 #include "model/file_form.h"
@@ -86,6 +87,7 @@ void MDI::ShowMode() {
     for (const std::string_view name : {"FrmCel", "FrmTable", "FrmSin"}) {
         if (name != wanted) windows_->Close(name);
     }
+    statusBar()->clearMessage();  // it names a cell of the drawing
     windows_->Open(
         wanted, [&] { return MakeModeWindow(wanted, program_); }, ChildWindows::Place::FillsArea);
     ShowSettings();

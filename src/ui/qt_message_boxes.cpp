@@ -2,7 +2,9 @@
 #include "ui/qt_message_boxes.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
+#include <QSpacerItem>
 
 #include "ui/qt_text.h"
 
@@ -57,6 +59,15 @@ Answer AnswerOf(int button) {
     }
 }
 
+/// A box takes its width from its text; a longer title would be cut.
+void MakeRoomForTitle(QMessageBox& window) {
+    constexpr int frameButtons = 120;
+    auto* grid = qobject_cast<QGridLayout*>(window.layout());
+    if (grid == nullptr) return;
+    const int width = window.fontMetrics().horizontalAdvance(window.windowTitle()) + frameButtons;
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+}
+
 }  // namespace
 
 Answer QtMessageBoxes::Show(const MessageBox& box) {
@@ -67,6 +78,7 @@ Answer QtMessageBoxes::Show(const MessageBox& box) {
     window.setTextFormat(Qt::PlainText);
     window.setDefaultButton(buttons.first);
     window.setEscapeButton(buttons.escape);
+    MakeRoomForTitle(window);
     return AnswerOf(window.exec());
 }
 
