@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
 #include <QStandardPaths>
@@ -20,12 +21,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The project files named on the command line, as full paths.
+/// The project files named on the command line, as full paths. Ends the program after --help,
+/// --version and unknown options.
 std::vector<fs::path> NamedFiles() {
+    QCommandLineParser parser;
+    parser.setApplicationDescription("Checks fluid distribution piping.");
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument("PROJECT.iv", "A project to open.", "[PROJECT.iv]");
+    parser.process(*QApplication::instance());
     std::vector<fs::path> files;
-    const QStringList arguments = QApplication::arguments();
-    for (qsizetype i = 1; i < arguments.size(); ++i) {
-        files.push_back(fs::absolute(idrova::PathFromQt(arguments[i])).lexically_normal());
+    for (const QString& name : parser.positionalArguments()) {
+        files.push_back(fs::absolute(idrova::PathFromQt(name)).lexically_normal());
     }
     return files;
 }
