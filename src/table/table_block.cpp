@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/table_block.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "table/table_edit.h"
@@ -14,24 +15,38 @@ struct PastedCell {
     std::string text;
 };
 
-std::vector<std::string_view> Split(std::string_view text, char separator) {
-    std::vector<std::string_view> parts;
-    for (std::size_t end = text.find(separator); end != std::string_view::npos;
-         end = text.find(separator)) {
-        parts.push_back(text.substr(0, end));
-        text.remove_prefix(end + 1);
-    }
-    parts.push_back(text);
-    return parts;
+constexpr std::string_view kBlanks = " \t\r\n";
+
+std::string_view Trimmed(std::string_view text) {
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
 }
 
-/// Spreadsheets put a cell that holds quotes, like 1 1/2", between quotes and double its own.
-std::string Unquoted(std::string_view cell) {
+/// The length of the cell at the start of `text`. Spreadsheets put a cell that holds quotes or line
+/// breaks between quotes and double its own; what follows its last quote up to the separator is
+/// blank, else the quote belongs to an ordinary text.
+std::size_t CellLength(std::string_view text) {
+    const auto endFrom = [text](std::size_t from) {
+        return std::min(text.find_first_of("\t\n", from), text.size());
+    };
+    if (!text.starts_with('"')) return endFrom(0);
+    std::size_t quote = text.find('"', 1);
+    while (quote != std::string_view::npos && text.substr(quote).starts_with("\"\"")) {
+        quote = text.find('"', quote + 2);
+    }
+    if (quote == std::string_view::npos) return endFrom(0);
+    const std::size_t end = endFrom(quote);
+    return Trimmed(text.substr(quote + 1, end - quote - 1)).empty() ? end : endFrom(0);
+}
+
+/// The text of a cell without quotes and without blanks around it; of a single line.
+std::string CellText(std::string_view cell) {
+    cell = Trimmed(cell);
     if (cell.size() < 2 || cell.front() != '"' || cell.back() != '"') return std::string(cell);
-    cell = cell.substr(1, cell.size() - 2);
+    cell = Trimmed(cell.substr(1, cell.size() - 2));
     std::string text;
     for (std::size_t i = 0; i < cell.size(); ++i) {
-        text += cell[i];
+        text += kBlanks.find(cell[i]) == std::string_view::npos ? cell[i] : ' ';
         if (cell.substr(i, 2) == "\"\"") ++i;
     }
     return text;
@@ -41,22 +56,26 @@ std::vector<PastedCell> ReadCells(std::string_view text, int firstRow, int first
     if (text.ends_with('\n')) text.remove_suffix(1);
     std::vector<PastedCell> cells;
     int row = firstRow;
-    for (std::string_view line : Split(text, '\n')) {
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        int column = firstColumn;
-        for (const std::string_view cell : Split(line, '\t')) {
-            cells.push_back({row, column++, Unquoted(cell)});
+    int column = firstColumn;
+    for (;;) {
+        const std::size_t length = CellLength(text);
+        cells.push_back({row, column++, CellText(text.substr(0, length))});
+        if (length == text.size()) return cells;
+        if (text[length] == '\n') {
+            ++row;
+            column = firstColumn;
         }
-        ++row;
+        text.remove_prefix(length + 1);
     }
-    return cells;
+}
+
+bool IsPressure(const PastedCell& cell) {
+    return cell.column == table_column::kStartPressure || cell.column == table_column::kEndPressure;
 }
 
 /// 0 for what is pasted first.
 int Turn(const PastedCell& cell) {
-    const bool isPressure =
-        cell.column == table_column::kStartPressure || cell.column == table_column::kEndPressure;
-    if (!isPressure) return 0;
+    if (!IsPressure(cell)) return 0;
     return cell.text.empty() ? 1 : 2;
 }
 
@@ -74,7 +93,12 @@ std::string CopyBlock(const TableTexts& texts, const TableBlock& block) {
 }
 
 void PasteBlock(Project& project, TableTexts& texts, int row, int column, std::string_view text) {
-    const std::vector<PastedCell> cells = ReadCells(text, row, column);
+    std::vector<PastedCell> cells = ReadCells(text, row, column);
+    // An empty pressure on an empty cell is the same text again. Pasting it would empty what the
+    // point beside it has fetched by then, and with it the pressure of the point's other rows.
+    std::erase_if(cells, [&texts](const PastedCell& cell) {
+        return IsPressure(cell) && cell.text.empty() && texts.At(cell.row, cell.column).empty();
+    });
     for (const int turn : {0, 1, 2}) {
         for (const PastedCell& cell : cells) {
             if (Turn(cell) != turn) continue;

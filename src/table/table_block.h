@@ -20,9 +20,10 @@ struct TableBlock {
 /// The cells' texts as spreadsheets exchange them: tabs between cells, a line feed after each row.
 std::string CopyBlock(const TableTexts& texts, const TableBlock& block);
 
-/// Puts such a text into the cells from this one on, as if it were typed; what lies beyond the
-/// table is dropped. Pressures come last and the given ones after the empty ones, so that a
-/// pressure given in one of the pasted rows reaches all the rows of its point.
+/// Puts such a text into the cells from this one on, as if it were typed without the blanks around
+/// it; what lies beyond the table is dropped. Pressures come last and the given ones after the
+/// empty ones, so that a pressure given in one of the pasted rows reaches all the rows of its
+/// point. An empty pressure leaves a cell that was empty to what its point fetches.
 void PasteBlock(Project& project, TableTexts& texts, int row, int column, std::string_view text);
 
 /// Empties the cells.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "table/table_block.h"
 
 namespace idrova {
 namespace {
@@ -88,6 +89,26 @@ TEST_F(TableEdit, RowsOfOnePointKeepOnePressure) {
     Type("6.3=8");
     EXPECT_EQ(Shown("6.4 3.2 9.4"), "3|3|3|") << "the last row that has the point decides";
     EXPECT_TRUE(Row(3).StartPressure == 303975 && Row(6).P2Given);
+}
+
+TEST_F(TableEdit, PastedCellsAreThoseOfTheSpreadsheetAndFetchPressures) {
+    struct Case {
+        std::string typed, pasted, cells, shown;
+    };
+    const std::vector<Case> cases = {
+        {"2.1=1;2.2=3;2.3=2", "1\t\t2\t \n2\t\t1\t\n", "2.2 2.4 3.2 3.4 4.2 4.4", "3||3|||3|"},
+        {"2.1=1;2.2=3;3.1=1", "1\t", "2.2 3.2", "||"},  // a pressure that was there is emptied
+        {"", "\"2\n\"\t\" 4\t5 \"\r\n \t6 \n", "3.1 3.2 4.1 4.2", "2|4 5||6|"},
+        {"", "2\"\t\"1 1/2\"\"\" \t\"\"\n\"a\tb\"c", "3.1 3.2 3.3 4.1 4.2",
+         R"(2"|1 1/2"||"a|b"c|)"},
+    };
+    for (const auto& [typed, pasted, cells, shown] : cases) {
+        project->TableRows.fill({});
+        texts = TableTexts();
+        Type(typed);
+        PasteBlock(*project, texts, 3, 1, pasted);
+        EXPECT_EQ(Shown(cells), shown) << pasted;
+    }
 }
 
 TEST_F(TableEdit, CopiesOfAPressureAreExact) {
