@@ -32,10 +32,14 @@ std::string NameList::Text() const {
     return FromQt(currentText());
 }
 
+void AddSizes(QComboBox& list) {
+    for (int size = 1; size <= kNominalSizes; ++size) list.addItem(ToQt(NominalSizeNames[size]));
+    list.setCurrentIndex(-1);
+}
+
 QComboBox* SizeList(const char* name, QWidget* parent) {
     auto* list = Named(new QComboBox(parent), name);
-    for (int size = 1; size <= kNominalSizes; ++size) list->addItem(ToQt(NominalSizeNames[size]));
-    list->setCurrentIndex(-1);
+    AddSizes(*list);
     return list;
 }
 

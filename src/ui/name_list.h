@@ -21,6 +21,8 @@ class NameList : public QComboBox {
     std::string Text() const;
 };
 
+void AddSizes(QComboBox& list);
+
 /// A list of the nominal sizes, none chosen.
 QComboBox* SizeList(const char* name, QWidget* parent = nullptr);
 

@@ -57,6 +57,9 @@ TableView::TableView(TableModel& model) : model_(model) {
         model_.ChooseSize(cell, position);
         closeEditor(list, QAbstractItemDelegate::NoHint);
     };
+    delegate->listLeft = [this](QWidget* list) {
+        closeEditor(list, QAbstractItemDelegate::NoHint);
+    };
     setItemDelegate(delegate);
     setSelectionMode(ContiguousSelection);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);

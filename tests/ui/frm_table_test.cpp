@@ -75,34 +75,41 @@ TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     EXPECT_EQ(project.TableRows[2].RowLength, 12) << "a command takes what is being typed";
 }
 
-TEST_F(TableWindow, OnlyAChoiceFromTheListOverTheCellSetsTheSize) {
-    const auto open = [this]() -> QComboBox& {
-        View().setCurrentIndex(Cell(4, kNominalSize));
-        View().edit(Cell(4, kNominalSize));
+TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
+    const auto open = [this](const char* keys) -> QComboBox& {
+        Keys(4, kNominalSize, keys);
         QApplication::processEvents();
-        return Child<QComboBox>("Combo1");
-    };
-    const auto choose = [&open] {
-        QComboBox& list = open();
-        list.setCurrentIndex(5);
-        Q_EMIT list.activated(5);
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    };
-    choose();
-    EXPECT_EQ(Text(4, kNominalSize), "1 1/2\"");
-    Put(4, kDiameter, "40");
-    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_F3}) {
-        QComboBox& list = open();
+        auto& list = Child<QComboBox>("Combo1");
+        EXPECT_TRUE(list.view()->isVisible());
         EXPECT_EQ(list.geometry(), View().visualRect(Cell(4, kNominalSize)));
-        EXPECT_EQ(list.currentIndex(), 5);
-        list.hidePopup();
-        if (key == Qt::Key_F3) Choose("p_mbar");
-        if (key != Qt::Key_F3) QTest::keyClick(&list, key);
+        return list;
+    };
+    const auto close = [this](QComboBox& list, Qt::Key key) {
+        QWidget* opened = list.view();
+        QTest::keyClick(opened->isVisible() ? opened : &list, key);
+        QApplication::processEvents();
         QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_EQ(View().findChild<QComboBox*>(), nullptr) << key;
-        EXPECT_EQ(Text(4, kDiameter), "40") << key;
+        EXPECT_EQ(View().findChild<QComboBox*>(), nullptr) << "no closed list is left";
+    };
+    close(open("2"), Qt::Key_Return);
+    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "2\"53.8") << "keys search the list";
+    Put(4, kNominalSize, "1 1/2");
+    Put(4, kDiameter, "40");
+    for (const char* keys : {"25", "6", "#"}) {
+        QComboBox& list = open(keys);
+        EXPECT_EQ(list.currentIndex(), 5) << "nothing is chosen, with or without the inch mark";
+        close(list, Qt::Key_Escape);
     }
-    choose();
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Tab, Qt::Key_Down, Qt::Key_F3}) {
+        QComboBox& list = open("#");
+        list.hidePopup();
+        QWheelEvent turned(QPointF(3, 3), {}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&list, &turned);
+        if (key == Qt::Key_F3) Choose("p_mbar");
+        close(list, key);
+    }
+    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "1 1/240");
+    close(open("#"), Qt::Key_Return);
     EXPECT_EQ(Text(4, kDiameter), "42.5") << "the same size again counts";
 }
 
