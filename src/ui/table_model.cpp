@@ -92,7 +92,10 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 }
 
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || section < 0 || section >= kTableColumns) return {};
+    if (orientation == Qt::Vertical) {
+        return role == Qt::DisplayRole ? index(section, table_column::kNumber).data() : QVariant();
+    }
+    if (section < 0 || section >= kTableColumns) return {};
     if (role == Qt::DisplayRole) return ToQt(kTableColumnList[section].header);
     if (role == Qt::ToolTipRole) return HeaderTip(program_, section);
     return {};

@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/table_view.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
 #include <algorithm>
-#include <optional>
 
 #include "model/grid.h"
 #include "ui/controls.h"
@@ -21,27 +24,26 @@ namespace idrova {
 namespace {
 
 constexpr int kUnitsPerPixel = 15;
-constexpr int kCellMargin = 12;
+constexpr int kLineMargin = 4;  ///< pixels, of a line of text in its cell, both sides together
+constexpr int kHeaderFlags = Qt::AlignCenter | Qt::TextWordWrap;
 
-std::optional<TableBlock> Selected(const QItemSelectionModel& selection) {
-    const QModelIndexList cells = selection.selectedIndexes();
-    if (cells.isEmpty()) return std::nullopt;
-    TableBlock block{kTableLines, kTableColumns, 0, 0};
-    for (const QModelIndex& cell : cells) {
-        const int row = TableModel::RowOf(cell);
-        block = {std::min(block.firstRow, row), std::min(block.firstColumn, cell.column()),
-                 std::max(block.lastRow, row), std::max(block.lastColumn, cell.column())};
-    }
-    return block;
+QString Header(int column) {
+    return ToQt(kTableColumnList[column].header);
 }
 
-/// Room for the longest word of a header.
-int HeaderWidth(const QFontMetrics& metrics, const QString& header) {
-    int width = 0;
-    for (const QString& word : header.split(' ')) {
-        width = std::max(width, metrics.horizontalAdvance(word));
+/// Around the text of a header, both sides together, with the line that parts it from the next.
+int HeaderMargin(const QHeaderView& header) {
+    return 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header) + 2;
+}
+
+/// The width of a column, given in screen units. Where a word of its header is wider than that,
+/// as "diameter" is in most fonts, the column is just wide enough for the word.
+int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
+    int widest = 0;
+    for (const QString& word : words.split(' ')) {
+        widest = std::max(widest, header.fontMetrics().horizontalAdvance(word));
     }
-    return width + kCellMargin;
+    return std::max(kTableColumnList[column].width / kUnitsPerPixel, widest + HeaderMargin(header));
 }
 
 }  // namespace
@@ -64,7 +66,11 @@ TableView::TableView(TableModel& model) : model_(model) {
     setSelectionMode(ContiguousSelection);
     setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
     setTabKeyNavigation(true);
+    setHorizontalScrollMode(ScrollPerItem);
+    setVerticalScrollMode(ScrollPerItem);
+    MakeHeaders();
     SizeColumns();
+    SizeLines();
     AddCommands();
     setCurrentIndex(model.index(0, table_column::kStartPoint));
     connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& cell) {
@@ -72,20 +78,44 @@ TableView::TableView(TableModel& model) : model_(model) {
     });
 }
 
+void TableView::MakeHeaders() {
+    // The lines' own header shows the numbers: it stays in place when the columns scroll.
+    setColumnHidden(table_column::kNumber, true);
+    verticalHeader()->setHighlightSections(false);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::Alignment::fromInt(kHeaderFlags));
+    auto* corner = findChild<QAbstractButton*>();
+    auto* label = new QLabel(Header(table_column::kNumber), corner);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(horizontalHeader()->font());
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* whole = new QVBoxLayout(corner);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(label);
+}
+
 void TableView::SizeColumns() {
-    verticalHeader()->hide();
-    verticalHeader()->setDefaultSectionSize(
-        std::max(kTableRowHeight / kUnitsPerPixel, fontMetrics().height() + kCellMargin / 2));
-    QHeaderView* header = horizontalHeader();
-    header->setDefaultAlignment(Qt::Alignment::fromInt(Qt::AlignCenter | Qt::TextWordWrap));
-    header->setFixedHeight(2 * fontMetrics().lineSpacing() + kCellMargin);
-    header->setHighlightSections(false);
-    header->setMinimumSectionSize(kTableColumnList[0].width / kUnitsPerPixel);
+    QHeaderView& header = *horizontalHeader();
+    header.setMinimumSectionSize(kTableColumnList[0].width / kUnitsPerPixel);
+    int height = 0;
     for (int column = 0; column < kTableColumns; ++column) {
-        const TableColumn& shown = kTableColumnList[column];
-        setColumnWidth(column, std::max(shown.width / kUnitsPerPixel,
-                                        HeaderWidth(fontMetrics(), ToQt(shown.header))));
+        const int width = ColumnWidth(header, column, Header(column));
+        setColumnWidth(column, width);
+        const QRect room(0, 0, width - HeaderMargin(header), QWIDGETSIZE_MAX);
+        height = std::max(
+            height, header.fontMetrics().boundingRect(room, kHeaderFlags, Header(column)).height());
     }
+    header.setFixedHeight(height + HeaderMargin(header));
+}
+
+void TableView::SizeLines() {
+    QHeaderView& header = *verticalHeader();
+    const QString longest = Header(table_column::kNumber) + ' ' + QString::number(kLastTableRow);
+    header.setFixedWidth(ColumnWidth(header, table_column::kNumber, longest));
+    header.setDefaultSectionSize(
+        std::max(kTableRowHeight / kUnitsPerPixel, fontMetrics().height() + kLineMargin));
 }
 
 void TableView::AddCommands() {
@@ -113,21 +143,33 @@ void TableView::TakeEdit() {
     closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
 
+std::optional<TableBlock> TableView::Selected() const {
+    const QModelIndexList cells = selectedIndexes();  // without the hidden numbers
+    if (cells.isEmpty()) return std::nullopt;
+    TableBlock block{kTableLines, kTableColumns, 0, 0};
+    for (const QModelIndex& cell : cells) {
+        const int row = TableModel::RowOf(cell);
+        block = {std::min(block.firstRow, row), std::min(block.firstColumn, cell.column()),
+                 std::max(block.lastRow, row), std::max(block.lastColumn, cell.column())};
+    }
+    return block;
+}
+
 void TableView::Copy() {
-    if (const auto block = Selected(*selectionModel())) {
+    if (const auto block = Selected()) {
         QApplication::clipboard()->setText(ToQt(model_.Copy(*block)));
     }
 }
 
 void TableView::Paste() {
-    const auto block = Selected(*selectionModel());
+    const auto block = Selected();
     const QString text = QApplication::clipboard()->text();
     if (!block || text.isEmpty()) return;
     model_.Paste(model_.index(block->firstRow - kFirstTableRow, block->firstColumn), FromQt(text));
 }
 
 void TableView::Delete() {
-    if (const auto block = Selected(*selectionModel())) model_.Clear(*block);
+    if (const auto block = Selected()) model_.Clear(*block);
 }
 
 void TableView::Undo() {
@@ -136,6 +178,26 @@ void TableView::Undo() {
 
 void TableView::Redo() {
     model_.Undo().redo();
+}
+
+void TableView::updateGeometries() {
+    QTableView::updateGeometries();
+    ShowWholeCells();
+}
+
+void TableView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    ShowWholeCells();
+}
+
+void TableView::ShowWholeCells() {
+    const QPoint shown(horizontalHeader()->offset(), verticalHeader()->offset());
+    horizontalHeader()->setOffsetToSectionPosition(horizontalScrollBar()->value());
+    verticalHeader()->setOffsetToSectionPosition(verticalScrollBar()->value());
+    const QPoint whole(horizontalHeader()->offset(), verticalHeader()->offset());
+    if (whole == shown) return;
+    viewport()->update();
+    updateEditorGeometries();
 }
 
 void TableView::MoveDown(int rows) {
@@ -163,9 +225,9 @@ QModelIndex TableView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
         return QTableView::moveCursor(action, modifiers);
     }
     const int step = action == MoveNext ? 1 : -1;
-    const int perRow = kTableColumns - 1;  // the line number is not stopped at
+    const int perRow = kTableColumns - 1;  // without the hidden number
     const QModelIndex from = currentIndex();
-    const int cell = from.row() * perRow + std::max(from.column(), 1) - 1 + step;
+    const int cell = from.row() * perRow + from.column() - 1 + step;
     if (cell < 0 || cell >= perRow * model_.rowCount()) return from;
     return model_.index(cell / perRow, cell % perRow + 1);
 }

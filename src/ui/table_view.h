@@ -2,13 +2,16 @@
 #pragma once
 
 #include <QTableView>
+#include <optional>
+
+#include "table/table_block.h"
 
 namespace idrova {
 
 class TableModel;
 
 /// The table on the screen: Tab and Enter go from cell to cell, blocks of cells are copied, pasted
-/// and deleted, edits undone.
+/// and deleted, edits undone. The line numbers stay beside the cells as the headers do above them.
 class TableView : public QTableView {
   public:
     explicit TableView(TableModel& model);
@@ -17,6 +20,8 @@ class TableView : public QTableView {
     void TakeEdit();
 
   protected:
+    void updateGeometries() override;
+    void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent* event) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -24,7 +29,13 @@ class TableView : public QTableView {
   private:
     void AddCommands();
     void AddCommand(const QString& caption, const QKeySequence& keys, void (TableView::*command)());
+    void MakeHeaders();
     void SizeColumns();
+    void SizeLines();
+    /// Starts the first column and the first line in sight at the edge, also where scrolling ends:
+    /// by itself the view would put the last ones at the other edge and cut these.
+    void ShowWholeCells();
+    std::optional<TableBlock> Selected() const;
     void Copy();
     void Paste();
     void Delete();
