@@ -42,6 +42,15 @@ constexpr std::array<TableColumn, kTableColumns> kTableColumnList = {{{"nr.", 35
                                                                       {"z2 [m]", 750}}};
 constexpr int kTableRowHeight = 300;  ///< screen units
 
+/// Where the user stands in the table: the current cell, counted from 0 as the cells on the screen
+/// are, and how far ScrX and ScrY are scrolled.
+struct TablePlace {
+    int line = 0;
+    int column = table_column::kStartPoint;
+    int scrolledColumns = 0;
+    int scrolledLines = 0;
+};
+
 /// Light red (0xRRGGBB), of an empty cell that stands for a value to compute.
 constexpr std::uint32_t kToComputeColour = 0xFF8080;
 

@@ -29,16 +29,30 @@ void Save(MDI& mdi) {
     if (!SaveToOwnFile(program.project, program.boxes)) ShowFileWindow(mdi, FilePurpose::Save);
 }
 
-/// The editor and the table texts are made again from the network that was put in place, and all
-/// that shows them.
-void TakeNetwork(MDI& mdi) {
+/// The editor is made again from the network that was put in place, and all that shows it.
+void TakeDrawing(MDI& mdi) {
     Program& program = mdi.State();
     CompletePumpConstants(program.project, program.components.pumps);
     RedrawProject(program.project, program.editor);
-    program.table = TableTexts();
-    FillTable(program.project, program.table);
     mdi.ShowNetwork();
     mdi.ShowSettings();
+}
+
+/// The same, and the table texts.
+void TakeNetwork(MDI& mdi) {
+    Program& program = mdi.State();
+    program.table = TableTexts();
+    FillTable(program.project, program.table);
+    program.tableModel.StartAnew();
+    TakeDrawing(mdi);
+}
+
+/// A new project keeps the rows of the table, so its texts and its edits stay as well.
+void New(MDI& mdi) {
+    Program& program = mdi.State();
+    HandOvers steps = program.handOvers;
+    steps.ShowNetwork = [&mdi] { TakeDrawing(mdi); };
+    NewProject(program.project, program.boxes, steps);
 }
 
 void AttachHandOvers(MDI& mdi) {
@@ -62,9 +76,7 @@ void AttachHandOvers(MDI& mdi) {
 void AttachProjectCommands(MDI& mdi) {
     AttachHandOvers(mdi);
     MenuBar& menu = mdi.Menu();
-    Program& program = mdi.State();
-    menu.Attach("Nuovo",
-                [&program] { NewProject(program.project, program.boxes, program.handOvers); });
+    menu.Attach("Nuovo", [&mdi] { New(mdi); });
     menu.Attach("Apri", [&mdi] { ShowFileWindow(mdi, FilePurpose::Open); });
     menu.Attach("Salva", [&mdi] { Save(mdi); });
     menu.Attach("Salva2", [&mdi] { ShowFileWindow(mdi, FilePurpose::Save); });

@@ -10,20 +10,12 @@
 
 namespace idrova {
 
-namespace {
-
-/// The table as the project holds it now: its rows and the pressure unit may be new.
-TableModel* FilledModel(Program& program, QObject* parent) {
-    FillTable(program.project, program.table);
-    return new TableModel(program, parent);
-}
-
-}  // namespace
-
 FrmTable::FrmTable(Program& program)
     : ChildWindow("FrmTable", "Idrova - Insertion with table"),
-      model_(FilledModel(program, this)),
-      TxtTab(new TableView(*model_)) {
+      model_(program.tableModel),
+      TxtTab(new TableView(model_, program.tablePlace)) {
+    FillTable(program.project, program.table);
+    model_.Refresh();
     StayOnEscape();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -32,7 +24,7 @@ FrmTable::FrmTable(Program& program)
 }
 
 void FrmTable::ShowNetwork() {
-    model_->Refresh();
+    model_.Refresh();
 }
 
 void FrmTable::TakeEdits() {

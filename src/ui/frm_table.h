@@ -18,7 +18,7 @@ class FrmTable : public ChildWindow {
     void TakeEdits() override;
 
   private:
-    TableModel* model_;
+    TableModel& model_;
     TableView* TxtTab;
 };
 

@@ -15,7 +15,9 @@
 #include "physdata/component_lists.h"
 #include "physdata/fluids.h"
 #include "shell/shell_state.h"
+#include "table/table_columns.h"
 #include "table/table_texts.h"
+#include "ui/table_model.h"
 
 namespace idrova {
 
@@ -32,6 +34,8 @@ struct Program {
     Project project;
     WorkNetwork work;
     TableTexts table;
+    TableModel tableModel{*this};  ///< of `project` and `table`; holds the edits that can be undone
+    TablePlace tablePlace;
     FluidDb fluids;
     ComponentLists components;
     Editor editor;

@@ -54,11 +54,7 @@ class TableModel::Change : public QUndoCommand {
     bool made_ = false;
 };
 
-TableModel::TableModel(Program& program, QObject* parent)
-    : QAbstractTableModel(parent),
-      program_(program),
-      shown_(program.table),
-      shownUnit_(program.project.PressureUnitFactor) {
+TableModel::TableModel(Program& program) : program_(program) {
     undo_.setUndoLimit(kUndoLimit);
 }
 
@@ -136,9 +132,13 @@ void TableModel::Clear(const TableBlock& block) {
 
 void TableModel::Refresh() {
     const float unit = program_.project.PressureUnitFactor;
-    const bool sameUnit = std::exchange(shownUnit_, unit) == unit;
-    if (!sameUnit || program_.table != shown_) undo_.clear();
+    if (std::exchange(shownUnit_, unit) != unit) undo_.clear();
     Announce();
+}
+
+void TableModel::StartAnew() {
+    undo_.clear();
+    Refresh();
 }
 
 void TableModel::Apply(const QString& name, const std::function<void()>& edit) {
@@ -150,7 +150,6 @@ void TableModel::Apply(const QString& name, const std::function<void()>& edit) {
 }
 
 void TableModel::Announce() {
-    shown_ = program_.table;
     // One pressure can reach every row.
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }

@@ -7,17 +7,16 @@
 #include <string>
 
 #include "table/table_block.h"
-#include "table/table_texts.h"
 
 namespace idrova {
 
 struct Program;
 
 /// The rows of the table, 2 .. 100, for a Qt view; line 0 of the model shows row 2. Every change
-/// runs the rule of the cells and can be undone.
+/// runs the rule of the cells and can be undone for the whole run, whatever windows come and go.
 class TableModel : public QAbstractTableModel {
   public:
-    TableModel(Program& program, QObject* parent);
+    explicit TableModel(Program& program);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -33,8 +32,10 @@ class TableModel : public QAbstractTableModel {
     void Paste(const QModelIndex& from, const std::string& text);
     void Clear(const TableBlock& block);
 
-    /// Shows the table again. When it is another one than before, nothing can be undone any more.
+    /// Shows the table again. In another pressure unit nothing can be undone any more.
     void Refresh();
+    /// Shows the table of another project, whose edits start here.
+    void StartAnew();
 
     QUndoStack& Undo() { return undo_; }
 
@@ -47,8 +48,7 @@ class TableModel : public QAbstractTableModel {
     void Announce();
 
     Program& program_;
-    TableTexts shown_;
-    float shownUnit_;
+    float shownUnit_ = 0;  ///< Pa per unit
     QUndoStack undo_;
 };
 

@@ -48,7 +48,7 @@ int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
 
 }  // namespace
 
-TableView::TableView(TableModel& model) : model_(model) {
+TableView::TableView(TableModel& model, TablePlace& place) : model_(model), place_(place) {
     Named(this, "TxtTab");
     Named(verticalScrollBar(), "ScrY");
     Named(horizontalScrollBar(), "ScrX");
@@ -72,7 +72,7 @@ TableView::TableView(TableModel& model) : model_(model) {
     SizeColumns();
     SizeLines();
     AddCommands();
-    setCurrentIndex(model.index(0, table_column::kStartPoint));
+    setCurrentIndex(model.index(place.line, place.column));
     connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& cell) {
         if (cell.column() == table_column::kNominalSize) edit(cell);
     });
@@ -141,6 +141,19 @@ void TableView::TakeEdit() {
     if (editor == nullptr) return;
     commitData(editor);
     closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void TableView::showEvent(QShowEvent* event) {
+    QTableView::showEvent(event);
+    updateGeometries();  // the ranges of the scroll bars
+    horizontalScrollBar()->setValue(place_.scrolledColumns);
+    verticalScrollBar()->setValue(place_.scrolledLines);
+}
+
+void TableView::hideEvent(QHideEvent* event) {
+    place_ = {currentIndex().row(), currentIndex().column(), horizontalScrollBar()->value(),
+              verticalScrollBar()->value()};
+    QTableView::hideEvent(event);
 }
 
 std::optional<TableBlock> TableView::Selected() const {

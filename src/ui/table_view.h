@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "table/table_block.h"
+#include "table/table_columns.h"
 
 namespace idrova {
 
@@ -14,12 +15,15 @@ class TableModel;
 /// and deleted, edits undone. The line numbers stay beside the cells as the headers do above them.
 class TableView : public QTableView {
   public:
-    explicit TableView(TableModel& model);
+    /// Starts at `place` and leaves there where it ended. Both live longer than the view.
+    TableView(TableModel& model, TablePlace& place);
 
     /// Takes what is being typed into a cell as if it had been finished.
     void TakeEdit();
 
   protected:
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void updateGeometries() override;
     void scrollContentsBy(int dx, int dy) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -44,6 +48,7 @@ class TableView : public QTableView {
     void MoveDown(int rows);
 
     TableModel& model_;
+    TablePlace& place_;
 };
 
 }  // namespace idrova

@@ -8,6 +8,8 @@
 #include <string_view>
 
 #include "main_window.h"
+#include "model/messages.h"
+#include "model/project_file.h"
 #include "table/table_columns.h"
 
 namespace idrova {
@@ -146,6 +148,53 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     mdi->ShowNetwork();
     Press("&Undo");
     EXPECT_EQ(Text(2, kLength), "10") << "and that is forgotten once only";
+}
+
+TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {
+    mdi->resize(700, 500);
+    QApplication::processEvents();
+    Put(2, kStartPoint, "1");
+    Put(2, kNominalSize, "2\"");
+    auto& across = Child<QAbstractSlider>("ScrX");
+    auto& down = Child<QAbstractSlider>("ScrY");
+    View().setCurrentIndex(Cell(60, kLength));
+    across.setValue(2);
+    down.setValue(40);
+    EXPECT_EQ(View().indexAt({0, 0}), Cell(42, kEndPoint)) << "by whole columns";
+    for (const int value : {across.maximum(), 2}) {
+        across.setValue(value);
+        EXPECT_EQ(View().columnViewportPosition(value + 1), 0);
+    }
+    Choose("Grafico");
+    Open("Tabella", "FrmTable");
+    QApplication::processEvents();
+    EXPECT_EQ(View().currentIndex(), Cell(60, kLength));
+    EXPECT_EQ(View().indexAt({0, 0}), Cell(42, kEndPoint));
+
+    for (const char* mode : {"Grafico", "Tabella"}) {
+        Choose(mode);
+        boxes.Expect(kLeaveProject);
+        Choose("Nuovo");
+        EXPECT_EQ(program->table.At(2, kNominalSize), "2\"");
+    }
+    Open("Tabella", "FrmTable");
+    Press("&Undo");
+    EXPECT_EQ(Text(2, kStartPoint) + Text(2, kNominalSize), "1");
+
+    ASSERT_TRUE(WriteProject(project, folder / "table.iv"));
+    PutFile(folder / "bad.iv", "2.6.3\r\n");
+    for (const char* mode : {"Grafico", "Tabella"}) {
+        Put(2, kNominalSize, "4\"");
+        Put(2, kNominalSize, "3\"");
+        Choose(mode);
+        boxes.Expect(ProjectMalformed("line 2: the line is missing"));
+        mdi->OpenFile(folder / "bad.iv");
+        EXPECT_EQ(program->table.At(2, kNominalSize), "3\"");
+        mdi->OpenFile(folder / "table.iv");
+        Open("Tabella", "FrmTable");
+        Press("&Undo");
+        EXPECT_EQ(Text(2, kStartPoint) + Text(2, kNominalSize), "1") << mode;
+    }
 }
 
 TEST_F(TableWindow, SwitchingModesAtRandomLosesNothing) {
