@@ -34,6 +34,8 @@ void TakeDrawing(MDI& mdi) {
     Program& program = mdi.State();
     CompletePumpConstants(program.project, program.components.pumps);
     RedrawProject(program.project, program.editor);
+    program.outcomes.erase(WorkMode::Graphic);
+    mdi.ShowOutcome();
     mdi.ShowNetwork();
     mdi.ShowSettings();
 }
@@ -44,6 +46,7 @@ void TakeNetwork(MDI& mdi) {
     program.table = TableTexts();
     FillTable(program.project, program.table);
     program.tableModel.StartAnew();
+    program.outcomes.erase(WorkMode::Table);
     TakeDrawing(mdi);
 }
 

@@ -60,7 +60,8 @@ Outcome Compute(MDI& mdi) {
 
 void Calculate(MDI& mdi) {
     mdi.TakeEdits();
-    mdi.State().outcome = Compute(mdi);
+    Program& program = mdi.State();
+    program.outcomes[program.project.Mode] = Compute(mdi);
     mdi.ShowOutcome();
     mdi.ShowNetwork();
     mdi.ShowSettings();

@@ -195,7 +195,7 @@ void FrmSin::Recompute() {
         program_, program_.boxes, [this](const Status& stored) { ReportStored(stored); });
     const SinglePipeResult result =
         SinglePipeCompute(pipe_, program_.project, program_.work, services);
-    program_.outcome = result.outcome;
+    program_.outcomes[WorkMode::SinglePipe] = result.outcome;
     program_.showOutcome();
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }

@@ -88,6 +88,7 @@ void MDI::ShowMode() {
         if (name != wanted) windows_->Close(name);
     }
     statusBar()->clearMessage();  // it names a cell of the drawing
+    ShowOutcome();
     windows_->Open(
         wanted, [&] { return MakeModeWindow(wanted, program_); }, ChildWindows::Place::FillsArea);
     ShowSettings();
@@ -126,7 +127,12 @@ void MDI::ShowTitle(std::string_view name) {
 }
 
 void MDI::ShowOutcome() {
-    if (program_.outcome) statusLine_->ShowOutcome(*program_.outcome);
+    const auto found = program_.outcomes.find(program_.project.Mode);
+    if (found == program_.outcomes.end()) {
+        statusLine_->HideOutcome();
+    } else {
+        statusLine_->ShowOutcome(found->second);
+    }
 }
 
 void MDI::OpenFile(const std::filesystem::path& path) {

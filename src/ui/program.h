@@ -3,7 +3,7 @@
 
 #include <filesystem>
 #include <functional>
-#include <optional>
+#include <map>
 #include <string>
 #include <utility>
 
@@ -40,9 +40,9 @@ struct Program {
     ComponentLists components;
     Editor editor;
     ShellState shell;
-    std::string roughnessLabel;      ///< as the command panel shows it
-    std::optional<Outcome> outcome;  ///< of the last computation
-    std::string report;              ///< of the last computation that wrote one
+    std::string roughnessLabel;            ///< as the command panel shows it
+    std::map<WorkMode, Outcome> outcomes;  ///< of the last computation in each mode
+    std::string report;                    ///< of the last computation that wrote one
 
     HandOvers handOvers;
     /// Shows the settings wherever they are shown: check marks, command panel, status bar. Every
@@ -53,7 +53,7 @@ struct Program {
     std::function<void()> showComponents = [] {};
     /// Moves the keyboard between the child windows and the command panel.
     std::function<void()> switchFocus = [] {};
-    /// Shows `outcome`. Every window that computes calls it.
+    /// Shows the mode's outcome. Every window that computes calls it.
     std::function<void()> showOutcome = [] {};
 };
 

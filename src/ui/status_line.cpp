@@ -65,6 +65,10 @@ void StatusLine::ShowOutcome(const Outcome& outcome) {
     outcomeButton_->setVisible(!outcomeButton_->text().isEmpty());
 }
 
+void StatusLine::HideOutcome() {
+    outcomeButton_->hide();
+}
+
 void StatusLine::ShowNotes() {
     boxes_.Show(OutcomeNotes(outcome_));
 }

@@ -22,6 +22,7 @@ class StatusLine {
 
     void ShowSettings(const Settings& settings);
     void ShowOutcome(const Outcome& outcome);
+    void HideOutcome();
 
   private:
     void ShowNotes();

@@ -4,6 +4,7 @@
 
 #include "drawing_window.h"
 #include "hydraulics/messages.h"
+#include "model/messages.h"
 #include "results/messages.h"
 #include "table/messages.h"
 #include "table/table_edit.h"
@@ -76,6 +77,7 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
 
     ChooseWater();
     Choose("Tabella");
+    EXPECT_FALSE(outcome.isVisible()) << "it is that of the drawing";
     Do("Command1");
     EXPECT_GT(program->work.WorkPipes[1].FlowRate, 1);
     EXPECT_FALSE(IsMarked());
@@ -88,6 +90,11 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     EXPECT_EQ(outcome.text(), "Not computed");
     EXPECT_TRUE(IsMarked());
     EXPECT_EQ(program->report, report);
+    Choose("Grafico");
+    EXPECT_TRUE(outcome.isVisible());
+    boxes.Expect(kLeaveProject, Answer::Ok);
+    Choose("Nuovo");
+    EXPECT_FALSE(outcome.isVisible()) << "nothing is computed of the new one";
 }
 
 /// Counts how often an object is painted.

@@ -80,8 +80,8 @@ TEST_F(WholeJob, DrawsDescribesComputesAndReports) {
     ASSERT_EQ(project.npres, 10);
 
     Do("Command1");
-    ASSERT_TRUE(program->outcome);
-    EXPECT_EQ(program->outcome->end, RunEnd::Settled) << OutcomeLine(*program->outcome);
+    const Outcome& outcome = program->outcomes[WorkMode::Graphic];
+    EXPECT_EQ(outcome.end, RunEnd::Settled) << OutcomeLine(outcome);
     const std::vector<std::string> report = Words(FileBytes(folder / "out.dat"));
     ASSERT_GT(report.size(), 100U);
     Select(12, 10);
