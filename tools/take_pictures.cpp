@@ -107,7 +107,8 @@ class Studio {
 
     void Compute() {
         Press("Command1");
-        if (program_->outcome->end != RunEnd::Settled) throw std::runtime_error("not settled");
+        const Outcome& outcome = program_->outcomes[program_->project.Mode];
+        if (outcome.end != RunEnd::Settled) throw std::runtime_error("not settled");
     }
 
     void Click(int column, int row, MouseButton button = MouseButton::Left) {
