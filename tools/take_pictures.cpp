@@ -39,7 +39,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr QSize kMainWindow(1180, 1090);
+constexpr QSize kMainWindow(1340, 1060);
 constexpr int kSizeOfTwoAndAHalf = 7;  ///< position of 2 1/2" in the lists
 
 /// Whatever asks or warns has no place in a picture.
