@@ -8,12 +8,14 @@
 #include <utility>
 
 #include "ui/frm_warn.h"
+#include "ui/keypad_point.h"
 
 namespace idrova {
 
 void SetDecimalPoint() {
     QLocale::setDefault(QLocale::c());
     std::setlocale(LC_NUMERIC, "C");
+    qApp->installEventFilter(new KeypadPoint(qApp));
 }
 
 void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow, int splashMilliseconds) {

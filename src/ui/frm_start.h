@@ -13,7 +13,7 @@ namespace idrova {
 void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow,
               int splashMilliseconds = kSplashMilliseconds);
 
-/// Makes the toolkit and the C library use the period in numbers. Once, right after the
+/// Makes the toolkit, the C library and the keypad use the period in numbers. Once, right after the
 /// application object, whose construction takes over the machine's regional settings.
 void SetDecimalPoint();
 

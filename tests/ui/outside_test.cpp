@@ -49,6 +49,14 @@ TEST(StartWithFile, PathsWithBlanksReachTheProgramWhole) {
     EXPECT_NE(StartWithFile(folder / "vanished", file).Error().find("vanished"), std::string::npos);
 }
 
+TEST(KeypadPoint, TheDecimalKeyOfTheKeypadWritesAPeriod) {
+    QLineEdit field;
+    QTest::keyClick(&field, Qt::Key_1, Qt::KeypadModifier);
+    QTest::keyClick(&field, Qt::Key_Comma, Qt::KeypadModifier);
+    QTest::keyClick(&field, Qt::Key_Comma);
+    EXPECT_EQ(field.text(), "1.,");
+}
+
 TEST(QtMessageBoxes, ShowTheTextAsItIsAndAnswerAsTheButtonsSay) {
     const struct {
         BoxButtons buttons;
