@@ -97,17 +97,19 @@ class Stage {
                                      [](double x) { return std::abs(x) <= kLargestStored; });
     }
 
-    /// Measures every pipe and moves the guesses of those that are off by more than `tolerance`,
-    /// and have a flow above `negligible`, half way to the solution. True when none had to move.
+    /// Measures every pipe and moves the guesses of those that are off by more than `tolerance`
+    /// half way to the solution. Flows below `negligible` keep guess and residual: on them the
+    /// guesses of the others leave nothing to measure. True when none had to move.
     bool Relax(double tolerance, double negligible) {
         bool atRest = true;
         result_.residual = 0;
         ForUnknownFlows([&](int i) {
             const double q = result_.Flow(plan_, i);
-            const PipeResidual residual = Measure(i, q);
-            result_.pipes[i] = residual;
+            PipeResidual& residual = result_.pipes[i];
+            const bool measured = std::abs(q) >= negligible;
+            if (measured) residual = Measure(i, q);
             result_.residual += residual.relative;
-            moved_[i] = residual.relative > tolerance && std::abs(q) >= negligible;
+            moved_[i] = measured && residual.relative > tolerance;
             if (!moved_[i]) return;
             state_.guess[i] = (q + state_.guess[i]) / 2;
             atRest = false;
@@ -116,8 +118,8 @@ class Stage {
     }
 
     /// What has settled depends on the start values within the tolerance: two runs would differ in
-    /// the fifth digit. A few passes more leave nothing of that; they count only when they settle
-    /// too.
+    /// the fifth digit. A few passes more leave nothing of that; they count when they bring the
+    /// result closer and it is settled still.
     void Refine() {
         StageResult settled = result_;
         refining_ = true;
@@ -133,8 +135,10 @@ class Stage {
             const bool componentsRest = FindIdleComponents();
             atRest = RefreshMeanPressures() && guessesRest && componentsRest;
         }
-        Conclude();
-        if (!result_.finite || !result_.settled) result_ = std::move(settled);
+        const bool solved = result_.finite && !result_.singular;
+        if (solved) Conclude();
+        const bool closer = solved && result_.settled && result_.residual <= settled.residual;
+        if (!closer) result_ = std::move(settled);
     }
 
     void Conclude() {

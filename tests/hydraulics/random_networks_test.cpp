@@ -103,7 +103,8 @@ class RandomNetwork {
 
 /// What the flows of two runs differ by, of the largest.
 double Apart(const NetworkRun& run, const NetworkRun& other) {
-    double largest = 0, apart = 0;
+    double largest = 0;
+    double apart = 0;
     for (int i = 1; i <= run.work->WorkPipeCount; ++i) {
         largest = std::max(largest, std::abs(run.Flow(i)));
         apart = std::max(apart, std::abs(run.Flow(i) - other.Flow(i)));
