@@ -92,8 +92,22 @@ std::string CopyBlock(const TableTexts& texts, const TableBlock& block) {
     return copy;
 }
 
+/// A row that is to name another point with an unknown pressure gives up its own first, which is
+/// then of no other row.
+void LeavePoints(Project& project, TableTexts& texts, const std::vector<PastedCell>& cells) {
+    for (std::size_t i = 1; i < cells.size(); ++i) {
+        const PastedCell& point = cells[i - 1];
+        const PastedCell& pressure = cells[i];
+        if (!IsPressure(pressure) || !pressure.text.empty() || point.row != pressure.row) continue;
+        if (texts.At(point.row, point.column) == point.text) continue;
+        ChangeCell(project, texts, point.row, point.column, "");
+        ChangeCell(project, texts, pressure.row, pressure.column, "");
+    }
+}
+
 void PasteBlock(Project& project, TableTexts& texts, int row, int column, std::string_view text) {
     std::vector<PastedCell> cells = ReadCells(text, row, column);
+    LeavePoints(project, texts, cells);
     // An empty pressure on an empty cell is the same text again. Pasting it would empty what the
     // point beside it has fetched by then, and with it the pressure of the point's other rows.
     std::erase_if(cells, [&texts](const PastedCell& cell) {
