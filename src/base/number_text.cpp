@@ -266,7 +266,7 @@ float ScaledSingle(float value, double factor) {
         const double typed = RoundedTo(scaled, digits);
         if (ToSingle(typed / factor) == value) return ToSingle(typed);
     }
-    return ToSingle(scaled);
+    return ToSingle(DecimalDouble(value) * factor);
 }
 
 }  // namespace idrova

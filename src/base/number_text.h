@@ -52,9 +52,9 @@ double DecimalDouble(float value);
 /// not a number becomes 0. So a typed number can never put an infinity into a record.
 float ToSingle(double value);
 
-/// `value` times `factor`, in another unit: the number of the fewest digits that is stored as this
+/// `value` times `factor`, in another unit: the number of up to six digits that is stored as this
 /// value, so that what was typed as 81.6 mm or 67 kg/h and is kept as .0816 m or .01861111 kg/s is
-/// shown as it was typed.
+/// shown as it was typed; without such a number, the product with its shortest decimal text.
 float ScaledSingle(float value, double factor);
 
 }  // namespace idrova

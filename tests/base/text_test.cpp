@@ -87,6 +87,7 @@ TEST(NumberText, RoundsHalvesToEvenAndClamps) {
             ASSERT_EQ(ScaledSingle(stored, factor), static_cast<float>(shown)) << factor;
         }
     }
+    EXPECT_EQ(ScaledSingle(.5142785F, 1000), 514.2785F);
     EXPECT_EQ(ScaledSingle(kLargestSingle, 2), kLargestSingle);
 }
 
