@@ -116,7 +116,7 @@ void RefreshComponentChoice(Editor& editor, const ComponentLists& lists) {
     const auto names = ComponentNames(lists, editor.componentKind);
     const auto chosen = std::ranges::find(names, editor.choice.CompName);
     if (chosen == names.end()) {
-        AbortInsertion(editor);
+        if (IsArmed(editor)) AbortInsertion(editor);
         ChooseComponentKind(editor, lists, editor.componentKind);
     } else {
         ChooseComponentAt(editor, lists, static_cast<int>(chosen - names.begin()));
