@@ -11,16 +11,18 @@
 #include "ui/mdi.h"
 #include "ui/menu_bar.h"
 #include "ui/program.h"
-#include "ui/qt_text.h"
 
 namespace idrova {
 
 namespace {
 
 void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
-    const ChildWindow* open = mdi.Windows().Find("FrmFile");
-    const bool other = open != nullptr && open->windowTitle() != ToQt(FileFormCaption(purpose));
-    if (other) mdi.Windows().Close("FrmFile");
+    auto* open = dynamic_cast<FrmFile*>(mdi.Windows().Find("FrmFile"));
+    if (open != nullptr && open->Purpose() != purpose) {
+        open->CloseWindow();
+    } else if (open != nullptr) {
+        open->ShowFolder();
+    }
     mdi.Windows().Open("FrmFile", [&] { return new FrmFile(mdi.State(), purpose); });
 }
 
@@ -36,6 +38,9 @@ void TakeDrawing(MDI& mdi) {
     RedrawProject(program.project, program.editor);
     program.outcomes.erase(WorkMode::Graphic);
     mdi.ShowOutcome();
+    mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
+    const bool closed = mdi.Windows().Find(ViewOf(program.project.Mode).window) == nullptr;
+    if (closed) mdi.ShowMode();
     mdi.ShowNetwork();
     mdi.ShowSettings();
 }

@@ -21,28 +21,34 @@ using namespace std::chrono_literals;
 constexpr auto kLookEvery = 50ms;
 constexpr int kLooks = 200;
 
+}  // namespace
+
 /// The windows of the desktop, as its window manager lists them.
-class Desktop {
+class EditorWindow::Desktop {
   public:
     explicit Desktop(xcb_connection_t* connection) {
         alive_ = xcb_ewmh_init_atoms_replies(&ewmh_, xcb_ewmh_init_atoms(connection, &ewmh_),
                                              nullptr) != 0;
+        before_ = Windows();
     }
     ~Desktop() { xcb_ewmh_connection_wipe(&ewmh_); }
     Desktop(const Desktop&) = delete;
     Desktop& operator=(const Desktop&) = delete;
 
-    std::vector<xcb_window_t> Windows() {
-        xcb_ewmh_get_windows_reply_t list{};
-        if (!alive_ || xcb_ewmh_get_client_list_reply(&ewmh_, xcb_ewmh_get_client_list(&ewmh_, 0),
-                                                      &list, nullptr) == 0) {
-            return {};
+    /// True when the window was there.
+    bool BringToFront(qint64 pid, const QString& fileName) {
+        for (const xcb_window_t window : Windows()) {
+            if (std::ranges::find(before_, window) != before_.end()) continue;
+            if (Process(window) != pid && !Title(window).contains(fileName, Qt::CaseInsensitive)) {
+                continue;
+            }
+            Maximise(window);
+            return true;
         }
-        std::vector<xcb_window_t> windows(list.windows, list.windows + list.windows_len);
-        xcb_ewmh_get_windows_reply_wipe(&list);
-        return windows;
+        return false;
     }
 
+  private:
     qint64 Process(xcb_window_t window) {
         std::uint32_t pid = 0;
         xcb_ewmh_get_wm_pid_reply(&ewmh_, xcb_ewmh_get_wm_pid(&ewmh_, window), &pid, nullptr);
@@ -69,33 +75,36 @@ class Desktop {
         xcb_flush(ewmh_.connection);
     }
 
-  private:
+    std::vector<xcb_window_t> Windows() {
+        xcb_ewmh_get_windows_reply_t list{};
+        if (!alive_ || xcb_ewmh_get_client_list_reply(&ewmh_, xcb_ewmh_get_client_list(&ewmh_, 0),
+                                                      &list, nullptr) == 0) {
+            return {};
+        }
+        std::vector<xcb_window_t> windows(list.windows, list.windows + list.windows_len);
+        xcb_ewmh_get_windows_reply_wipe(&list);
+        return windows;
+    }
+
     xcb_ewmh_connection_t ewmh_{};
     bool alive_ = false;
+    std::vector<xcb_window_t> before_;
 };
 
-}  // namespace
-
-void BringEditorToFront(qint64 pid, const QString& fileName) {
+EditorWindow::EditorWindow() {
     if (QGuiApplication::platformName() != "xcb") return;
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) return;
-    const auto desktop = std::make_shared<Desktop>(x11->connection());
-    const std::vector<xcb_window_t> before = desktop->Windows();
+    if (x11 != nullptr) desktop_ = std::make_shared<Desktop>(x11->connection());
+}
+
+void EditorWindow::BringToFront(qint64 pid, const QString& fileName) const {
+    if (desktop_ == nullptr) return;
     auto* timer = new QTimer(qGuiApp);
     timer->setInterval(kLookEvery);
-    QObject::connect(timer, &QTimer::timeout, timer, [=, looks = 0]() mutable {
-        for (const xcb_window_t window : desktop->Windows()) {
-            const bool isNew = std::ranges::find(before, window) == before.end();
-            const bool bearsName =
-                isNew && desktop->Title(window).contains(fileName, Qt::CaseInsensitive);
-            if (!bearsName && desktop->Process(window) != pid) continue;
-            desktop->Maximise(window);
-            looks = kLooks;
-            break;
-        }
-        if (++looks > kLooks) timer->deleteLater();
-    });
+    const auto look = [pid, fileName, timer, desktop = desktop_, looks = 0]() mutable {
+        if (desktop->BringToFront(pid, fileName) || ++looks == kLooks) timer->deleteLater();
+    };
+    QObject::connect(timer, &QTimer::timeout, timer, look);
     timer->start();
 }
 
@@ -105,7 +114,11 @@ void BringEditorToFront(qint64 pid, const QString& fileName) {
 
 namespace idrova {
 
-void BringEditorToFront(qint64 /*pid*/, const QString& /*fileName*/) {}
+class EditorWindow::Desktop {};
+
+EditorWindow::EditorWindow() = default;
+
+void EditorWindow::BringToFront(qint64 /*pid*/, const QString& /*fileName*/) const {}
 
 }  // namespace idrova
 

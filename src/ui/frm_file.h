@@ -23,6 +23,10 @@ class FrmFile : public ChildWindow {
     /// Starts in the folder last used.
     FrmFile(Program& program, FilePurpose purpose);
 
+    FilePurpose Purpose() const { return form_.purpose; }
+    /// Reads the lists of folders and files again.
+    void ShowFolder();
+
   private:
     QWidget* MakeLists();
     QWidget* MakeFields();
@@ -32,7 +36,6 @@ class FrmFile : public ChildWindow {
 
     /// The fields as the form has them. The lists are read again only where they are out of date.
     void ShowForm();
-    void ShowFolder();
     void ShowFiles();
 
     /// Shows a folder, or says that it cannot be read and stays.

@@ -104,8 +104,7 @@ void MDI::ShowSettings() {
 
 void MDI::ShowNetwork() {
     ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
-    if (window == nullptr) return ShowMode();  // its user had closed it
-    window->ShowNetwork();
+    if (window != nullptr) window->ShowNetwork();
 }
 
 void MDI::TakeEdits() {

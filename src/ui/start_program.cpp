@@ -13,11 +13,12 @@ Status StartWithFile(const std::filesystem::path& program, const std::filesystem
     process.setProgram(PathToQt(program));
     process.setArguments({PathToQt(file)});
     process.setWorkingDirectory(PathToQt(file.parent_path()));
+    const EditorWindow window;
     qint64 pid = 0;
     if (!process.startDetached(&pid)) {
         return Failure{program.string() + " can not be started: " + FromQt(process.errorString())};
     }
-    BringEditorToFront(pid, PathToQt(file.filename()));
+    window.BringToFront(pid, PathToQt(file.filename()));
     return Done{};
 }
 

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: GPL-3.0-or-later
-# first_start.sh PREFIX EDITOR: on a display, a user who never started the program installed below PREFIX
-# opens a sample with it and has it computed by its key. It has to make the folder that it works
-# in, and to write the results that idrova-calc gets, but for what the start values leave open. Then the results are
-# shown in EDITOR, whose window is to fill the screen and to have the focus.
+# first_start.sh PREFIX [EDITOR]: on a display, a user who never started the program installed below
+# PREFIX opens a sample with it and has it computed by its key. It has to make the folder that it
+# works in, and to write the results that idrova-calc gets, but for what the start values leave open.
+# Then it shows them in EDITOR, whose window is to fill the screen and to have the focus.
 set -euo pipefail
 account=$1/account
 sample=$1/share/idrova/samples/ring-main.iv
@@ -46,6 +46,8 @@ paste -d '\n' <(tail -n +3 "$made/out.dat") <(tail -n +3 batch/out.dat) | awk '
     }
     END { exit bad || lines < 100 }'
 
+kill -0 "$program"
+[ -n "${2-}" ] || exit 0
 printf '%s\n' "$2" >"$made/IV.CFG"
 xdotool key F6
 for ((tenths = 0; tenths < 600; ++tenths)); do

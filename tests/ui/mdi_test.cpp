@@ -37,8 +37,11 @@ TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     mdi->ShowTitle("a[*]b");
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a[*][*]b]") << "shown with one star";
     Window("FrmCel")->CloseWindow();
-    mdi->ShowNetwork();
-    EXPECT_NE(Window("FrmCel"), nullptr) << "a new network is shown";
+    Choose("p_mbar");
+    EXPECT_EQ(Window("FrmCel"), nullptr) << "only a new network brings it back";
+    boxes.Expect(kLeaveProject, Answer::Ok);
+    Choose("Nuovo");
+    EXPECT_NE(Window("FrmCel"), nullptr);
 
     const auto hintsAreShown = [this] {
         EXPECT_EQ(mdi->Hints().isVisible(), Item("Helpslinea").isChecked());
