@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "hydraulics/loose_part.h"
 #include "hydraulics/messages.h"
+#include "hydraulics/pipe_drop.h"
 
 namespace idrova {
 namespace {
@@ -50,6 +51,21 @@ void NotePipes(const WorkNetwork& work, const StageResult& result,
                             " has not settled: " + PercentText(result.pipes[i].relative));
         }
     }
+}
+
+/// The lowest point whose liquid would be torn apart; a gas is told by its pipes.
+void NoteVacuum(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+                const StageResult& result, std::vector<std::string>& notes) {
+    if (project.EquationType == Equation::Compressible) return;
+    int lowest = 0;
+    double least = -kAtmosphere - project.BasePressure;
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        if (!work.WorkPoints[i].IsDrawn() || result.Pressure(plan, i) >= least) continue;
+        least = result.Pressure(plan, i);
+        lowest = i;
+    }
+    if (lowest == 0) return;
+    notes.push_back("The pressure in point " + GeneralText(lowest) + " would be below a vacuum");
 }
 
 /// The second stage turns a loss given by its coefficient with the flow; a fixed drop and the
@@ -124,6 +140,9 @@ std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& 
         notes.push_back("No pressure is given in the part of the network that holds pipe " +
                         GeneralText(loose));
     }
+    if (project.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
+    if (project.FluidDensity < 0) notes.emplace_back("The density of the fluid is negative");
+    NoteVacuum(project, plan, work, result, notes);
     if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
     NotePipes(work, result, notes);
     for (const int cell : result.unsettledCells) {

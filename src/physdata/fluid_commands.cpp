@@ -10,6 +10,16 @@
 
 namespace idrova {
 
+int MeantFluid(const FluidDb& db, const FluidFields& fields) {
+    FluidFields blank;
+    blank.name = fields.name;
+    if (fields != blank) return 0;
+    for (int slot = 1; slot <= db.count; ++slot) {
+        if (db[slot].name == fields.name) return slot;
+    }
+    return 0;
+}
+
 void UseFluid(Project& project, int selected, const FluidFields& fields) {
     project.FluidDensity = ReadNumber(fields.density);
     project.FluidViscosity = ReadNumber(fields.viscosity);

@@ -13,6 +13,10 @@ namespace idrova {
 /// `folder` holds the database. In a record, a typed number that exceeds a single is the largest
 /// one.
 
+/// The slot of the record whose name stands over fields that are all empty: it is what the user
+/// means. 0 when there is none.
+int MeantFluid(const FluidDb& db, const FluidFields& fields);
+
 /// "Use": the typed values become the current fluid, named "[selected] name" (the name alone when
 /// none was chosen).
 void UseFluid(Project& project, int selected, const FluidFields& fields);

@@ -16,8 +16,9 @@ std::string KeptNote(std::string_view file) {
 
 MessageBox BadName(std::size_t nameLimit, std::string_view title) {
     const std::string limit = GeneralText(static_cast<int>(nameLimit));
-    return {"The name can have " + limit + " characters at most, all of the Latin-1 set", title,
-            BoxIcon::Exclamation};
+    return {
+        "The name can have " + limit + " characters at most, of western European languages only",
+        title, BoxIcon::Exclamation};
 }
 
 MessageBox DamagedDatabase(std::string_view file, int goodRecords, std::string_view title) {

@@ -122,6 +122,10 @@ void FrmFlu::Text6_Change() {
 }
 
 void FrmFlu::Command1_Click() {
+    if (const int meant = MeantFluid(program_.fluids, Fields()); meant > 0) {
+        ListNames(meant);
+        return Combo1_Click(meant - 1);
+    }
     UseFluid(program_.project, selected_, Fields());
     program_.showSettings();
     TellVolumeFlows(program_.project, program_.boxes);

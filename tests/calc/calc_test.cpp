@@ -99,7 +99,7 @@ TEST_F(Calc, ReportIsPrintedAndWritten) {
 }
 
 TEST_F(Calc, JsonTellsTheWholeRun) {
-    const CalcResult run = Run("--json --base-pressure -2.5 plant.iv");
+    const CalcResult run = Run("--json --base-pressure -1.5 plant.iv");
     EXPECT_EQ(run.status, 0);
     EXPECT_TRUE(Has("out.dat"));
     EXPECT_THAT(run.err, StartsWith("Pressure check: Some pressures are negative"));

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -140,6 +141,16 @@ TEST(RunMessages, PumpsOutOfRangeAreListedInDrawnNetworksOnly) {
         EXPECT_EQ(NetworkRun(network).boxes.shown, table ? Boxes{} : Boxes{outOfRange});
         EXPECT_EQ(pump.Result, table ? 0 : 1);
     }
+}
+
+TEST(RunNotes, TellWhatNoPlantCanHave) {
+    NetworkBuilder network = LoopedNetwork(2, 1);
+    EXPECT_THAT(NetworkRun(network).outcome.notes, testing::IsEmpty());
+    network->BasePressure = -1e9F;
+    network->FluidViscosity = 0;
+    EXPECT_THAT(NetworkRun(network).outcome.notes,
+                testing::ElementsAre("The fluid has no viscosity",
+                                     testing::HasSubstr("would be below a vacuum")));
 }
 
 TEST(RunSettings, CalculationDataAreReadAndShown) {

@@ -33,6 +33,13 @@ TEST(Fluids, UseTakesTheTypedValues) {
     EXPECT_EQ(project->FluidViscosity, 1.002e-3);
 }
 
+TEST(Fluids, ANameAloneMeansItsRecord) {
+    const FluidDb db = WithRecord(WithRecord({}, FluidRecord{.name = "Air"}), {.name = "Oil"});
+    EXPECT_EQ(MeantFluid(db, {"Oil", "", "", "", "", ""}), 2);
+    EXPECT_EQ(MeantFluid(db, {"Oi", "", "", "", "", ""}), 0);
+    EXPECT_EQ(MeantFluid(db, {"Oil", "900", "", "", "", ""}), 0);
+}
+
 TEST(Fluids, ShowWhatWasTypedAndTheKinematicViscosity) {
     EXPECT_EQ(ShowFluid(TypedFluid(kWater)), kWater);
     EXPECT_EQ(ShowFluid(TypedFluid({"x", "1e300", "-", "", "", "a"})),
