@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <QStatusBar>
+
 #include "editor/editor_state.h"
 #include "model/project_commands.h"
+#include "model/project_file.h"
+#include "model/unsaved_copy.h"
 #include "physdata/component_lists.h"
 #include "physdata/pump_constants.h"
 #include "table/table_texts.h"
@@ -10,6 +14,8 @@
 #include "ui/frm_file.h"
 #include "ui/mdi.h"
 #include "ui/menu_bar.h"
+#include "ui/messages.h"
+#include "ui/mode_windows.h"
 #include "ui/program.h"
 
 namespace idrova {
@@ -53,11 +59,16 @@ void TakeNetwork(MDI& mdi) {
     program.tableModel.StartAnew();
     program.outcomes.erase(WorkMode::Table);
     TakeDrawing(mdi);
+    const bool isTable = program.project.numtubo == 0 && CountTableRows(program.project) > 0;
+    if (isTable && program.project.Mode == WorkMode::Graphic) {
+        mdi.statusBar()->showMessage(kProjectIsTable);
+    }
 }
 
 /// A new project keeps the rows of the table, so its texts and its edits stay as well.
 void New(MDI& mdi) {
     Program& program = mdi.State();
+    KeepUnsaved(program.project, program.folder);
     HandOvers steps = program.handOvers;
     steps.ShowNetwork = [&mdi] { TakeDrawing(mdi); };
     NewProject(program.project, program.boxes, steps);

@@ -83,6 +83,7 @@ QLineEdit* TextField(const char* name) {
 QLineEdit* ComputedField(const char* name) {
     QLineEdit* field = TextField(name);
     field->setReadOnly(true);
+    field->setFocusPolicy(Qt::ClickFocus);
     QPalette colours = field->palette();
     colours.setColor(QPalette::Base, colours.color(QPalette::Window));
     field->setPalette(colours);

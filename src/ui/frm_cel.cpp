@@ -42,7 +42,7 @@ QScrollBar* FrmCel::Bar(const char* name, Qt::Orientation orientation) {
     auto* bar = Named(new QScrollBar(orientation), name);
     bar->setRange(1, LastScroll(program_.project));
     bar->setPageStep(program_.project.GridSize / 2);
-    bar->setFocusPolicy(Qt::TabFocus);
+    bar->setFocusPolicy(Qt::NoFocus);  // the whole grid is in sight; a bar does not show its focus
     connect(bar, &QScrollBar::valueChanged, this, [this] { Scrolled(); });
     return bar;
 }
@@ -70,9 +70,7 @@ void FrmCel::Img_MouseDown(int place, MouseButton button) {
 }
 
 bool FrmCel::focusNextPrevChild(bool next) {
-    const QWidget* last = next ? ScrY : static_cast<QWidget*>(view_);
-    if (!last->hasFocus()) return ChildWindow::focusNextPrevChild(next);
-    program_.switchFocus();
+    program_.switchFocus(!next);
     return true;
 }
 

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frm_com.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QFormLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -116,13 +118,23 @@ void FrmCom::ShowSettings() {
     ShowEnabling();
 }
 
-void FrmCom::FocusFirst() {
-    for (QWidget* next = nextInFocusChain(); next != this; next = next->nextInFocusChain()) {
+void FrmCom::TakeFocus(bool backwards) {
+    const auto step = [backwards](const QWidget* from) {
+        return backwards ? from->previousInFocusChain() : from->nextInFocusChain();
+    };
+    for (QWidget* next = step(this); next != this; next = step(next)) {
         const bool takes = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled();
         if (takes && next->isVisible() && isAncestorOf(next)) {
-            return next->setFocus(Qt::TabFocusReason);
+            return next->setFocus(backwards ? Qt::BacktabFocusReason : Qt::TabFocusReason);
         }
     }
+}
+
+void FrmCom::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
+    if (!isReturn || button == nullptr) return QDockWidget::keyPressEvent(event);
+    button->click();
 }
 
 void FrmCom::ShowFrames() {

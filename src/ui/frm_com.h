@@ -28,8 +28,8 @@ class FrmCom : public QDockWidget {
     /// Everything that the panel shows, as settings, project and editor now stand.
     void ShowSettings();
 
-    /// Gives the keyboard to the first control that takes it.
-    void FocusFirst();
+    /// Gives the keyboard to the first control that takes it or, backwards, to the last.
+    void TakeFocus(bool backwards);
 
     /// "Calculate by graphic" was pressed.
     std::function<void()> calculate = [] {};
@@ -38,6 +38,8 @@ class FrmCom : public QDockWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    /// Outside dialogs a button ignores Return.
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     void AddSettings(QVBoxLayout& column);

@@ -13,8 +13,10 @@
 #include <QSignalBlocker>
 
 #include "model/messages.h"
+#include "model/unsaved_copy.h"
 #include "ui/controls.h"
 #include "ui/drives.h"
+#include "ui/form_parts.h"
 #include "ui/program.h"
 #include "ui/qt_text.h"
 
@@ -49,7 +51,7 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose)
       Dir1(Named<QListWidget>(new FolderList, "Dir1")),
       File1(Named(new QListWidget, "File1")),
       Text1(Named(new QLineEdit, "Text1")),
-      Text2(Named(new QLineEdit, "Text2")),
+      Text2(ComputedField("Text2")),
       Text3(Named(new QLineEdit, "Text3")),
       Text4(Named(new QLineEdit, "Text4")) {
     auto* column = new QVBoxLayout(this);
@@ -87,7 +89,6 @@ QWidget* FrmFile::MakeFields() {
     form->addRow(LabelFor(Text3, "File name:"), Text3);
     form->addRow(LabelFor(Text2, "Full path:"), Text2);
     form->addRow(LabelFor(Text4, "Description:"), Text4);
-    Text2->setReadOnly(true);
     return fields;
 }
 
@@ -200,6 +201,7 @@ void FrmFile::File1_Click(const QString& name) {
 }
 
 void FrmFile::Command1_Click() {
+    if (form_.purpose == FilePurpose::Open) KeepUnsaved(program_.project, program_.folder);
     if (!ConfirmFileForm(form_, program_.project, program_.boxes, program_.handOvers)) return;
     program_.lastFolder = form_.folder;
     CloseWindow();

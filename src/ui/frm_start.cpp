@@ -15,6 +15,7 @@ namespace idrova {
 void SetDecimalPoint() {
     QLocale::setDefault(QLocale::c());
     std::setlocale(LC_NUMERIC, "C");
+    std::setlocale(LC_MESSAGES, "C");  // the reasons that the system gives, as all other messages
     qApp->installEventFilter(new KeypadPoint(qApp));
 }
 

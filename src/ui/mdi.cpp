@@ -2,6 +2,7 @@
 #include "ui/mdi.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMdiSubWindow>
@@ -13,6 +14,7 @@
 #include <QUrl>
 
 #include "model/file_form.h"
+#include "model/unsaved_copy.h"
 #include "physdata/fluids.h"
 #include "physdata/pipe_settings.h"
 #include "ui/child_window.h"
@@ -70,9 +72,9 @@ MDI::MDI(Program& program)
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
     LoadStartState(program_);
     AttachCommands(*this);
-    program_.switchFocus = [this] { SwitchFocus(); };
+    program_.switchFocus = [this](bool backwards) { SwitchFocus(backwards); };
     connect(new QShortcut(QKeySequence("F4"), this), &QShortcut::activated, this,
-            [this] { SwitchFocus(); });
+            [this] { SwitchFocus(false); });
     // A maximised child window would put its own caption into the title.
     connect(this, &QWidget::windowTitleChanged, this, [this] { setWindowTitle(title_); });
     PlaceOnScreen();
@@ -112,9 +114,9 @@ void MDI::TakeEdits() {
     if (window != nullptr) window->TakeEdits();
 }
 
-void MDI::SwitchFocus() {
+void MDI::SwitchFocus(bool backwards) {
     const QWidget* holder = QApplication::focusWidget();
-    if (holder != nullptr && !panel_->isAncestorOf(holder)) return panel_->FocusFirst();
+    if (holder != nullptr && !panel_->isAncestorOf(holder)) return panel_->TakeFocus(backwards);
     const QMdiSubWindow* frame = windows_->activeSubWindow();
     if (frame != nullptr) frame->widget()->setFocus(Qt::TabFocusReason);
 }
@@ -137,6 +139,7 @@ void MDI::ShowOutcome() {
 void MDI::OpenFile(const std::filesystem::path& path) {
     FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program_.project);
     ClickFile(form, path.filename().string(), program_.boxes);
+    KeepUnsaved(program_.project, program_.folder);
     ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
     program_.lastFolder = path.parent_path();
 }
@@ -149,6 +152,12 @@ void MDI::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     TakeEdits();
     OpenFile(DraggedProject(*event->mimeData()));
+}
+
+void MDI::closeEvent(QCloseEvent* event) {
+    TakeEdits();
+    KeepUnsaved(program_.project, program_.folder);
+    QMainWindow::closeEvent(event);
 }
 
 void MDI::PlaceOnScreen() {

@@ -42,7 +42,7 @@ class MDI : public QMainWindow {
     void ShowNetwork();
 
     /// Moves the keyboard between the child windows and the command panel.
-    void SwitchFocus();
+    void SwitchFocus(bool backwards);
 
     /// Has the window of the working mode take what is being typed.
     void TakeEdits();
@@ -54,6 +54,7 @@ class MDI : public QMainWindow {
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
   private:
     void PlaceOnScreen();

@@ -11,4 +11,6 @@ constexpr FixedMessage kNoPrinter{
 
 constexpr FixedMessage kPrinterFailed{"The printer did not take the results", "Print"};
 
+constexpr const char* kProjectIsTable = "This project is a table: choose Mode, Table (Ctrl+2)";
+
 }  // namespace idrova

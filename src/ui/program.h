@@ -51,8 +51,9 @@ struct Program {
     /// Shows the names of the pumps and of the losses wherever they can be chosen for insertion.
     /// Every window that changes `components` calls it.
     std::function<void()> showComponents = [] {};
-    /// Moves the keyboard between the child windows and the command panel.
-    std::function<void()> switchFocus = [] {};
+    /// Moves the keyboard between the child windows and the command panel, there to its first
+    /// control or, backwards, to its last.
+    std::function<void(bool backwards)> switchFocus = [](bool) {};
     /// Shows the mode's outcome. Every window that computes calls it.
     std::function<void()> showOutcome = [] {};
 };

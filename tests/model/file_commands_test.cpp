@@ -7,6 +7,8 @@
 #include "model/file_form.h"
 #include "model/messages.h"
 #include "model/project_commands.h"
+#include "model/project_file.h"
+#include "model/unsaved_copy.h"
 #include "sample_project.h"
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
@@ -165,6 +167,24 @@ TEST_F(FileCommands, ANewProjectForgetsItsFile) {
     EXPECT_EQ(State(), "New project|two taps, one pump|clear reread show title:New project");
     EXPECT_EQ(project->numtubo, 0);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), std::nullopt) << "the window is needed";
+}
+
+TEST_F(FileCommands, WhatIsLeftUnsavedIsKept) {
+    const fs::path copy = folder / kUnsavedFile;
+    KeepUnsaved(Project(), folder.Path());
+    EXPECT_FALSE(fs::exists(copy)) << "nothing to lose";
+    KeepUnsaved(*project, folder.Path());
+    const auto again = std::make_unique<Project>();
+    EXPECT_TRUE(ReadProjectText(FileBytes(copy), *again));
+    EXPECT_EQ(again->numtubo, 4);
+    fs::remove(copy);
+    ASSERT_TRUE(Confirm(FilePurpose::Save, "plant"));
+    KeepUnsaved(*project, folder.Path());
+    EXPECT_FALSE(fs::exists(copy)) << "its own file holds the same";
+    project->Pipes[1].Length += 1;
+    KeepUnsaved(*project, folder / "absent");
+    KeepUnsaved(*project, folder.Path());
+    EXPECT_TRUE(fs::exists(copy));
 }
 
 }  // namespace

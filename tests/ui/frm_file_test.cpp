@@ -6,6 +6,7 @@
 #include "drawing_window.h"
 #include "model/messages.h"
 #include "model/project_file.h"
+#include "model/unsaved_copy.h"
 #include "ui/drives.h"
 #include "ui/qt_text.h"
 
@@ -118,6 +119,7 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     ASSERT_NE(Window("FrmFile"), nullptr) << "nothing is chosen yet";
     ClickFile("saved.iv");
     Do("Command1");
+    EXPECT_TRUE(fs::exists(folder / kUnsavedFile)) << "both pipes had not been saved";
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
     EXPECT_EQ(project.ProjectDescription, "to be found again");
     EXPECT_EQ(LinesDrawn(), 1);
