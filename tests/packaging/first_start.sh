@@ -12,19 +12,33 @@ mkdir -p "$account/batch"
 export HOME=$account XDG_DATA_HOME=$account/data QT_QPA_PLATFORM=xcb
 cd "$account"
 
-openbox &
+# The display may not take its first client yet.
+(for ((tries = 0; tries < 50; ++tries)); do
+    openbox && break
+    sleep 0.2
+done) &
 manager=$!
 "$1/bin/idrova" "$sample" &
 program=$!
 trap 'kill "$program" "$manager" 2>/dev/null || true' EXIT
 
 made=$XDG_DATA_HOME/idrova
-window=$(timeout 60 xdotool search --sync --onlyvisible --name 'ring-main\.iv' | head -n 1)
-xdotool windowactivate --sync "$window" key F5
-for ((tenths = 0; tenths < 600; ++tenths)); do
-    [ -s "$made/out.dat" ] && break
-    sleep 0.1
-done
+# press KEY FILE: presses the key in the main window, again every second, until the file is there.
+# A search that meets a window just being closed, as the splash is, fails.
+press() {
+    local window
+    for ((seconds = 0; seconds < 60; ++seconds)); do
+        window=$(xdotool search --onlyvisible --name 'ring-main\.iv' 2>/dev/null | head -n 1) || true
+        [ -z "$window" ] || timeout 5 xdotool windowactivate --sync "$window" key "$1" || true
+        for ((tenths = 0; tenths < 10; ++tenths)); do
+            if [ -s "$2" ]; then return; fi
+            sleep 0.1
+        done
+    done
+    return 1
+}
+
+press F5 "$made/out.dat"
 for database in fluidi pompe percon; do
     cmp "$made/$database.dat" "$1/share/idrova/$database.dat"
 done
@@ -49,10 +63,5 @@ paste -d '\n' <(tail -n +3 "$made/out.dat") <(tail -n +3 batch/out.dat) | awk '
 kill -0 "$program"
 [ -n "${2-}" ] || exit 0
 printf '%s\n' "$2" >"$made/IV.CFG"
-xdotool key F6
-for ((tenths = 0; tenths < 600; ++tenths)); do
-    [ -e "$made/out.dat.in-front" ] && break
-    sleep 0.1
-done
-[ -e "$made/out.dat.in-front" ]
+press F6 "$made/out.dat.in-front"
 kill -0 "$program"

@@ -16,7 +16,7 @@ int main(int argc, char* argv[]) {
     QObject::connect(&look, &QTimer::timeout, &window, [&] {
         if (!window.isMaximized() || !window.isActiveWindow()) return;
         QFile seen(name + ".in-front");
-        if (seen.open(QIODevice::WriteOnly)) QApplication::quit();
+        if (seen.open(QIODevice::WriteOnly) && seen.write("seen") > 0) QApplication::quit();
     });
     look.start(20);
     return QApplication::exec();
