@@ -2,7 +2,6 @@
 #include "model/unsaved_copy.h"
 
 #include <algorithm>
-#include <string>
 
 #include "base/file.h"
 #include "model/project_file.h"
@@ -18,14 +17,24 @@ bool IsEmpty(const Project& project) {
            std::ranges::all_of(project.TableRows, isBlank);
 }
 
+bool Holds(const std::filesystem::path& file, const std::string& text) {
+    const Result<std::string> bytes = ReadWholeFile(file, kLargestProjectFile);
+    return bytes && *bytes == text;
+}
+
 }  // namespace
 
-void KeepUnsaved(const Project& project, const std::filesystem::path& folder) {
-    if (IsEmpty(project)) return;
-    const std::string text = ProjectFileText(project);
-    const Result<std::string> saved = ReadWholeFile(project.ProjectName, kLargestProjectFile);
-    if (saved && *saved == text) return;
-    static_cast<void>(WriteWholeFile(folder / kUnsavedFile, text, OldFile::KeptBeside));
+std::optional<std::string> UnsavedText(const Project& project) {
+    if (IsEmpty(project)) return std::nullopt;
+    std::string text = ProjectFileText(project);
+    if (Holds(project.ProjectName, text)) return std::nullopt;
+    return text;
+}
+
+void KeepUnsaved(const std::optional<std::string>& text, const std::filesystem::path& folder) {
+    const std::filesystem::path copy = folder / kUnsavedFile;
+    if (!text || Holds(copy, *text)) return;
+    static_cast<void>(WriteWholeFile(copy, *text, OldFile::KeptBeside));
 }
 
 }  // namespace idrova

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "model/project.h"
@@ -12,9 +14,12 @@ namespace idrova {
 /// before it is kept beside it as "unsaved.iv~".
 constexpr std::string_view kUnsavedFile = "unsaved.iv";
 
-/// To be called before a project is left, which no question stops: writes the copy, unless the
-/// project holds neither pipes nor table rows or its own file holds the same. A folder that cannot
-/// be written gets none, untold: leaving is not to be held up.
-void KeepUnsaved(const Project& project, const std::filesystem::path& folder);
+/// The text of a project that is about to be left; nothing when it holds neither pipes nor table
+/// rows, or when its own file holds the same.
+std::optional<std::string> UnsavedText(const Project& project);
+
+/// Writes the copy once the project has been left, so that the copy before it can be what is
+/// opened. A folder that cannot be written gets none, untold: leaving is not to be held up.
+void KeepUnsaved(const std::optional<std::string>& text, const std::filesystem::path& folder);
 
 }  // namespace idrova

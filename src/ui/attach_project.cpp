@@ -68,10 +68,11 @@ void TakeNetwork(MDI& mdi) {
 /// A new project keeps the rows of the table, so its texts and its edits stay as well.
 void New(MDI& mdi) {
     Program& program = mdi.State();
-    KeepUnsaved(program.project, program.folder);
+    const auto unsaved = UnsavedText(program.project);
     HandOvers steps = program.handOvers;
     steps.ShowNetwork = [&mdi] { TakeDrawing(mdi); };
-    NewProject(program.project, program.boxes, steps);
+    if (!NewProject(program.project, program.boxes, steps)) return;
+    KeepUnsaved(unsaved, program.folder);
 }
 
 void AttachHandOvers(MDI& mdi) {

@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace idrova {

@@ -201,8 +201,9 @@ void FrmFile::File1_Click(const QString& name) {
 }
 
 void FrmFile::Command1_Click() {
-    if (form_.purpose == FilePurpose::Open) KeepUnsaved(program_.project, program_.folder);
+    const auto unsaved = UnsavedText(program_.project);
     if (!ConfirmFileForm(form_, program_.project, program_.boxes, program_.handOvers)) return;
+    if (form_.purpose == FilePurpose::Open) KeepUnsaved(unsaved, program_.folder);
     program_.lastFolder = form_.folder;
     CloseWindow();
 }

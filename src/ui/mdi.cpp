@@ -139,8 +139,9 @@ void MDI::ShowOutcome() {
 void MDI::OpenFile(const std::filesystem::path& path) {
     FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program_.project);
     ClickFile(form, path.filename().string(), program_.boxes);
-    KeepUnsaved(program_.project, program_.folder);
-    ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
+    const auto unsaved = UnsavedText(program_.project);
+    const bool left = ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
+    if (left) KeepUnsaved(unsaved, program_.folder);
     program_.lastFolder = path.parent_path();
 }
 
@@ -156,7 +157,7 @@ void MDI::dropEvent(QDropEvent* event) {
 
 void MDI::closeEvent(QCloseEvent* event) {
     TakeEdits();
-    KeepUnsaved(program_.project, program_.folder);
+    KeepUnsaved(UnsavedText(program_.project), program_.folder);
     QMainWindow::closeEvent(event);
 }
 

@@ -171,20 +171,20 @@ TEST_F(FileCommands, ANewProjectForgetsItsFile) {
 
 TEST_F(FileCommands, WhatIsLeftUnsavedIsKept) {
     const fs::path copy = folder / kUnsavedFile;
-    KeepUnsaved(Project(), folder.Path());
-    EXPECT_FALSE(fs::exists(copy)) << "nothing to lose";
-    KeepUnsaved(*project, folder.Path());
+    EXPECT_EQ(UnsavedText(*std::make_unique<Project>()), std::nullopt) << "nothing to lose";
+    const auto first = UnsavedText(*project);
+    KeepUnsaved(first, folder / "absent");
+    KeepUnsaved(first, folder.Path());
     const auto again = std::make_unique<Project>();
     EXPECT_TRUE(ReadProjectText(FileBytes(copy), *again));
     EXPECT_EQ(again->numtubo, 4);
-    fs::remove(copy);
     ASSERT_TRUE(Confirm(FilePurpose::Save, "plant"));
-    KeepUnsaved(*project, folder.Path());
-    EXPECT_FALSE(fs::exists(copy)) << "its own file holds the same";
+    EXPECT_EQ(UnsavedText(*project), std::nullopt) << "its own file holds the same";
     project->Pipes[1].Length += 1;
-    KeepUnsaved(*project, folder / "absent");
-    KeepUnsaved(*project, folder.Path());
-    EXPECT_TRUE(fs::exists(copy));
+    const auto second = UnsavedText(*project);
+    for (int times = 0; times < 2; ++times) KeepUnsaved(second, folder.Path());
+    EXPECT_EQ(FileBytes(copy), second);
+    EXPECT_EQ(FileBytes(copy.string() + "~"), first) << "the same again leaves the one before";
 }
 
 }  // namespace

@@ -119,11 +119,17 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     ASSERT_NE(Window("FrmFile"), nullptr) << "nothing is chosen yet";
     ClickFile("saved.iv");
     Do("Command1");
-    EXPECT_TRUE(fs::exists(folder / kUnsavedFile)) << "both pipes had not been saved";
+    const std::string unsaved = FileBytes(folder / kUnsavedFile);
+    EXPECT_NE(unsaved, "") << "both pipes had not been saved";
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
     EXPECT_EQ(project.ProjectDescription, "to be found again");
     EXPECT_EQ(LinesDrawn(), 1);
     EXPECT_EQ(Shown("Frame3 Text6") + Enabled("Frame3"), "Pipe|");
+    project.Pipes[1].Length = 77;
+    mdi->OpenFile(folder / kUnsavedFile);
+    EXPECT_EQ(LinesDrawn(), 2) << "not what was open just now";
+    EXPECT_EQ(FileBytes(folder / "unsaved.iv~"), unsaved);
+    mdi->OpenFile(folder / "saved.iv");
 
     Open("Apri", "FrmFile");
     Child<QWidget>("Command2").setFocus();
