@@ -10,13 +10,13 @@
 #include <memory>
 
 #include "editor/cell_click.h"
-#include "editor/invariants.h"
 #include "model/grid.h"
-#include "model/project_file.h"
+#include "projectfile/project_file.h"
+#include "support/drawing_invariants.h"
 #include "support/temp_folder.h"
-#include "ui/child_window.h"
-#include "ui/child_windows.h"
-#include "ui/mdi.h"
+#include "ui/frame/mdi.h"
+#include "ui/kit/child_window.h"
+#include "ui/kit/child_windows.h"
 #include "ui/program.h"
 
 namespace idrova {

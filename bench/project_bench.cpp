@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <benchmark/benchmark.h>
 
-#include "model/project_file.h"
+#include "projectfile/project_file.h"
 #include "support/networks.h"
 #include "support/temp_folder.h"
 

@@ -33,12 +33,24 @@ if(IDROVA_FUZZ)
     target_compile_options(idrova_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# idrova_library(<folder> [<library it may use>...]): one library for one folder of src.
+# Notes what a folder of src may use besides itself.
+function(idrova_arrows folder)
+    list(JOIN ARGN " " used)
+    set_property(GLOBAL APPEND PROPERTY idrova_arrows "${folder}: ${used}")
+endfunction()
+
+# idrova_library(<folder> [<folder it may use>...]): one library for one folder of src.
 function(idrova_library folder)
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
-    if(NOT sources)
-        return()
-    endif()
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
     add_library(${folder} STATIC ${sources})
     target_link_libraries(${folder} PUBLIC idrova_flags ${ARGN})
+    idrova_arrows(${folder} ${ARGN})
+endfunction()
+
+# idrova_program(<program> <folder> [<folder it may use>...])
+function(idrova_program program folder)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${folder}/*.cpp)
+    add_executable(${program} ${sources})
+    target_link_libraries(${program} PRIVATE idrova_flags ${ARGN})
+    idrova_arrows(${folder} ${ARGN})
 endfunction()

@@ -3,7 +3,7 @@
 #include <iostream>
 
 #include "base/file.h"
-#include "model/project_file.h"
+#include "projectfile/project_file.h"
 #include "sample_drawing.h"
 #include "table/table_edit.h"
 

@@ -24,15 +24,15 @@
 
 #include "hydraulics/compute_network.h"
 #include "model/grid.h"
-#include "ui/child_window.h"
-#include "ui/child_windows.h"
-#include "ui/frm_com.h"
-#include "ui/frm_start.h"
-#include "ui/logo_picture.h"
-#include "ui/mdi.h"
-#include "ui/plant_view.h"
+#include "ui/drawing/plant_view.h"
+#include "ui/frame/mdi.h"
+#include "ui/kit/child_window.h"
+#include "ui/kit/child_windows.h"
+#include "ui/kit/logo_picture.h"
+#include "ui/kit/qt_text.h"
+#include "ui/panel/frm_com.h"
 #include "ui/program.h"
-#include "ui/qt_text.h"
+#include "ui/windows/frm_start.h"
 
 namespace idrova {
 namespace {

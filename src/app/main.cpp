@@ -10,12 +10,12 @@
 
 #include "model/settings.h"
 #include "shell/start_up.h"
-#include "ui/frm_start.h"
-#include "ui/logo_picture.h"
-#include "ui/mdi.h"
+#include "ui/frame/mdi.h"
+#include "ui/kit/logo_picture.h"
+#include "ui/kit/qt_message_boxes.h"
+#include "ui/kit/qt_text.h"
 #include "ui/program.h"
-#include "ui/qt_message_boxes.h"
-#include "ui/qt_text.h"
+#include "ui/windows/frm_start.h"
 
 namespace {
 

@@ -7,7 +7,6 @@
 
 #include "base/number_text.h"
 #include "model/grid.h"
-#include "model/project_keys.h"
 
 namespace idrova {
 namespace {

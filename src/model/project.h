@@ -89,6 +89,17 @@ struct TableRowRec {
     bool operator==(const TableRowRec&) const = default;
 };
 
+/// A column of the table in which a typed zero differs from an empty cell.
+struct GivenColumn {
+    int column;
+    float TableRowRec::*value;
+    bool TableRowRec::*given;
+};
+constexpr std::array<GivenColumn, 3> kGivenColumns = {
+    {{2, &TableRowRec::StartPressure, &TableRowRec::P1Given},
+     {4, &TableRowRec::EndPressure, &TableRowRec::P2Given},
+     {8, &TableRowRec::RowFlowRate, &TableRowRec::FlowGiven}}};
+
 /// Place and scale of the drawing grid in screen units, 15 to a pixel.
 struct GridGeometry {
     int GridLeft = 500, GridTop = 500;

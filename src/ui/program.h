@@ -17,7 +17,7 @@
 #include "shell/shell_state.h"
 #include "table/table_columns.h"
 #include "table/table_texts.h"
-#include "ui/table_model.h"
+#include "ui/table/table_model.h"
 
 namespace idrova {
 

@@ -9,10 +9,10 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
-#include "editor/invariants.h"
-#include "model/project_file.h"
 #include "physdata/fluids.h"
 #include "physdata/pumps.h"
+#include "projectfile/project_file.h"
+#include "support/drawing_invariants.h"
 #include "support/networks.h"
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"

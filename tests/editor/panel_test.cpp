@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
-#include "model/project_file.h"
 #include "plant.h"
+#include "projectfile/project_file.h"
 
 namespace idrova {
 namespace {

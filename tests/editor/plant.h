@@ -12,9 +12,9 @@
 #include "editor/component_insertion.h"
 #include "editor/deletion.h"
 #include "editor/grid_view.h"
-#include "editor/invariants.h"
 #include "editor/panel_edits.h"
 #include "model/grid.h"
+#include "support/drawing_invariants.h"
 #include "support/scripted_boxes.h"
 
 namespace idrova {

@@ -8,8 +8,8 @@
 #include <set>
 
 #include "hydraulics/compute_network.h"
-#include "model/project_file.h"
 #include "plant.h"
+#include "projectfile/project_file.h"
 #include "support/temp_folder.h"
 
 namespace idrova {

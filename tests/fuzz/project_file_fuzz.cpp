@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "model/invariants.h"
-#include "model/project_file.h"
+#include "projectfile/project_file.h"
 
 namespace idrova {
 namespace {

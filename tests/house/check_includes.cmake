@@ -1,20 +1,22 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# cmake -DSOURCES=<src folder> -P check_includes.cmake
+# cmake -DSOURCES=<src folder> -DARROWS=<file> -P check_includes.cmake
 # The linker sees a wrong arrow between two folders only when a function is called. This script
 # sees every include, and keeps the toolkit and the machine's locale out of the logic.
 cmake_minimum_required(VERSION 3.25)
 
-set(base_uses base)
-set(model_uses ${base_uses} model)
-set(physdata_uses ${model_uses} physdata)
-set(hydraulics_uses ${physdata_uses} hydraulics)
-set(results_uses ${hydraulics_uses} results)
-set(editor_uses ${hydraulics_uses} editor)
-set(table_uses ${hydraulics_uses} table)
-set(calc_uses ${results_uses} table calc)
-set(shell_uses ${results_uses} editor table shell)
-set(ui_uses ${shell_uses} ui)
-set(app_uses ${ui_uses} app)
+# A line of the file of arrows: a folder, a colon, the folders that it may use besides what those use.
+file(STRINGS ${ARROWS} arrows)
+foreach(arrow IN LISTS arrows)
+    string(REGEX MATCH "^([a-z]+): *(.*)$" matched "${arrow}")
+    set(folder ${CMAKE_MATCH_1})
+    string(REPLACE " " ";" ${folder}_names "${CMAKE_MATCH_2}")
+    set(${folder}_uses ${folder})
+    foreach(named IN LISTS ${folder}_names)
+        list(APPEND ${folder}_uses ${named} ${${named}_uses})
+    endforeach()
+    list(APPEND folders ${folder})
+endforeach()
+
 set(knows_toolkit ui app)
 set(locale_functions "(^|[^A-Za-z_])(v?[sf]?n?printf|[sf]?scanf|strto(d|f|ld)|atof|sto(d|f|ld)) *\\(")
 
@@ -37,6 +39,7 @@ foreach(file IN LISTS files)
     file(STRINGS ${SOURCES}/${file} includes REGEX "^ *#include \"")
     foreach(include IN LISTS includes)
         string(REGEX REPLACE "^ *#include \"([^/\"]*).*" "\\1" used ${include})
+        list(APPEND ${folder}_used ${used})
         if(NOT used IN_LIST ${folder}_uses)
             fault(${file} "${folder} must not use ${used}")
         endif()
@@ -51,6 +54,14 @@ foreach(file IN LISTS files)
     if(NOT calls STREQUAL "")
         fault(${file} "numbers are read and written by base/number_text only: ${calls}")
     endif()
+endforeach()
+
+foreach(folder IN LISTS folders)
+    foreach(named IN LISTS ${folder}_names)
+        if(NOT named IN_LIST ${folder}_used)
+            fault(${folder} "nothing in it uses ${named}")
+        endif()
+    endforeach()
 endforeach()
 
 if(faults)

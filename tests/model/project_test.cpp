@@ -8,7 +8,7 @@
 
 #include "model/invariants.h"
 #include "model/pipe_sizes.h"
-#include "sample_project.h"
+#include "support/sample_project.h"
 
 namespace idrova {
 namespace {

@@ -8,7 +8,7 @@
 #include "main_window.h"
 #include "model/grid.h"
 #include "physdata/record_db.h"
-#include "ui/frm_com.h"
+#include "ui/panel/frm_com.h"
 
 namespace idrova {
 

@@ -5,7 +5,7 @@
 
 #include "drawing_window.h"
 #include "editor/messages.h"
-#include "model/messages.h"
+#include "projectfile/messages.h"
 
 namespace idrova {
 namespace {

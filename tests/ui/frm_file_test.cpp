@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/frm_file.h"
+#include "ui/windows/frm_file.h"
 
 #include <QListWidget>
 
 #include "drawing_window.h"
-#include "model/messages.h"
-#include "model/project_file.h"
-#include "model/unsaved_copy.h"
-#include "ui/drives.h"
-#include "ui/qt_text.h"
+#include "projectfile/messages.h"
+#include "projectfile/project_file.h"
+#include "projectfile/unsaved_copy.h"
+#include "ui/kit/drives.h"
+#include "ui/kit/qt_text.h"
 
 namespace idrova {
 namespace {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/frm_sin.h"
+#include "ui/windows/frm_sin.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/frm_table.h"
+#include "ui/table/frm_table.h"
 
 #include <QAbstractItemModelTester>
 #include <QClipboard>
@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "main_window.h"
-#include "model/messages.h"
-#include "model/project_file.h"
+#include "projectfile/messages.h"
+#include "projectfile/project_file.h"
 #include "table/table_columns.h"
 
 namespace idrova {

@@ -19,9 +19,9 @@
 
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
-#include "ui/child_window.h"
-#include "ui/child_windows.h"
-#include "ui/mdi.h"
+#include "ui/frame/mdi.h"
+#include "ui/kit/child_window.h"
+#include "ui/kit/child_windows.h"
 #include "ui/program.h"
 
 namespace idrova {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ui/mdi.h"
+#include "ui/frame/mdi.h"
 
 #include <QDockWidget>
 #include <QDropEvent>
@@ -13,12 +13,12 @@
 
 #include "hydraulics/messages.h"
 #include "main_window.h"
-#include "model/messages.h"
+#include "projectfile/messages.h"
 #include "shell/menu_table.h"
 #include "shell/messages.h"
-#include "ui/frm_com.h"
-#include "ui/frm_help.h"
-#include "ui/qt_text.h"
+#include "ui/kit/qt_text.h"
+#include "ui/panel/frm_com.h"
+#include "ui/windows/frm_help.h"
 
 namespace idrova {
 namespace {

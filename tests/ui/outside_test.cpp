@@ -10,12 +10,12 @@
 
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
-#include "ui/frm_start.h"
-#include "ui/messages.h"
-#include "ui/print_text.h"
-#include "ui/qt_message_boxes.h"
-#include "ui/qt_text.h"
-#include "ui/start_program.h"
+#include "ui/frame/messages.h"
+#include "ui/kit/print_text.h"
+#include "ui/kit/qt_message_boxes.h"
+#include "ui/kit/qt_text.h"
+#include "ui/kit/start_program.h"
+#include "ui/windows/frm_start.h"
 
 namespace idrova {
 namespace {

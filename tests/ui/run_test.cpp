@@ -4,11 +4,11 @@
 
 #include "drawing_window.h"
 #include "hydraulics/messages.h"
-#include "model/messages.h"
+#include "projectfile/messages.h"
 #include "results/messages.h"
 #include "table/messages.h"
 #include "table/table_edit.h"
-#include "ui/frm_ava.h"
+#include "ui/windows/frm_ava.h"
 
 namespace idrova {
 namespace {

@@ -5,7 +5,7 @@
 #include <QStandardPaths>
 
 #include "support/asked_locale.h"
-#include "ui/frm_start.h"
+#include "ui/windows/frm_start.h"
 
 #ifdef __SANITIZE_ADDRESS__
 /// On a display, Qt asks the message bus, whose library keeps what it allocated.

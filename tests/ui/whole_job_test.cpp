@@ -6,9 +6,9 @@
 
 #include "base/number_text.h"
 #include "drawing_window.h"
-#include "model/project_file.h"
 #include "physdata/fluids.h"
-#include "ui/qt_text.h"
+#include "projectfile/project_file.h"
+#include "ui/kit/qt_text.h"
 
 namespace idrova {
 namespace {

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frame/status_line.h"
+
+#include <QLabel>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolButton>
+
+#include "shell/outcome_notes.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/qt_text.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr const char* kNotSettledStyle =
+    "QToolButton { background-color: #b3261e; color: white; font-weight: bold; padding: 2px 6px; }";
+
+QString ModeText(WorkMode mode) {
+    switch (mode) {
+        case WorkMode::Table:
+            return "Table";
+        case WorkMode::SinglePipe:
+            return "Single pipe";
+        case WorkMode::Graphic:
+            break;
+    }
+    return "Graphic";
+}
+
+QString FluidText(const Settings& settings) {
+    if (!settings.FluidName.empty()) return "Fluid: " + ToQt(settings.FluidName);
+    return settings.FluidDensity > 0 ? "Fluid without a name" : "No fluid";
+}
+
+}  // namespace
+
+StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
+    : boxes_(boxes),
+      mode_(Named(new QLabel, "StatusMode")),
+      fluid_(Named(new QLabel, "StatusFluid")),
+      outcomeButton_(Named(new QToolButton, "StatusOutcome")) {
+    fluid_->setTextFormat(Qt::PlainText);
+    for (QLabel* label : {fluid_, mode_}) label->setContentsMargins(8, 0, 8, 0);
+    outcomeButton_->setAutoRaise(true);
+    outcomeButton_->setToolTip("Show all notes on the last computation");
+    outcomeButton_->hide();
+    QObject::connect(outcomeButton_, &QToolButton::clicked, outcomeButton_,
+                     [this] { ShowNotes(); });
+    bar.addPermanentWidget(outcomeButton_);
+    bar.addPermanentWidget(fluid_);
+    bar.addPermanentWidget(mode_);
+}
+
+void StatusLine::ShowSettings(const Settings& settings) {
+    mode_->setText("Mode: " + ModeText(settings.Mode));
+    fluid_->setText(FluidText(settings));
+}
+
+void StatusLine::ShowOutcome(const Outcome& outcome) {
+    outcome_ = outcome;
+    outcomeButton_->setText(ToQt(OutcomeLine(outcome)));
+    outcomeButton_->setStyleSheet(IsTrustworthy(outcome.end) ? "" : kNotSettledStyle);
+    outcomeButton_->setVisible(!outcomeButton_->text().isEmpty());
+}
+
+void StatusLine::HideOutcome() {
+    outcomeButton_->hide();
+}
+
+void StatusLine::ShowNotes() {
+    boxes_.Show(OutcomeNotes(outcome_));
+}
+
+}  // namespace idrova

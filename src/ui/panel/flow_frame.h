@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGroupBox>
+
+#include "ui/panel/panel_parts.h"
+
+namespace idrova {
+
+/// `Frame7` of the command panel: the flow rate of the selected pipe, given or computed.
+class FlowFrame : public QGroupBox {
+  public:
+    explicit FlowFrame(PanelContext& context);
+
+    void Show();
+
+  private:
+    void Text13_Change(std::string_view text);
+
+    PanelContext& context_;
+    KnownChoice* Option6;
+    NumberBox* Text12;
+    NumberBox* Text13;
+    NumberBox* Text2;
+    NumberBox* Text3;
+};
+
+}  // namespace idrova

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/panel/frm_com.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFormLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QVBoxLayout>
+
+#include "editor/component_insertion.h"
+#include "editor/deletion.h"
+#include "editor/messages.h"
+#include "physdata/fluids.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/form_parts.h"
+#include "ui/kit/qt_text.h"
+#include "ui/panel/components_frame.h"
+#include "ui/panel/directions_frame.h"
+#include "ui/panel/pipe_frame.h"
+#include "ui/panel/pressures_frame.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+QLabel* SettingLabel(const char* name) {
+    QLabel* label = Named(PlainLabel({}), name);
+    label->setWordWrap(true);
+    return label;
+}
+
+}  // namespace
+
+FrmCom::FrmCom(Program& program, QWidget* parent)
+    : QDockWidget("Idrova - Commands", parent),
+      program_(program),
+      context_{program, {}, [this] { ShowFrames(); }, [this] { redraw(); }},
+      Frame3(new PipeFrame(context_)),
+      Frame4(new PressuresFrame(context_)),
+      Frame8(new DirectionsFrame(context_)),
+      Frame6(new ComponentsFrame(context_)) {
+    Named(this, "FrmCom");
+    setAllowedAreas(Qt::RightDockWidgetArea | Qt::LeftDockWidgetArea);
+    setFeatures(DockWidgetMovable);
+    auto* content = new QWidget;
+    auto* column = new QVBoxLayout(content);
+    AddSettings(*column);
+    AddFrames(*column);
+    column->addStretch(1);
+    auto* scroller = new QScrollArea;
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setFocusPolicy(Qt::NoFocus);  // it would show nothing of having the keyboard
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setWidget(content);
+    scroller->setMinimumWidth(content->minimumSizeHint().width() + 20);
+    auto* panel = new QWidget;
+    auto* rows = new QVBoxLayout(panel);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addWidget(scroller, 1);
+    // On a low screen the frames scroll, while the buttons stay in sight.
+    auto* buttons = new QVBoxLayout;
+    buttons->setContentsMargins(9, 0, 9, 9);
+    AddButtons(*buttons);
+    rows->addLayout(buttons);
+    setWidget(panel);
+}
+
+void FrmCom::AddSettings(QVBoxLayout& column) {
+    fluidName_ = SettingLabel("FluidName");
+    fluidProperties_ = SettingLabel("FluidProperties");
+    roughness_ = SettingLabel("RoughnessLabel");
+    auto* form = new QFormLayout;
+    form->addRow("Fluid:", fluidName_);
+    form->addRow("", fluidProperties_);
+    form->addRow("Roughness [m]:", roughness_);
+    column.addLayout(form);
+}
+
+void FrmCom::AddFrames(QVBoxLayout& column) {
+    column.addWidget(Frame3);
+    column.addWidget(Frame4);
+    column.addWidget(Frame8);
+    column.addWidget(Frame6);
+}
+
+void FrmCom::AddButtons(QVBoxLayout& column) {
+    Command9 =
+        CommandButton("Command9", "Delete pipes and components", [this] { Command9_Click(); });
+    Command4 = CommandButton("Command4", "Show/hidden data", [this] { Command4_Click(); });
+    Command1 = CommandButton("Command1", "Calculate by graphic", [this] { calculate(); });
+    Command1->setShortcut(QKeySequence("F5"));
+    Command1->setStatusTip("Compute the network of the drawing or of the table (F5)");
+    for (QPushButton* button : {Command9, Command4, Command1}) column.addWidget(button);
+    Slider1 = Named(new QSlider(Qt::Horizontal), "Slider1");
+    Slider1->setRange(150, 450);
+    Slider1->setValue(program_.project.Grid.CellWidth);
+    Slider1->setTracking(false);
+    connect(Slider1, &QSlider::valueChanged, this, [this] { Slider1_Change(); });
+    auto* form = new QFormLayout;
+    form->addRow(LabelFor(Slider1, "Grid dimension"), Slider1);
+    column.addLayout(form);
+}
+
+void FrmCom::ShowSettings() {
+    fluidName_->setText(ToQt(program_.project.FluidName));
+    fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project)));
+    roughness_->setText(ToQt(program_.roughnessLabel));
+    context_.panel = ShowPipeData(program_.project);
+    ShowFrames();
+    Frame6->Show();
+    ShowEnabling();
+}
+
+void FrmCom::TakeFocus(bool backwards) {
+    const auto step = [backwards](const QWidget* from) {
+        return backwards ? from->previousInFocusChain() : from->nextInFocusChain();
+    };
+    for (QWidget* next = step(this); next != this; next = step(next)) {
+        const bool takes = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled();
+        if (takes && next->isVisible() && isAncestorOf(next)) {
+            return next->setFocus(backwards ? Qt::BacktabFocusReason : Qt::TabFocusReason);
+        }
+    }
+}
+
+void FrmCom::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
+    if (!isReturn || button == nullptr) return QDockWidget::keyPressEvent(event);
+    button->click();
+}
+
+void FrmCom::ShowFrames() {
+    Frame3->Show();
+    Frame4->Show();
+    Frame8->Show();
+}
+
+void FrmCom::ShowEnabling() {
+    const ModeView view = ViewOf(program_.project.Mode);
+    const bool frames = view.drawingTools && program_.editor.framesEnabled;
+    for (QGroupBox* frame : {static_cast<QGroupBox*>(Frame3), static_cast<QGroupBox*>(Frame4),
+                             static_cast<QGroupBox*>(Frame8)}) {
+        frame->setEnabled(frames && context_.panel.pipe != 0);
+    }
+    Frame6->setEnabled(frames);
+    Command4->setEnabled(view.drawingTools);
+    Command9->setEnabled(view.drawingTools);
+    Command1->setEnabled(view.calculate);
+}
+
+void FrmCom::Command4_Click() {
+    program_.editor.DataShown = !program_.editor.DataShown;
+    redraw();
+}
+
+void FrmCom::Command9_Click() {
+    DeleteSelected(program_.project, program_.editor, program_.boxes);
+    redraw();
+    program_.showSettings();
+}
+
+void FrmCom::Slider1_Change() {
+    const QSignalBlocker silent(Slider1);
+    Slider1->setValue(program_.project.Grid.CellWidth);
+    program_.boxes.Show(kFixedGridDimension);
+}
+
+void FrmCom::closeEvent(QCloseEvent* event) {
+    event->ignore();
+}
+
+}  // namespace idrova

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDockWidget>
+#include <functional>
+
+#include "ui/panel/panel_parts.h"
+
+class QLabel;
+class QPushButton;
+class QSlider;
+class QVBoxLayout;
+
+namespace idrova {
+
+class ComponentsFrame;
+class DirectionsFrame;
+class PipeFrame;
+class PressuresFrame;
+struct Program;
+
+/// The command panel beside the drawing: the settings in use, the frames that edit the selected
+/// pipe, and the buttons. Stays open in every mode.
+class FrmCom : public QDockWidget {
+  public:
+    FrmCom(Program& program, QWidget* parent);
+
+    /// Everything that the panel shows, as settings, project and editor now stand.
+    void ShowSettings();
+
+    /// Gives the keyboard to the first control that takes it or, backwards, to the last.
+    void TakeFocus(bool backwards);
+
+    /// "Calculate by graphic" was pressed.
+    std::function<void()> calculate = [] {};
+    /// The drawing has to be shown anew.
+    std::function<void()> redraw = [] {};
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    /// Outside dialogs a button ignores Return.
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void AddSettings(QVBoxLayout& column);
+    void AddFrames(QVBoxLayout& column);
+    void AddButtons(QVBoxLayout& column);
+    void ShowFrames();
+    void ShowEnabling();
+    void Command4_Click();
+    void Command9_Click();
+    void Slider1_Change();
+
+    Program& program_;
+    PanelContext context_;
+    QLabel* fluidName_ = nullptr;
+    QLabel* fluidProperties_ = nullptr;
+    QLabel* roughness_ = nullptr;
+    PipeFrame* Frame3;
+    PressuresFrame* Frame4;
+    DirectionsFrame* Frame8;
+    ComponentsFrame* Frame6;
+    QPushButton* Command1 = nullptr;
+    QPushButton* Command4 = nullptr;
+    QPushButton* Command9 = nullptr;
+    QSlider* Slider1 = nullptr;
+};
+
+}  // namespace idrova

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/panel/panel_parts.h"
+
+#include <QHBoxLayout>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+#include "ui/kit/controls.h"
+#include "ui/kit/qt_text.h"
+
+namespace idrova {
+
+NumberBox::NumberBox(const char* name, const std::function<void(std::string_view)>& typed) {
+    Named(this, name);
+    connect(this, &QLineEdit::textChanged, this,
+            [typed](const QString& text) { typed(FromQt(text)); });
+}
+
+void NumberBox::Show(const std::string& text) {
+    const QString shown = ToQt(text);
+    if (shown == QLineEdit::text()) return;
+    const QSignalBlocker silent(this);
+    setText(shown);
+}
+
+void NumberBox::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    // A press that gives the focus goes on to place the cursor.
+    QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
+}
+
+NumberBox* ResultBox(const char* name) {
+    auto* box = new NumberBox(name, [](std::string_view) {});
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::ClickFocus);
+    QPalette colours = box->palette();
+    colours.setBrush(QPalette::Base, colours.window());
+    box->setPalette(colours);
+    return box;
+}
+
+KnownChoice::KnownChoice(const char* name, const std::function<void(bool)>& chosen)
+    : unknown_(new QRadioButton("Unknown", this)), known_(new QRadioButton("Value known", this)) {
+    unknown_->setObjectName(QString(name) + "_0");
+    known_->setObjectName(QString(name) + "_1");
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(unknown_);
+    row->addWidget(known_);
+    row->addStretch(1);
+    connect(known_, &QRadioButton::toggled, this, chosen);
+}
+
+void KnownChoice::Show(bool known) {
+    const QSignalBlocker silent(known_);
+    (known ? known_ : unknown_)->setChecked(true);
+}
+
+}  // namespace idrova

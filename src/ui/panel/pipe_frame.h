@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QGroupBox>
+
+#include "editor/panel_edits.h"
+#include "ui/panel/panel_parts.h"
+
+class QComboBox;
+class QLabel;
+
+namespace idrova {
+
+class FlowFrame;
+
+/// `Frame3` of the command panel: flow rate, length, section and heights of the selected pipe.
+class PipeFrame : public QGroupBox {
+  public:
+    explicit PipeFrame(PanelContext& context);
+
+    /// Circular: nominal size and diameter. Rectangular: the sides a and b.
+    void Show();
+
+  private:
+    using Edit = void (*)(Project&, PipePanel&, std::string_view);
+    NumberBox* EditBox(const char* name, Edit edit);
+    NumberBox* HeightBox(const char* name, PipeEnd end);
+    void ShowSection();
+
+    PanelContext& context_;
+    FlowFrame* Frame7;
+    NumberBox* Text6;
+    QComboBox* Combo2;
+    NumberBox* Text7;
+    NumberBox* Text8;
+    NumberBox* Text5;
+    NumberBox* Text11;
+    QLabel* nominalLabel_;
+    QLabel* firstSideLabel_;
+    QLabel* secondSideLabel_;
+    QLabel* startHeightLabel_;
+    QLabel* endHeightLabel_;
+};
+
+}  // namespace idrova

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/kit/child_window.h"
+
+namespace idrova {
+
+class TableModel;
+class TableView;
+struct Program;
+
+/// The table: one row a pipe, typed in.
+class FrmTable : public ChildWindow {
+  public:
+    explicit FrmTable(Program& program);
+
+    void ShowNetwork() override;
+    void TakeEdits() override;
+
+  private:
+    TableModel& model_;
+    TableView* TxtTab;
+};
+
+}  // namespace idrova

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/table/table_model.h"
+
+#include <QColor>
+#include <QUndoCommand>
+#include <utility>
+
+#include "table/table_edit.h"
+#include "ui/kit/qt_text.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr int kUndoLimit = 200;  ///< of about 45 KB each
+
+/// All that an edit can change.
+struct TableState {
+    decltype(Project::TableRows) rows;
+    TableTexts texts;
+};
+
+QString HeaderTip(const Program& program, int section) {
+    QString header = ToQt(kTableColumnList[section].header);
+    const bool isPressure =
+        section == table_column::kStartPressure || section == table_column::kEndPressure;
+    if (!isPressure) return header;
+    return header + (program.project.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
+}
+
+}  // namespace
+
+/// An edit that was made: holds the table as it was before, and once undone as it was after.
+class TableModel::Change : public QUndoCommand {
+  public:
+    Change(TableModel& model, const QString& name, TableState before)
+        : QUndoCommand(name), model_(model), other_(std::move(before)) {}
+
+    void undo() override { Swap(); }
+    void redo() override {
+        if (std::exchange(made_, true)) Swap();
+    }
+
+  private:
+    void Swap() {
+        std::swap(model_.program_.project.TableRows, other_.rows);
+        std::swap(model_.program_.table, other_.texts);
+        model_.Announce();
+    }
+
+    TableModel& model_;
+    TableState other_;
+    bool made_ = false;
+};
+
+TableModel::TableModel(Program& program) : program_(program) {
+    undo_.setUndoLimit(kUndoLimit);
+}
+
+int TableModel::RowOf(const QModelIndex& index) {
+    return index.row() + kFirstTableRow;
+}
+
+int TableModel::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : kMaxTableRows;
+}
+
+int TableModel::columnCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : kTableColumns;
+}
+
+QVariant TableModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
+    const int row = RowOf(index);
+    switch (role) {
+        case Qt::DisplayRole:
+        case Qt::EditRole:
+            return ToQt(program_.table.At(row, index.column()));
+        case Qt::BackgroundRole:
+            if (!program_.table.IsPainted(row, index.column())) return {};
+            return QColor(QRgb{kToComputeColour});
+        case Qt::TextAlignmentRole:
+            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+        default:
+            return {};
+    }
+}
+
+QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
+    if (orientation == Qt::Vertical) {
+        return role == Qt::DisplayRole ? index(section, table_column::kNumber).data() : QVariant();
+    }
+    if (section < 0 || section >= kTableColumns) return {};
+    if (role == Qt::DisplayRole) return ToQt(kTableColumnList[section].header);
+    if (role == Qt::ToolTipRole) return HeaderTip(program_, section);
+    return {};
+}
+
+Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
+    const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+    return index.isValid() && index.column() != table_column::kNumber ? flags | Qt::ItemIsEditable
+                                                                      : flags;
+}
+
+bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) return false;
+    Apply("cell", [&] {
+        ChangeCell(program_.project, program_.table, RowOf(index), index.column(),
+                   FromQt(value.toString()));
+    });
+    return true;
+}
+
+void TableModel::ChooseSize(const QModelIndex& cell, int position) {
+    Apply("diameter",
+          [&] { ChooseNominalSize(program_.project, program_.table, RowOf(cell), position + 1); });
+}
+
+std::string TableModel::Copy(const TableBlock& block) const {
+    return CopyBlock(program_.table, block);
+}
+
+void TableModel::Paste(const QModelIndex& from, const std::string& text) {
+    Apply("paste",
+          [&] { PasteBlock(program_.project, program_.table, RowOf(from), from.column(), text); });
+}
+
+void TableModel::Clear(const TableBlock& block) {
+    Apply("delete", [&] { ClearBlock(program_.project, program_.table, block); });
+}
+
+void TableModel::Refresh() {
+    const float unit = program_.project.PressureUnitFactor;
+    if (std::exchange(shownUnit_, unit) != unit) undo_.clear();
+    Announce();
+}
+
+void TableModel::StartAnew() {
+    undo_.clear();
+    Refresh();
+}
+
+void TableModel::Apply(const QString& name, const std::function<void()>& edit) {
+    TableState before{program_.project.TableRows, program_.table};
+    edit();
+    if (program_.table == before.texts) return;
+    undo_.push(new Change(*this, name, std::move(before)));
+    Announce();
+}
+
+void TableModel::Announce() {
+    // One pressure can reach every row.
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+}
+
+}  // namespace idrova

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/table/table_view.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QScrollBar>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "model/grid.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/qt_text.h"
+#include "ui/table/table_delegate.h"
+#include "ui/table/table_model.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr int kUnitsPerPixel = 15;
+constexpr int kLineMargin = 4;  ///< pixels, of a line of text in its cell, both sides together
+constexpr int kHeaderFlags = Qt::AlignCenter | Qt::TextWordWrap;
+
+QString Header(int column) {
+    return ToQt(kTableColumnList[column].header);
+}
+
+/// Around the text of a header, both sides together, with the line that parts it from the next.
+int HeaderMargin(const QHeaderView& header) {
+    return 2 * header.style()->pixelMetric(QStyle::PM_HeaderMargin, nullptr, &header) + 2;
+}
+
+/// The width of a column, given in screen units. Where a word of its header is wider than that,
+/// as "diameter" is in most fonts, the column is just wide enough for the word.
+int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
+    int widest = 0;
+    for (const QString& word : words.split(' ')) {
+        widest = std::max(widest, header.fontMetrics().horizontalAdvance(word));
+    }
+    return std::max(kTableColumnList[column].width / kUnitsPerPixel, widest + HeaderMargin(header));
+}
+
+}  // namespace
+
+TableView::TableView(TableModel& model, TablePlace& place) : model_(model), place_(place) {
+    Named(this, "TxtTab");
+    Named(verticalScrollBar(), "ScrY");
+    Named(horizontalScrollBar(), "ScrX");
+    setAccessibleName("Pipes of the table");
+    setModel(&model);
+    auto* delegate = new TableDelegate(this);
+    delegate->sizeChosen = [this](QWidget* list, const QModelIndex& cell, int position) {
+        model_.ChooseSize(cell, position);
+        closeEditor(list, QAbstractItemDelegate::NoHint);
+    };
+    delegate->listLeft = [this](QWidget* list) {
+        closeEditor(list, QAbstractItemDelegate::NoHint);
+    };
+    setItemDelegate(delegate);
+    setSelectionMode(ContiguousSelection);
+    setEditTriggers(AnyKeyPressed | EditKeyPressed | DoubleClicked);
+    setTabKeyNavigation(true);
+    setHorizontalScrollMode(ScrollPerItem);
+    setVerticalScrollMode(ScrollPerItem);
+    MakeHeaders();
+    SizeColumns();
+    SizeLines();
+    AddCommands();
+    setCurrentIndex(model.index(place.line, place.column));
+    connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& cell) {
+        if (cell.column() == table_column::kNominalSize) edit(cell);
+    });
+}
+
+void TableView::MakeHeaders() {
+    // The lines' own header shows the numbers: it stays in place when the columns scroll.
+    setColumnHidden(table_column::kNumber, true);
+    verticalHeader()->setHighlightSections(false);
+    verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setDefaultAlignment(Qt::Alignment::fromInt(kHeaderFlags));
+    auto* corner = findChild<QAbstractButton*>();
+    auto* label = new QLabel(Header(table_column::kNumber), corner);
+    label->setAlignment(Qt::AlignCenter);
+    label->setFont(horizontalHeader()->font());
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto* whole = new QVBoxLayout(corner);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->addWidget(label);
+}
+
+void TableView::SizeColumns() {
+    QHeaderView& header = *horizontalHeader();
+    header.setMinimumSectionSize(kTableColumnList[0].width / kUnitsPerPixel);
+    int height = 0;
+    for (int column = 0; column < kTableColumns; ++column) {
+        const int width = ColumnWidth(header, column, Header(column));
+        setColumnWidth(column, width);
+        const QRect room(0, 0, width - HeaderMargin(header), QWIDGETSIZE_MAX);
+        height = std::max(
+            height, header.fontMetrics().boundingRect(room, kHeaderFlags, Header(column)).height());
+    }
+    header.setFixedHeight(height + HeaderMargin(header));
+}
+
+void TableView::SizeLines() {
+    QHeaderView& header = *verticalHeader();
+    const QString longest = Header(table_column::kNumber) + ' ' + QString::number(kLastTableRow);
+    header.setFixedWidth(ColumnWidth(header, table_column::kNumber, longest));
+    header.setDefaultSectionSize(
+        std::max(kTableRowHeight / kUnitsPerPixel, fontMetrics().height() + kLineMargin));
+}
+
+void TableView::AddCommands() {
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+    AddCommand("&Undo", QKeySequence("Ctrl+Z"), &TableView::Undo);
+    AddCommand("&Redo", QKeySequence("Ctrl+Y"), &TableView::Redo);
+    AddCommand("&Copy", QKeySequence("Ctrl+C"), &TableView::Copy);
+    AddCommand("&Paste", QKeySequence("Ctrl+V"), &TableView::Paste);
+    AddCommand("&Delete", QKeySequence("Del"), &TableView::Delete);
+}
+
+void TableView::AddCommand(const QString& caption, const QKeySequence& keys,
+                           void (TableView::*command)()) {
+    auto* action = new QAction(caption, this);
+    action->setShortcut(keys);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    connect(action, &QAction::triggered, this, command);
+    addAction(action);
+}
+
+void TableView::TakeEdit() {
+    QWidget* editor = indexWidget(currentIndex());
+    if (editor == nullptr) return;
+    commitData(editor);
+    closeEditor(editor, QAbstractItemDelegate::NoHint);
+}
+
+void TableView::showEvent(QShowEvent* event) {
+    QTableView::showEvent(event);
+    updateGeometries();  // the ranges of the scroll bars
+    horizontalScrollBar()->setValue(place_.scrolledColumns);
+    verticalScrollBar()->setValue(place_.scrolledLines);
+}
+
+void TableView::hideEvent(QHideEvent* event) {
+    place_ = {currentIndex().row(), currentIndex().column(), horizontalScrollBar()->value(),
+              verticalScrollBar()->value()};
+    QTableView::hideEvent(event);
+}
+
+std::optional<TableBlock> TableView::Selected() const {
+    const QModelIndexList cells = selectedIndexes();  // without the hidden numbers
+    if (cells.isEmpty()) return std::nullopt;
+    TableBlock block{kTableLines, kTableColumns, 0, 0};
+    for (const QModelIndex& cell : cells) {
+        const int row = TableModel::RowOf(cell);
+        block = {std::min(block.firstRow, row), std::min(block.firstColumn, cell.column()),
+                 std::max(block.lastRow, row), std::max(block.lastColumn, cell.column())};
+    }
+    return block;
+}
+
+void TableView::Copy() {
+    if (const auto block = Selected()) {
+        QApplication::clipboard()->setText(ToQt(model_.Copy(*block)));
+    }
+}
+
+void TableView::Paste() {
+    const auto block = Selected();
+    const QString text = QApplication::clipboard()->text();
+    if (!block || text.isEmpty()) return;
+    model_.Paste(model_.index(block->firstRow - kFirstTableRow, block->firstColumn), FromQt(text));
+}
+
+void TableView::Delete() {
+    if (const auto block = Selected()) model_.Clear(*block);
+}
+
+void TableView::Undo() {
+    model_.Undo().undo();
+}
+
+void TableView::Redo() {
+    model_.Undo().redo();
+}
+
+void TableView::updateGeometries() {
+    QTableView::updateGeometries();
+    ShowWholeCells();
+}
+
+void TableView::scrollContentsBy(int dx, int dy) {
+    QTableView::scrollContentsBy(dx, dy);
+    ShowWholeCells();
+}
+
+void TableView::ShowWholeCells() {
+    const QPoint shown(horizontalHeader()->offset(), verticalHeader()->offset());
+    horizontalHeader()->setOffsetToSectionPosition(horizontalScrollBar()->value());
+    verticalHeader()->setOffsetToSectionPosition(verticalScrollBar()->value());
+    const QPoint whole(horizontalHeader()->offset(), verticalHeader()->offset());
+    if (whole == shown) return;
+    viewport()->update();
+    updateEditorGeometries();
+}
+
+void TableView::MoveDown(int rows) {
+    const QModelIndex next = currentIndex().siblingAtRow(currentIndex().row() + rows);
+    if (next.isValid()) setCurrentIndex(next);
+}
+
+void TableView::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && state() == EditingState) {
+        TakeEdit();
+    }
+    if (isEnter) {
+        MoveDown(event->modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+        event->accept();
+    } else if (event->key() == Qt::Key_Escape) {
+        event->accept();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+QModelIndex TableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) {
+    if (action != MoveNext && action != MovePrevious) {
+        return QTableView::moveCursor(action, modifiers);
+    }
+    const int step = action == MoveNext ? 1 : -1;
+    const int perRow = kTableColumns - 1;  // without the hidden number
+    const QModelIndex from = currentIndex();
+    const int cell = from.row() * perRow + from.column() - 1 + step;
+    if (cell < 0 || cell >= perRow * model_.rowCount()) return from;
+    return model_.index(cell / perRow, cell % perRow + 1);
+}
+
+void TableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
+    if (hint == QAbstractItemDelegate::EditNextItem) setCurrentIndex(moveCursor(MoveNext, {}));
+    if (hint == QAbstractItemDelegate::EditPreviousItem) {
+        setCurrentIndex(moveCursor(MovePrevious, {}));
+    }
+}
+
+}  // namespace idrova

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <filesystem>
+
+#include "projectfile/file_form.h"
+#include "ui/kit/child_window.h"
+
+class QComboBox;
+class QLineEdit;
+class QListWidget;
+class QListWidgetItem;
+
+namespace idrova {
+
+struct Program;
+
+/// The project file window: picks a folder and a file name to open or to save. The caption tells
+/// for which.
+class FrmFile : public ChildWindow {
+  public:
+    /// Starts in the folder last used.
+    FrmFile(Program& program, FilePurpose purpose);
+
+    FilePurpose Purpose() const { return form_.purpose; }
+    /// Reads the lists of folders and files again.
+    void ShowFolder();
+
+  private:
+    QWidget* MakeLists();
+    QWidget* MakeFields();
+    QWidget* MakeButtons();
+    void FillDrives();
+    void ConnectControls();
+
+    /// The fields as the form has them. The lists are read again only where they are out of date.
+    void ShowForm();
+    void ShowFiles();
+
+    /// Shows a folder, or says that it cannot be read and stays.
+    void GoTo(const std::filesystem::path& folder);
+
+    void Drive1_Change();
+    void Dir1_Change(const QListWidgetItem& item);
+    void File1_Click(const QString& name);
+    void Command1_Click();
+
+    Program& program_;
+    FileForm form_;
+    QString clicked_;  ///< the file of the list that the form shows
+    QComboBox* Drive1;
+    QListWidget* Dir1;
+    QListWidget* File1;
+    QLineEdit* Text1;
+    QLineEdit* Text2;
+    QLineEdit* Text3;
+    QLineEdit* Text4;
+};
+
+}  // namespace idrova

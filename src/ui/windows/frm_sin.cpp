@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/windows/frm_sin.h"
+
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include "model/pipe_sizes.h"
+#include "results/messages.h"
+#include "ui/frame/run_services.h"
+#include "ui/kit/controls.h"
+#include "ui/kit/flow_arrow.h"
+#include "ui/kit/form_parts.h"
+#include "ui/kit/name_list.h"
+#include "ui/kit/qt_text.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr int kDirectionInterval = 300;  ///< ms
+constexpr int kFormWidth = 640;
+constexpr QRgb kUnknownColour = 0xFFFFC0;  ///< light yellow
+constexpr QRgb kKnownColour = 0xFFFFFF;
+
+struct QuantityNames {
+    const char* caption;
+    const char* box;
+    const char* more;  ///< null without arrows
+    const char* less;
+    const char* option;
+};
+
+/// In the order of `PipeQuantity`.
+constexpr std::array<QuantityNames, kPipeQuantities> kNames = {{
+    {"pressure [bar]", "Text2", "Command3", "Command4", "OptInc_0"},
+    {"pressure [bar]", "Text3", "Command5", "Command6", "OptInc_1"},
+    {"length [m]", "Text1", "Command1", "Command2", "OptInc_2"},
+    {"flow rate [kg/h]", "Text4", "Command7", "Command8", "OptInc_3"},
+    {"diameter [mm]", "Text5", nullptr, nullptr, "OptInc_4"},
+}};
+
+constexpr std::array<PipeQuantity, 4> kSteppedQuantities = {
+    PipeQuantity::PressureAt1, PipeQuantity::PressureAt2, PipeQuantity::Length,
+    PipeQuantity::FlowRate};
+
+// Columns of the grid.
+constexpr int kPoint = 0;
+constexpr int kCaption = 1;
+constexpr int kBox = 2;
+constexpr int kMore = 3;
+constexpr int kLess = 4;
+constexpr int kUnknown = 5;
+
+void Colour(QWidget& box, QRgb colour) {
+    QPalette palette = box.palette();
+    palette.setColor(QPalette::Base, QColor(colour));
+    palette.setColor(QPalette::Text, Qt::black);
+    box.setPalette(palette);
+}
+
+}  // namespace
+
+FrmSin::FrmSin(Program& program)
+    : ChildWindow("FrmSin", "Idrova - Single pip calculation"),
+      program_(program),
+      Combo2(SizeList("Combo2")),
+      Command9(CommandButton("Command9", "Directions", [this] { Command9_Click(); })),
+      arrow_(new FlowArrow),
+      Timer1(Named(new QTimer(this), "Timer1")) {
+    StayOnEscape();
+    auto* form = new QWidget;
+    form->setMaximumWidth(kFormWidth);
+    auto* grid = new QGridLayout(form);
+    grid->setColumnStretch(kBox, 1);
+    AddQuantity(*grid, 0, PipeQuantity::PressureAt1, "Point 1");
+    AddQuantity(*grid, 1, PipeQuantity::PressureAt2, "Point 2");
+    AddDirection(*grid, 2);
+    AddQuantity(*grid, 3, PipeQuantity::Length, "Pipe");
+    AddQuantity(*grid, 4, PipeQuantity::FlowRate);
+    AddDiameterList(*grid, 5);
+    AddQuantity(*grid, 6, PipeQuantity::Diameter);
+    auto* options = new QButtonGroup(this);
+    for (const Controls& controls : controls_) options->addButton(controls.unknown);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(form);
+    column->addStretch(1);
+
+    for (int i = 0; i < kPipeQuantities; ++i) {
+        const auto quantity = static_cast<PipeQuantity>(i);
+        connect(controls_[i].unknown, &QRadioButton::toggled, this, [this, quantity](bool chosen) {
+            if (chosen) OptInc_Click(quantity);
+        });
+    }
+    Of(pipe_.unknown).unknown->setChecked(true);
+    connect(Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    Timer1->start(kDirectionInterval);
+    Timer1_Timer();
+    setFocusProxy(Of(PipeQuantity::PressureAt1).box);
+}
+
+void FrmSin::AddQuantity(QGridLayout& grid, int row, PipeQuantity quantity, const QString& point) {
+    const QuantityNames& names = kNames[static_cast<int>(quantity)];
+    const QString what = (point.isEmpty() ? QString() : point + ", ") + names.caption;
+    Controls& controls = Of(quantity);
+    controls.box = TextField(names.box);
+    controls.box->setAccessibleName(what);
+    connect(controls.box, &QLineEdit::textChanged, this,
+            [this, quantity] { Text_Change(quantity); });
+    if (!point.isEmpty()) grid.addWidget(PlainLabel(point), row, kPoint);
+    grid.addWidget(LabelFor(controls.box, names.caption), row, kCaption);
+    grid.addWidget(controls.box, row, kBox);
+    if (names.more != nullptr) {
+        controls.more = Named(Arrow(quantity, 1, "Increase " + what), names.more);
+        controls.less = Named(Arrow(quantity, -1, "Decrease " + what), names.less);
+        grid.addWidget(controls.more, row, kMore);
+        grid.addWidget(controls.less, row, kLess);
+    }
+    controls.unknown = Named(new QRadioButton("Unknown"), names.option);
+    controls.unknown->setAccessibleName("Unknown: " + what);
+    grid.addWidget(controls.unknown, row, kUnknown);
+}
+
+QToolButton* FrmSin::Arrow(PipeQuantity quantity, int steps, const QString& what) {
+    auto* button = new QToolButton;
+    button->setArrowType(steps > 0 ? Qt::UpArrow : Qt::DownArrow);
+    button->setAutoRepeat(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setAccessibleName(what);
+    button->setToolTip(what);
+    connect(button, &QToolButton::clicked, this,
+            [this, quantity, steps] { Arrow_Click(quantity, steps); });
+    return button;
+}
+
+void FrmSin::AddDiameterList(QGridLayout& grid, int row) {
+    OnChosen(*Combo2, [this](int position) { Combo2_Click(position); });
+    grid.addWidget(LabelFor(Combo2, "diameter \""), row, kCaption);
+    grid.addWidget(Combo2, row, kBox);
+}
+
+void FrmSin::AddDirection(QGridLayout& grid, int row) {
+    grid.addWidget(arrow_, row, kCaption, 1, 2);
+    grid.addWidget(Command9, row, kMore, 1, kUnknown - kMore + 1);
+}
+
+void FrmSin::Text_Change(PipeQuantity quantity) {
+    if (TypeQuantity(pipe_, quantity, FromQt(Of(quantity).box->text()))) Recompute();
+}
+
+void FrmSin::Arrow_Click(PipeQuantity quantity, int steps) {
+    Of(quantity).box->setText(ToQt(SteppedText(pipe_, quantity, steps)));
+}
+
+void FrmSin::OptInc_Click(PipeQuantity quantity) {
+    pipe_.unknown = quantity;
+    for (const PipeQuantity stepped : kSteppedQuantities) {
+        const bool known = stepped != quantity;
+        const Controls& controls = Of(stepped);
+        controls.more->setEnabled(known);
+        controls.less->setEnabled(known);
+        controls.box->setEnabled(known);
+        Colour(*controls.box, known ? kKnownColour : kUnknownColour);
+    }
+    Timer1_Timer();
+}
+
+void FrmSin::Combo2_Click(int position) {
+    Of(PipeQuantity::Diameter).box->setText(ToQt(InnerDiameterText(position + 1)));
+}
+
+void FrmSin::Command9_Click() {
+    TurnDirection(pipe_);
+    Recompute();
+}
+
+void FrmSin::Timer1_Timer() {
+    const DirectionView view = FollowPressures(pipe_);
+    Command9->setEnabled(view.mayTurn);
+    arrow_->Show(view);
+}
+
+void FrmSin::Recompute() {
+    // The sign of the flow that is shown belongs to the arrow that is shown.
+    Timer1_Timer();
+    // Such a run ends within one keystroke: a progress window would only flicker.
+    const RunServices services = ServicesOfRun(
+        program_, program_.boxes, [this](const Status& stored) { ReportStored(stored); });
+    const SinglePipeResult result =
+        SinglePipeCompute(pipe_, program_.project, program_.work, services);
+    program_.outcomes[WorkMode::SinglePipe] = result.outcome;
+    program_.showOutcome();
+    if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
+}
+
+void FrmSin::ReportStored(const Status& stored) {
+    if (!stored && !reportFailed_) program_.boxes.Show({stored.Error(), kResultsTitle});
+    reportFailed_ = !stored;
+}
+
+}  // namespace idrova

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/drawing_invariants.h"
+
+#include <algorithm>
+#include <array>
+#include <bitset>
+#include <memory>
+
+#include "editor/drawing_surface.h"
+#include "editor/pipe_ends.h"
+#include "editor/plant_drawing.h"
+#include "model/invariants.h"
+#include "projectfile/project_file.h"
+#include "support/network_check.h"
+
+namespace idrova {
+namespace {
+
+/// Keeps where pipes, markers and icons are drawn.
+class DrawnElements final : public DrawingSurface {
+  public:
+    explicit DrawnElements(const Project& project) : project_(project) {}
+
+    void Grid(int /*firstColumn*/, int /*firstRow*/) override {}
+    void CellIcon(ScreenPoint corner, std::string_view /*file*/) override {
+        const int half = project_.Grid.CellWidth / 2;
+        icons.set(CellFromPoint(project_, corner.x + half, corner.y + half));
+    }
+    void PipeLine(int pipe, ScreenPoint from, ScreenPoint to, Rgb /*colour*/) override {
+        ++lineCount;
+        lines[pipe] = {from, to};
+    }
+    void PointMarker(ScreenPoint centre) override {
+        markers.set(CellFromPoint(project_, centre.x, centre.y));
+    }
+    void ArrowLine(ScreenPoint /*from*/, ScreenPoint /*to*/) override {}
+    void TextLabel(ScreenPoint /*corner*/, std::string_view /*text*/, Rgb /*background*/) override {
+    }
+    void LeaderLabel(ScreenPoint /*from*/, ScreenPoint /*to*/, std::string_view /*text*/,
+                     Rgb /*background*/) override {}
+
+    int lineCount = 0;
+    std::array<std::pair<ScreenPoint, ScreenPoint>, kMaxPipes + 1> lines;
+    std::bitset<kMaxCells + 1> markers, icons;
+
+  private:
+    const Project& project_;
+};
+
+void CheckDrawnPipes(const Project& project, const DrawnElements& drawn, Faults& faults) {
+    int live = 0;
+    for (int i = 1; i <= project.numtubo; ++i) {
+        const PipeRec& pipe = project.Pipes[i];
+        if (!pipe.IsDrawn()) continue;
+        ++live;
+        if (drawn.lines[i] !=
+            std::pair{PlaceOf(pipe, PipeEnd::Start), PlaceOf(pipe, PipeEnd::End)}) {
+            faults.push_back(Named("the line is not drawn from end to end of pipe", i));
+        }
+    }
+    if (drawn.lineCount != live) faults.push_back(Named("pipe lines drawn:", drawn.lineCount));
+}
+
+/// A cell with a point, and the one where a pipe was begun, shows a marker unless an icon stands
+/// for it.
+void CheckDrawnCells(const Project& project, const Editor& editor, const DrawnElements& drawn,
+                     Faults& faults) {
+    for (int cell = 1; cell <= project.CellCount(); ++cell) {
+        const CellRec& record = project.Cells[cell];
+        if (drawn.icons.test(cell) != record.Placed) {
+            faults.push_back(Named("icon and component disagree in cell", cell));
+        }
+        const bool begun = editor.state == InsertState::EndPoint && editor.firstCell == cell;
+        const bool point = project.CellIsNode[cell] && !record.Placed;
+        if (drawn.markers.test(cell) != (point || begun)) {
+            faults.push_back(Named("marker and point disagree in cell", cell));
+        }
+    }
+}
+
+void CheckDrawing(const Project& project, Editor editor, Faults& faults) {
+    editor.ScrX = editor.ScrY = 1;
+    DrawnElements drawn(project);
+    DrawPlant(project, editor, drawn);
+    CheckDrawnPipes(project, drawn, faults);
+    CheckDrawnCells(project, editor, drawn, faults);
+}
+
+void CheckEditor(const Project& project, const Editor& editor, Faults& faults) {
+    const bool begun = editor.state == InsertState::EndPoint;
+    const bool onGrid = editor.firstCell >= 1 && editor.firstCell <= project.CellCount();
+    if (begun ? !onGrid : editor.firstCell != 0) {
+        faults.push_back(Named("no pipe is begun in cell", editor.firstCell));
+    }
+    if (editor.selectedComponent != 0 && !project.Cells[editor.selectedComponent].Placed) {
+        faults.push_back(Named("no component to select in cell", editor.selectedComponent));
+    }
+    const int current = project.CurrentPipe;
+    if (current != 0 ? !project.Pipes[current].IsDrawn() : editor.pipeSelected) {
+        faults.push_back(Named("not a live pipe: the current", current));
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> BrokenInvariants(const Project& project, const Editor& editor) {
+    Faults faults = BrokenInvariants(project);
+    if (!faults.empty()) return faults;
+    CheckPoints(project, faults);
+    CheckEditor(project, editor, faults);
+    if (!faults.empty()) return faults;
+    CheckCells(project, faults);
+    CheckDrawing(project, editor, faults);
+    return faults;
+}
+
+bool SurvivesReopening(const Project& project) {
+    const auto reopened = std::make_unique<Project>();
+    const std::string text = ProjectFileText(project);
+    return ReadProjectText(text, *reopened) && ProjectFileText(*reopened) == text;
+}
+
+}  // namespace idrova
