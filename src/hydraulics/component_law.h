@@ -2,6 +2,7 @@
 #pragma once
 
 #include "hydraulics/network_plan.h"
+#include "hydraulics/pipe_law.h"
 #include "model/project.h"
 
 namespace idrova {
@@ -24,5 +25,20 @@ struct PressureJump {
 /// drop. A cell whose component was deleted joins its pieces: 0.
 PressureJump JumpAt(const Settings& settings, const CellRec& cell, const Component& component,
                     const PipeRec& pipeA, double flow, ComponentRows rows);
+
+/// p(high) - p(low) of a component at the flow of its pipe A (kg/s, signed from its reference
+/// point) and the pressures at that pipe's ends, with the derivatives by all three. A pump gives
+/// its curve in the delivery direction, and its highest rise below the flow of that rise and when
+/// it is run backwards. A loss opposes the flow; a fixed drop grows up to `FullDropFlow`. A cell
+/// whose component was deleted joins its pieces: 0.
+PressureLaw ComponentLaw(const Settings& settings, const CellRec& cell, const Component& component,
+                         const PipeRec& pipeA, double flow, double start, double end);
+
+/// A pump whose curve somewhere rises with the flow: it may have two working points.
+bool OpensUpwards(const CellRec& pump);
+
+/// The flow in kg/s from which a fixed drop has its value: a hundredth of the flow at Re 50 of
+/// its pipe A. Below, it has more than enough to hold the flow still.
+double FullDropFlow(const Settings& settings, const PipeRec& pipeA);
 
 }  // namespace idrova

@@ -6,6 +6,7 @@
 #include <limits>
 #include <utility>
 
+#include "hydraulics/fluid_density.h"
 #include "hydraulics/linear_solver.h"
 #include "hydraulics/network_system.h"
 #include "hydraulics/pipe_drop.h"
@@ -16,7 +17,6 @@ namespace {
 
 constexpr double kResidualFloor = 1e-6;  ///< Pa; below it a drop counts as none
 constexpr double kLargestStored = std::numeric_limits<float>::max();
-constexpr double kLowestMeanPressure = 1000;  ///< Pa
 
 constexpr double kRefinedTolerance = 1e-8;  ///< as `kPipeTolerance`
 constexpr double kNegligibleShare = 1e-4;   ///< of the largest flow
@@ -222,13 +222,6 @@ class Stage {
 StageResult RunStage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
                      const FlowGuesses& start, ComponentRows rows, const PassReport& report) {
     return Stage(project, plan, work, start, rows).Run(report);
-}
-
-double MeanAbsolutePressure(const Settings& settings, double start, double end) {
-    const double base = kAtmosphere + settings.BasePressure;
-    // Flow empties one end to a vacuum at most: the mean is no less than half of the other end.
-    const double least = (base + std::max(start, end)) / 2;
-    return std::max({base + (start + end) / 2, least, kLowestMeanPressure});
 }
 
 }  // namespace idrova

@@ -24,8 +24,4 @@ using PassReport = std::function<void(int pass, double residual)>;
 StageResult RunStage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
                      const FlowGuesses& start, ComponentRows rows, const PassReport& report);
 
-/// Absolute mean pressure of a pipe's ends in Pa for the gas law, from two pressures as the
-/// project holds them; no less than half of the higher end's, nor than 1000 Pa.
-double MeanAbsolutePressure(const Settings& settings, double start, double end);
-
 }  // namespace idrova

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <numbers>
 
+#include "hydraulics/fluid_density.h"
+
 namespace idrova {
 namespace {
 
@@ -47,13 +49,6 @@ double FactorInSection(const Settings& settings, const SectionSize& section, dou
                                        : ColebrookFactor(reynolds, relativeRoughness);
 }
 
-/// Z R T / M: absolute pressure over density of the gas, Pa m3/kg.
-double PressureOverDensity(const Settings& settings) {
-    const double kelvin = settings.FluidTemperature + kCelsiusToKelvin;
-    const double molarMass = settings.FluidDensity * kGasConstant * kCelsiusToKelvin / kAtmosphere;
-    return settings.FluidCompressibility * kGasConstant * kelvin / molarMass;
-}
-
 }  // namespace
 
 double Log10(double x) {
@@ -77,7 +72,7 @@ double FrictionFactor(const Settings& settings, double d1, double d2, double flo
     return FactorInSection(settings, SectionGeometry(settings, d1, d2), flow);
 }
 
-double PipeDrop(const Settings& settings, double d1, double d2, double& flow, double length,
+double PipeDrop(const Settings& settings, double d1, double d2, double flow, double length,
                 double meanPressure) {
     flow = std::abs(flow);
     if (flow == 0) return 0;
@@ -88,8 +83,8 @@ double PipeDrop(const Settings& settings, double d1, double d2, double& flow, do
         return 2 * f * settings.FluidDensity * v * v * length / section.hydraulicDiameter;
     }
     const double massVelocity = flow / section.area;
-    return 2 * f * (length / section.hydraulicDiameter) * massVelocity * massVelocity *
-           PressureOverDensity(settings) / meanPressure;
+    return 2 * f * (length / section.hydraulicDiameter) * massVelocity * massVelocity /
+           GasDensity(settings, meanPressure);
 }
 
 }  // namespace idrova

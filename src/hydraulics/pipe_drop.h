@@ -10,7 +10,6 @@ constexpr double kPi = 3.1415;
 
 constexpr double kAtmosphere = 101325.0;  ///< Pa absolute, where a gauge pressure is 0
 constexpr double kCelsiusToKelvin = 273.15;
-constexpr double kGasConstant = 8.3143242;  ///< J/(mol K)
 
 /// Natural logarithm over ln 10.
 double Log10(double x);
@@ -33,11 +32,11 @@ double ReynoldsNumber(const Settings& settings, const SectionSize& section, doub
 double FrictionFactor(const Settings& settings, double d1, double d2, double flow);
 
 /// Frictional pressure drop of a pipe in Pa, not negative, without height; 0 when the flow is 0.
-/// `flow` (kg/s) is made non-negative. Lengths in m. Incompressible: Fanning's equation.
+/// `flow` in kg/s, its sign does not matter. Lengths in m. Incompressible: Fanning's equation.
 /// Compressible: the isothermal law 2 f (L/Dh) (W/A)^2 Z R T / (M pm) at the mean absolute
 /// pressure `meanPressure` (Pa) of the pipe's two ends, Z the fluid's compressibility, T the
 /// fluid's temperature, M from its density at 0 degrees Celsius and 101325 Pa.
-double PipeDrop(const Settings& settings, double d1, double d2, double& flow, double length,
+double PipeDrop(const Settings& settings, double d1, double d2, double flow, double length,
                 double meanPressure);
 
 }  // namespace idrova

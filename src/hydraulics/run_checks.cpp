@@ -6,7 +6,7 @@
 #include <string>
 
 #include "base/number_text.h"
-#include "hydraulics/iteration.h"
+#include "hydraulics/fluid_density.h"
 #include "hydraulics/linear_solver.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
