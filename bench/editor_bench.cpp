@@ -171,8 +171,8 @@ void SinglePipeKey(benchmark::State& state) {
     NoBoxes boxes;
     const auto program = std::make_unique<Program>(folder.Path(), boxes);
     MDI mdi(*program);
-    program->project.FluidDensity = 998.2;
-    program->project.FluidViscosity = 0.001002;
+    program->project.settings.FluidDensity = 998.2;
+    program->project.settings.FluidViscosity = 0.001002;
     mdi.findChild<QAction*>("sintub")->trigger();
     mdi.show();
     const QWidget& window = *mdi.Windows().Find("FrmSin");

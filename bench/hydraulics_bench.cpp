@@ -34,7 +34,7 @@ void OnePipe(benchmark::State& run) {
     const double flowAt = reynolds * kPi * 0.1 * 1e-3 / 4;
     for (auto _ : run) {
         double flow = flowAt;
-        benchmark::DoNotOptimize(PipeDrop(*network, 0.1, 0, flow, 100, kAtmosphere));
+        benchmark::DoNotOptimize(PipeDrop(network->settings, 0.1, 0, flow, 100, kAtmosphere));
     }
 }
 BENCHMARK(OnePipe)->ArgName("Re")->Arg(2000)->Arg(100000);

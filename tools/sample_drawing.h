@@ -64,7 +64,7 @@ class SampleDrawing {
     void PieceLength(Place place, float length) {
         const CellRec& cell = project_->Cells[CellOf(place)];
         if (cell.Kind != CellKind::Crossed) throw std::runtime_error("no pipe crosses the place");
-        project_->Pipes[static_cast<int>(cell.Param1)].Length = length;
+        project_->Pipes[cell.CrossingPipe].Length = length;
     }
 
     /// The flow of the last pipe drawn, kg/h.

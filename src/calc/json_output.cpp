@@ -87,7 +87,7 @@ Json PointList(const WorkNetwork& results) {
 /// Pumps stand in drawings: a table has none.
 Json PumpList(const Project& project) {
     Json list = Json::array();
-    if (project.Mode != WorkMode::Graphic) return list;
+    if (project.settings.Mode != WorkMode::Graphic) return list;
     for (int i = 1; i <= project.CellCount(); ++i) {
         const CellRec& cell = project.Cells[i];
         if (!HoldsComponent(cell, CellKind::Pump)) continue;
@@ -113,7 +113,7 @@ std::string JsonText(const Project& project, const RunRecord& run) {
                  {"points", Json::array()},
                  {"pumps", Json::array()}};
     if (run.results != nullptr) {
-        json["pipes"] = PipeList(*run.results, project);
+        json["pipes"] = PipeList(*run.results, project.settings);
         json["points"] = PointList(*run.results);
         json["pumps"] = PumpList(project);
     }

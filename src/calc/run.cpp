@@ -43,18 +43,18 @@ class ProjectRun {
     bool Prepare() {
         InitialiseProject(*project_);
         ApplySettings();
-        return SaveIsAllowed() && ChooseFluid(*project_, options_, boxes_) && Open() &&
+        return SaveIsAllowed() && ChooseFluid(project_->settings, options_, boxes_) && Open() &&
                CompletePumps();
     }
 
     void ApplySettings() {
-        project_->Mode = options_.mode;
-        project_->SectionType = options_.section;
-        project_->Roughness = options_.roughness.value_or(project_->Roughness);
-        project_->FluidTemperature = ToSingle(options_.temperature);
-        project_->BasePressure = ToSingle(options_.basePressure * kPascalPerBar);
-        project_->ResultsInSequence = options_.append;
-        ChoosePressureUnit(*project_, options_.pressureUnit);
+        project_->settings.Mode = options_.mode;
+        project_->settings.SectionType = options_.section;
+        project_->settings.Roughness = options_.roughness.value_or(project_->settings.Roughness);
+        project_->settings.FluidTemperature = ToSingle(options_.temperature);
+        project_->settings.BasePressure = ToSingle(options_.basePressure * kPascalPerBar);
+        project_->settings.ResultsInSequence = options_.append;
+        ChoosePressureUnit(project_->settings, options_.pressureUnit);
     }
 
     bool SaveIsAllowed() {
@@ -87,7 +87,7 @@ class ProjectRun {
 
     Outcome Compute() {
         const bool gas = options_.equation == Equation::Compressible;
-        if (gas && !ChooseCompressible(*project_, boxes_)) return {};
+        if (gas && !ChooseCompressible(project_->settings, boxes_)) return {};
         if (!FillNetwork()) return {};
         const RunServices services{
             .boxes = boxes_, .writeReport = [this] { KeepResults(); }, .seed = options_.seed};
@@ -109,7 +109,7 @@ class ProjectRun {
         results_ = std::make_unique<WorkNetwork>(*work_);
         if (options_.noReport) return;
         report_ = ReportText(*project_, *work_, CurrentReportTime());
-        reportFailed_ = !WriteReport(*project_, report_, options_.data, boxes_);
+        reportFailed_ = !WriteReport(project_->settings, report_, options_.data, boxes_);
     }
 
     void PrintNotes(const Outcome& outcome) {

@@ -11,14 +11,11 @@
 namespace idrova {
 namespace {
 
-constexpr float kToTheRight = 1;
-constexpr float kDownwards = 2;
-
 /// The pipe whose cut or joint the component of a cell stands on: the one that crosses the cell, or
 /// the first that ends there.
 int PipeAtCell(const Project& project, int cell) {
     const CellRec& record = project.Cells[cell];
-    if (record.Kind == CellKind::Crossed) return static_cast<int>(record.Param1);
+    if (record.Kind == CellKind::Crossed) return record.CrossingPipe;
     for (int i = 1; i <= project.numtubo; ++i) {
         const PipeRec& pipe = project.Pipes[i];
         if (!pipe.IsDrawn()) continue;
@@ -70,8 +67,9 @@ CellRec ComponentRecord(const ComponentChoice& choice, InsertState state, const 
     cell.PumpConstant = ToSingle(choice.CompValue3);
     cell.MinFlow = choice.ChosenPump.qMin;
     cell.MaxFlow = choice.ChosenPump.qMax;
-    cell.Direction = pipe.Y1 == pipe.Y2 ? kToTheRight : kDownwards;
-    cell.PipeAxis = cell.Direction;
+    const bool horizontal = pipe.Y1 == pipe.Y2;
+    cell.Direction = horizontal ? Delivery::Right : Delivery::Down;
+    cell.PipeAxis = horizontal ? Axis::Horizontal : Axis::Vertical;
     return cell;
 }
 

@@ -15,7 +15,7 @@ namespace idrova {
 namespace {
 
 std::string LabelText(const Project& project, int number) {
-    const float shown = project.Points[number].Pressure / project.PressureUnitFactor;
+    const float shown = project.Points[number].Pressure / project.settings.PressureUnitFactor;
     return "P" + GeneralText(number) + "=" + FormatNumber(shown, "##.###");
 }
 

@@ -59,13 +59,13 @@ bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view
                             MessageBoxes& boxes) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr || !panel.flowKnown) return true;
-    if (project.FluidDensity == 0) {
+    if (project.settings.FluidDensity == 0) {
         panel.cubicMetresPerHour.clear();
         boxes.Show(kFluidForVolumeFlow);
         return false;
     }
     panel.cubicMetresPerHour = text;
-    pipe->FlowRate = ToSingle(ReadNumber(text) * project.FluidDensity / kSecondsPerHour);
+    pipe->FlowRate = ToSingle(ReadNumber(text) * project.settings.FluidDensity / kSecondsPerHour);
     panel.kgPerHour = ScaledText(pipe->FlowRate, kSecondsPerHour);
     return true;
 }
@@ -123,7 +123,7 @@ void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_v
     if (pipe == nullptr || !box.known) return;
     box.given = text;
     project.Points[PointAt(*pipe, end)].Pressure =
-        ToSingle(ReadNumber(text) * project.PressureUnitFactor);
+        ToSingle(ReadNumber(text) * project.settings.PressureUnitFactor);
 }
 
 void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end) {

@@ -41,8 +41,8 @@ std::string ScaledText(float value, double factor) {
 }
 
 std::string CubicMetresText(const Project& project, double kgPerHour) {
-    if (project.FluidDensity == 0) return {};
-    return GeneralText(ToSingle(kgPerHour / project.FluidDensity));
+    if (project.settings.FluidDensity == 0) return {};
+    return GeneralText(ToSingle(kgPerHour / project.settings.FluidDensity));
 }
 
 void ShowFlow(const Project& project, PipePanel& panel) {
@@ -63,7 +63,7 @@ void ShowFlow(const Project& project, PipePanel& panel) {
 }
 
 void ShowPressure(const Project& project, int point, PointPanel& panel) {
-    const float shown = project.Points[point].Pressure / project.PressureUnitFactor;
+    const float shown = project.Points[point].Pressure / project.settings.PressureUnitFactor;
     panel.known = !project.PressureUnknown[point];
     panel.given.clear();
     panel.computed.clear();
@@ -73,8 +73,8 @@ void ShowPressure(const Project& project, int point, PointPanel& panel) {
 PipePanel ShowPipeData(const Project& project) {
     PipePanel panel;
     panel.caption = "Pipe";
-    panel.unitLabel = PressureUnitLabel(project.PressureUnit);
-    panel.section = DisplayOf(project.SectionType);
+    panel.unitLabel = PressureUnitLabel(project.settings.PressureUnit);
+    panel.section = DisplayOf(project.settings.SectionType);
     panel.pipe = project.CurrentPipe;
     if (panel.pipe == 0) return panel;
     const PipeRec& pipe = project.Pipes[panel.pipe];

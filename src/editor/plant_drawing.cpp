@@ -82,10 +82,8 @@ std::string_view IconFile(const CellRec& cell) {
     if (cell.Kind == CellKind::Loss) return "IMG\\PERC.ico";
     constexpr std::array<std::string_view, 4> pumps = {"IMG\\arrt.ico", "IMG\\ardn.ico",
                                                        "IMG\\arlt.ico", "IMG\\arup.ico"};
-    for (int direction = 1; direction <= 4; ++direction) {
-        if (cell.Direction == static_cast<float>(direction)) return pumps[direction - 1];
-    }
-    return {};
+    if (cell.Direction == Delivery::None) return {};
+    return pumps[static_cast<std::size_t>(cell.Direction) - 1];
 }
 
 void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface) {

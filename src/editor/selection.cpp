@@ -10,7 +10,7 @@ namespace {
 void SelectPipe(Project& project, Editor& editor, int number) {
     project.CurrentPipe = number;
     editor.pipeSelected = true;
-    if (project.SectionType != Section::Circular) return;
+    if (project.settings.SectionType != Section::Circular) return;
     const int size = NominalSizeOf(project.Pipes[number].Diameter);
     if (size != 0) SetNominalSize(project.Pipes[number], size);
 }
@@ -23,7 +23,7 @@ void SelectCell(Project& project, Editor& editor, int cell) {
     editor.selectedComponent = 0;
     const CellRec& record = project.Cells[cell];
     if (record.Kind == CellKind::Crossed) {
-        SelectPipe(project, editor, static_cast<int>(record.Param1));
+        SelectPipe(project, editor, record.CrossingPipe);
     } else if (record.Placed) {
         editor.selectedComponent = cell;
     }

@@ -52,7 +52,7 @@ PassReport ProgressReport(const RunServices& services) {
 }
 
 bool MayRun(const Project& project, const WorkNetwork& work, bool singlePipe, MessageBoxes& boxes) {
-    return FluidIsChosen(project, boxes) && GasLawApplies(project, boxes) &&
+    return FluidIsChosen(project.settings, boxes) && GasLawApplies(project.settings, boxes) &&
            (singlePipe || PipeDataAreComplete(project, work, boxes));
 }
 
@@ -62,11 +62,13 @@ StageResult Solve(const Project& project, const NetworkPlan& plan, const WorkNet
                   const RunServices& services, Outcome& outcome) {
     const FlowGuesses start = StartGuesses(work, services.seed.value_or(ClockSeed()));
     const PassReport report = ProgressReport(services);
-    StageResult first = RunStage(project, plan, work, start, ComponentRows::Lagged, report);
+    StageResult first =
+        RunStage(project.settings, plan, work, start, ComponentRows::Lagged, report);
     outcome.passes[0] = first.passes;
     if (first.settled || plan.components.empty()) return first;
 
-    StageResult second = RunStage(project, plan, work, start, ComponentRows::Sloped, report);
+    StageResult second =
+        RunStage(project.settings, plan, work, start, ComponentRows::Sloped, report);
     outcome.passes[1] = second.passes;
     return second.settled ? second : first;
 }
@@ -96,9 +98,8 @@ Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
     MessageBoxes& boxes = services.boxes;
     if (!MayRun(project, work, singlePipe, boxes)) return outcome;
 
-    const bool ofDrawing = project.Mode == WorkMode::Graphic && !singlePipe;
-    const NetworkPlan plan =
-        PlanNetwork(project, work, ofDrawing ? Components::Counted : Components::LeftOut);
+    const bool ofDrawing = project.settings.Mode == WorkMode::Graphic && !singlePipe;
+    const NetworkPlan plan = PlanNetwork(work);
     work.EquationCount = plan.equations;
     if (plan.Order() == 0) {
         outcome.end = RunEnd::Empty;

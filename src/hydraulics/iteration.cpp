@@ -24,9 +24,9 @@ constexpr int kRefiningPasses = 20;
 
 class Stage {
   public:
-    Stage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+    Stage(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
           const FlowGuesses& start, ComponentRows rows)
-        : project_(project), plan_(plan), work_(work), system_(plan.Order()) {
+        : settings_(settings), plan_(plan), work_(work), system_(plan.Order()) {
         result_.rows = rows;
         moved_.fill(true);
         result_.solution.resize(plan.Order() + 1);
@@ -63,7 +63,7 @@ class Stage {
 
     double Drop(int i, double flow) const {
         const PipeRec& pipe = work_.WorkPipes[i];
-        return PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+        return PipeDrop(settings_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
                         state_.meanPressure[i]);
     }
 
@@ -82,14 +82,14 @@ class Stage {
             ++given;
         }
         const double mean = given == 0 ? 0 : sum / given;
-        state_.meanPressure.fill(MeanAbsolutePressure(project_, mean, mean));
+        state_.meanPressure.fill(MeanAbsolutePressure(settings_, mean, mean));
     }
 
     void SolvePass() {
         ForUnknownFlows([this](int i) {
             if (moved_[i]) state_.resistance[i] = ResistanceAt(i, state_.guess[i]);
         });
-        AssembleNetworkSystem(project_, plan_, work_, state_, result_.rows, system_);
+        AssembleNetworkSystem(settings_, plan_, work_, state_, result_.rows, system_);
         result_.singular = SolveLinearSystem(system_.matrix, system_.order, system_.rightSide,
                                              Inverse::NotWanted) == Solve::Singular;
         std::copy(system_.rightSide.begin(), system_.rightSide.end(), result_.solution.begin() + 1);
@@ -143,7 +143,7 @@ class Stage {
 
     void Conclude() {
         KeepGivenValues();
-        CheckSolution(project_, plan_, work_, state_, result_);
+        CheckSolution(settings_, plan_, work_, state_, result_);
     }
 
     /// Without flow a pipe's law holds at any guess, which then never moves; the row of a component
@@ -175,13 +175,13 @@ class Stage {
 
     /// True when no mean pressure moved.
     bool RefreshMeanPressures() {
-        if (project_.EquationType != Equation::Compressible) return true;
+        if (settings_.EquationType != Equation::Compressible) return true;
         bool atRest = true;
         for (int i = 1; i <= work_.WorkPipeCount; ++i) {
             const PipeRec& pipe = work_.WorkPipes[i];
             if (!pipe.IsDrawn()) continue;
             const double mean =
-                MeanAbsolutePressure(project_, result_.Pressure(plan_, pipe.StartPoint),
+                MeanAbsolutePressure(settings_, result_.Pressure(plan_, pipe.StartPoint),
                                      result_.Pressure(plan_, pipe.EndPoint));
             double& kept = state_.meanPressure[i];
             moved_[i] = moved_[i] || mean != kept;
@@ -207,7 +207,7 @@ class Stage {
         }
     }
 
-    const Project& project_;
+    const Settings& settings_;
     const NetworkPlan& plan_;
     const WorkNetwork& work_;
     LinearSystem system_;
@@ -219,9 +219,9 @@ class Stage {
 
 }  // namespace
 
-StageResult RunStage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+StageResult RunStage(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                      const FlowGuesses& start, ComponentRows rows, const PassReport& report) {
-    return Stage(project, plan, work, start, rows).Run(report);
+    return Stage(settings, plan, work, start, rows).Run(report);
 }
 
 }  // namespace idrova

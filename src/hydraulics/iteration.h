@@ -21,7 +21,7 @@ using PassReport = std::function<void(int pass, double residual)>;
 
 /// Repeats assembly, solve and relaxation until the pipe laws are met, until no guess moves any
 /// more, or until the pass limit. Allocates nothing inside the loop.
-StageResult RunStage(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+StageResult RunStage(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                      const FlowGuesses& start, ComponentRows rows, const PassReport& report);
 
 }  // namespace idrova

@@ -10,10 +10,10 @@ int DeliverySide(const CellRec& cell, const PipeRec& pipeA, const PipeRec& pipeB
     const int alongX = (pipeB.X1 + pipeB.X2) - (pipeA.X1 + pipeA.X2);
     const int alongY = (pipeB.Y1 + pipeB.Y2) - (pipeA.Y1 + pipeA.Y2);
     int side = 0;
-    if (cell.Direction == 1) side = alongX;
-    if (cell.Direction == 2) side = alongY;
-    if (cell.Direction == 3) side = -alongX;
-    if (cell.Direction == 4) side = -alongY;
+    if (cell.Direction == Delivery::Right) side = alongX;
+    if (cell.Direction == Delivery::Down) side = alongY;
+    if (cell.Direction == Delivery::Left) side = -alongX;
+    if (cell.Direction == Delivery::Up) side = -alongY;
     if (side == 0) return 0;
     return side > 0 ? 1 : -1;
 }
@@ -58,10 +58,11 @@ void PlaceLoss(const WorkNetwork& work, EndPoints points, Component& component) 
     component.low = runsToA ? points.a : points.b;
 }
 
-Component PlanComponent(const Project& project, const WorkNetwork& work, int cell) {
+Component PlanComponent(const WorkComponent& placed, const WorkNetwork& work) {
     Component component;
-    component.cell = cell;
-    const EndPoints points = PointsInCell(work, cell);
+    component.cell = placed.cell;
+    component.record = placed.record;
+    const EndPoints points = PointsInCell(work, placed.cell);
     if (points.b == 0) return component;
     component.pipeA = LastPipeAt(work, points.a);
     component.pipeB = LastPipeAt(work, points.b);
@@ -70,9 +71,8 @@ Component PlanComponent(const Project& project, const WorkNetwork& work, int cel
     const int fromA = work.WorkPipes[component.pipeA].FlowFromPoint;
     component.signA = fromA == points.a || fromA == points.b ? 1 : -1;
     component.signB = work.WorkPipes[component.pipeB].FlowFromPoint == points.b ? 1 : -1;
-    const CellRec& record = project.Cells[cell];
-    if (record.Kind == CellKind::Pump && record.Placed) {
-        PlacePump(record, work, points, component);
+    if (placed.record.Kind == CellKind::Pump && placed.record.Placed) {
+        PlacePump(placed.record, work, points, component);
     } else {
         PlaceLoss(work, points, component);
     }
@@ -105,14 +105,12 @@ void NumberPoints(const WorkNetwork& work, NetworkPlan& plan) {
 
 }  // namespace
 
-NetworkPlan PlanNetwork(const Project& project, const WorkNetwork& work, Components components) {
+NetworkPlan PlanNetwork(const WorkNetwork& work) {
     NetworkPlan plan;
     NumberPipes(work, plan);
     NumberPoints(work, plan);
-    if (components == Components::LeftOut) return plan;
-    for (int cell = 1; cell <= project.CellCount(); ++cell) {
-        if (!project.Cells[cell].IsComponent()) continue;
-        plan.components.push_back(PlanComponent(project, work, cell));
+    for (const WorkComponent& placed : work.WorkComponents) {
+        plan.components.push_back(PlanComponent(placed, work));
         plan.equations += 2;
     }
     return plan;

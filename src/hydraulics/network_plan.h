@@ -12,6 +12,7 @@ namespace idrova {
 /// A pump or loss of the drawing and how it hangs in the network.
 struct Component {
     int cell = 0;
+    CellRec record;
     int pipeA = 0, pipeB = 0;  ///< the pieces on either side; 0 when missing
     int high = 0, low = 0;     ///< the row states p(high) - p(low); 0 when there is no such point
     int signA = 1, signB = 1;  ///< of the two flows in the continuity row
@@ -32,10 +33,7 @@ struct NetworkPlan {
     int Order() const { return equations + knownTerms; }
 };
 
-/// The components belong to the drawing: they have no part in a table or in a single pipe.
-enum class Components { Counted, LeftOut };
-
 /// Numbers drawn pipes, then drawn points, and counts equations and known terms.
-NetworkPlan PlanNetwork(const Project& project, const WorkNetwork& work, Components components);
+NetworkPlan PlanNetwork(const WorkNetwork& work);
 
 }  // namespace idrova

@@ -19,9 +19,9 @@ struct PipeEnds {
 
 class Assembly {
   public:
-    Assembly(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+    Assembly(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
              const PassState& state, ComponentRows rows, LinearSystem& system)
-        : project_(project),
+        : settings_(settings),
           plan_(plan),
           work_(work),
           state_(state),
@@ -68,7 +68,7 @@ class Assembly {
     }
 
     double Hydrostatic(const PipeRec& pipe) const {
-        return project_.FluidDensity * kGravity * (pipe.Z2 - pipe.Z1);
+        return settings_.FluidDensity * kGravity * (pipe.Z2 - pipe.Z1);
     }
 
     /// What the pass starts from: the guess, rounded as the record will hold it, or the given flow.
@@ -100,7 +100,7 @@ class Assembly {
         AddRight(Hydrostatic(pipe));
         if (ends.startUnknown == 0 && ends.endUnknown == 0) return;
         double flow = pipe.FlowRate;
-        const double drop = PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+        const double drop = PipeDrop(settings_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
                                      state_.meanPressure[i]);
         PressureDifference(ends);
         AddRight(pipe.DirectionSign() * drop);
@@ -165,7 +165,7 @@ class Assembly {
         const bool idles = rows_ == ComponentRows::Sloped && state_.componentIdles[component.pipeA];
         const double flow = idles ? 0 : WorkingFlow(component.pipeA);
         const PressureJump jump =
-            JumpAt(project_, project_.Cells[component.cell], component, pipeA, flow, rows_);
+            JumpAt(settings_, component.record, component, pipeA, flow, rows_);
         Add(plan_.pressureUnknown[component.high], 1);
         Add(plan_.pressureUnknown[component.low], -1);
         AddRight(jump.value);
@@ -181,7 +181,7 @@ class Assembly {
         Add(plan_.flowUnknown[component.pipeB], component.signB);
     }
 
-    const Project& project_;
+    const Settings& settings_;
     const NetworkPlan& plan_;
     const WorkNetwork& work_;
     const PassState& state_;
@@ -192,9 +192,10 @@ class Assembly {
 
 }  // namespace
 
-void AssembleNetworkSystem(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
-                           const PassState& state, ComponentRows rows, LinearSystem& system) {
-    Assembly(project, plan, work, state, rows, system).Run();
+void AssembleNetworkSystem(const Settings& settings, const NetworkPlan& plan,
+                           const WorkNetwork& work, const PassState& state, ComponentRows rows,
+                           LinearSystem& system) {
+    Assembly(settings, plan, work, state, rows, system).Run();
 }
 
 }  // namespace idrova

@@ -42,7 +42,8 @@ struct PassState {
 /// Fills the system for one pass: pipe laws (given flows, then unknown ones linearised with R),
 /// known flows, known pressures, continuity at junctions, two rows a component. A given flow
 /// counts without its sign: the pipe's `FlowFromPoint` tells its direction.
-void AssembleNetworkSystem(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
-                           const PassState& state, ComponentRows rows, LinearSystem& system);
+void AssembleNetworkSystem(const Settings& settings, const NetworkPlan& plan,
+                           const WorkNetwork& work, const PassState& state, ComponentRows rows,
+                           LinearSystem& system);
 
 }  // namespace idrova

@@ -21,9 +21,10 @@ bool IsCoherent(const Project& project, const PipeRec& pipe, const PointRec& sta
                 const PointRec& end) {
     const double given = static_cast<double>(start.Pressure) - end.Pressure;
     double flow = pipe.FlowRate;
-    const double computed = pipe.DirectionSign() *
-                            PipeDrop(project, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                                     MeanAbsolutePressure(project, start.Pressure, end.Pressure));
+    const double computed =
+        pipe.DirectionSign() *
+        PipeDrop(project.settings, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+                 MeanAbsolutePressure(project.settings, start.Pressure, end.Pressure));
     if (given == 0) return std::abs(computed) <= kCoherenceAtRest;
     return std::abs(computed - given) / std::abs(given) <= kCoherence;
 }
@@ -62,7 +63,7 @@ bool PipeDataAreComplete(const Project& project, const WorkNetwork& work, Messag
             boxes.Show(ZeroLength(i));
             return false;
         }
-        if (HasZeroSize(project, pipe)) {
+        if (HasZeroSize(project.settings, pipe)) {
             boxes.Show(ZeroDiameter(i));
             return false;
         }

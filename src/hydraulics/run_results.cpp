@@ -56,9 +56,9 @@ void NotePipes(const WorkNetwork& work, const StageResult& result,
 /// The lowest point whose liquid would be torn apart; a gas is told by its pipes.
 void NoteVacuum(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
                 const StageResult& result, std::vector<std::string>& notes) {
-    if (project.EquationType == Equation::Compressible) return;
+    if (project.settings.EquationType == Equation::Compressible) return;
     int lowest = 0;
-    double least = -kAtmosphere - project.BasePressure;
+    double least = -kAtmosphere - project.settings.BasePressure;
     for (int i = 1; i <= work.WorkPointCount; ++i) {
         if (!work.WorkPoints[i].IsDrawn() || result.Pressure(plan, i) >= least) continue;
         least = result.Pressure(plan, i);
@@ -100,7 +100,7 @@ void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const Wor
         if (!work.WorkPipes[i].IsDrawn()) continue;
         largest = std::max(largest, std::abs(result.Flow(plan, i)));
     }
-    const double weight = project.FluidDensity * kGravity;
+    const double weight = project.settings.FluidDensity * kGravity;
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
         if (!pipe.IsDrawn() || !work.WorkFlowUnknown[i]) continue;
@@ -140,8 +140,9 @@ std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& 
         notes.push_back("No pressure is given in the part of the network that holds pipe " +
                         GeneralText(loose));
     }
-    if (project.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
-    if (project.FluidDensity < 0) notes.emplace_back("The density of the fluid is negative");
+    if (project.settings.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
+    if (project.settings.FluidDensity < 0)
+        notes.emplace_back("The density of the fluid is negative");
     NoteVacuum(project, plan, work, result, notes);
     if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
     NotePipes(work, result, notes);
@@ -176,12 +177,12 @@ void AddBasePressure(Project& project, WorkNetwork& work, MessageBoxes& boxes) {
     for (int i = 1; i <= work.WorkPointCount; ++i) {
         PointRec& point = work.WorkPoints[i];
         if (!point.IsDrawn()) continue;
-        point.Pressure += project.BasePressure;
+        point.Pressure += project.settings.BasePressure;
         lowest = std::min(lowest, point.Pressure);
     }
     if (lowest >= 0) return;
-    const MessageBox question = NegativePressures(project.BasePressure / kPascalPerBar);
-    if (boxes.Show(question) == Answer::Yes) project.BasePressure = -lowest;
+    const MessageBox question = NegativePressures(project.settings.BasePressure / kPascalPerBar);
+    if (boxes.Show(question) == Answer::Yes) project.settings.BasePressure = -lowest;
 }
 
 }  // namespace idrova

@@ -117,6 +117,7 @@ std::string SteppedText(const SinglePipe& pipe, PipeQuantity quantity, int steps
 void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work) {
     work.WorkPipeCount = 1;
     work.WorkPointCount = 2;
+    work.WorkComponents.clear();
     PipeRec& record = work.WorkPipes[1];
     record.FlowRate = ToSingle(pipe.flowRate);
     record.Length = ToSingle(pipe.length);
@@ -140,7 +141,7 @@ SinglePipeResult SinglePipeCompute(const SinglePipe& pipe, Project& project, Wor
     if (pipe.diameter == 0 || lengthMissing) return result;
 
     BuildSinglePipeNetwork(pipe, work);
-    const RoundSection round(project);
+    const RoundSection round(project.settings);
     result.outcome = ComputeNetwork(project, work, true, services);
     if (StoresResults(result.outcome.end)) result.box = ComputedText(pipe, work);
     return result;

@@ -20,9 +20,9 @@ constexpr double kJumpTolerance = 1e-3;
 
 class Check {
   public:
-    Check(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+    Check(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
           const PassState& state, StageResult& result)
-        : project_(project), plan_(plan), work_(work), state_(state), result_(result) {}
+        : settings_(settings), plan_(plan), work_(work), state_(state), result_(result) {}
 
     void Run() {
         if (result_.singular) return;
@@ -49,7 +49,7 @@ class Check {
 
     /// Pa.
     double Head(int point, int height) const {
-        return result_.Pressure(plan_, point) + project_.FluidDensity * kGravity * height;
+        return result_.Pressure(plan_, point) + settings_.FluidDensity * kGravity * height;
     }
 
     /// Frictional drop from start to end at the solution's flow, with the sign of that flow.
@@ -57,7 +57,7 @@ class Check {
         const PipeRec& pipe = work_.WorkPipes[i];
         double flow = Flow(i);
         const int sign = flow < 0 ? -pipe.DirectionSign() : pipe.DirectionSign();
-        return sign * PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+        return sign * PipeDrop(settings_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
                                state_.meanPressure[i]);
     }
 
@@ -123,10 +123,10 @@ class Check {
     /// How far the solution lies below the bound at which the mean pressure of the gas law was
     /// held, relative: there is no such flow.
     double PressureBelowBound(int i) const {
-        if (project_.EquationType != Equation::Compressible) return 0;
+        if (settings_.EquationType != Equation::Compressible) return 0;
         const PipeRec& pipe = work_.WorkPipes[i];
         const double mean =
-            kAtmosphere + project_.BasePressure +
+            kAtmosphere + settings_.BasePressure +
             (result_.Pressure(plan_, pipe.StartPoint) + result_.Pressure(plan_, pipe.EndPoint)) / 2;
         return 1 - mean / state_.meanPressure[i];
     }
@@ -134,8 +134,8 @@ class Check {
     bool Idles(int i) const {
         const PipeRec& pipe = work_.WorkPipes[i];
         const double flow = std::abs(Flow(i));
-        const SectionSize section = SectionGeometry(project_, pipe.Diameter, pipe.OuterSize);
-        return ReynoldsNumber(project_, section, flow) < kIdleReynolds &&
+        const SectionSize section = SectionGeometry(settings_, pipe.Diameter, pipe.OuterSize);
+        return ReynoldsNumber(settings_, section, flow) < kIdleReynolds &&
                flow <= kNegligibleShare * largestFlow_;
     }
 
@@ -153,8 +153,8 @@ class Check {
     }
 
     PressureJump JumpOf(const Component& component, double flow, ComponentRows rows) const {
-        return JumpAt(project_, project_.Cells[component.cell], component,
-                      work_.WorkPipes[component.pipeA], flow, rows);
+        return JumpAt(settings_, component.record, component, work_.WorkPipes[component.pipeA],
+                      flow, rows);
     }
 
     void CheckBalance() {
@@ -177,7 +177,7 @@ class Check {
 
     bool IsNone(double flow) const { return std::abs(flow) <= kBalance * largestFlow_; }
 
-    const Project& project_;
+    const Settings& settings_;
     const NetworkPlan& plan_;
     const WorkNetwork& work_;
     const PassState& state_;
@@ -190,9 +190,9 @@ class Check {
 
 }  // namespace
 
-void CheckSolution(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+void CheckSolution(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                    const PassState& state, StageResult& result) {
-    Check(project, plan, work, state, result).Run();
+    Check(settings, plan, work, state, result).Run();
 }
 
 }  // namespace idrova

@@ -15,7 +15,7 @@ constexpr double kMeanPressureTolerance = 1e-6;  ///< on the last move of a mean
 /// Holds the last solution of a stage against the laws themselves, whatever the passes made of
 /// it, and says so in `result`: each pipe, each component, the balance of the junctions. Where
 /// nothing can move, the flows become 0.
-void CheckSolution(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+void CheckSolution(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                    const PassState& state, StageResult& result);
 
 }  // namespace idrova

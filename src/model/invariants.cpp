@@ -110,8 +110,8 @@ void CheckPoint(const Project& project, std::size_t slot, Faults& faults) {
 }
 
 bool IsCrossedByLivePipe(const Project& project, const CellRec& cell) {
-    const bool inRange = cell.Param1 >= 1 && cell.Param1 <= static_cast<float>(project.numtubo);
-    return inRange && project.Pipes[static_cast<std::size_t>(cell.Param1)].IsDrawn();
+    const bool inRange = cell.CrossingPipe >= 1 && cell.CrossingPipe <= project.numtubo;
+    return inRange && project.Pipes[static_cast<std::size_t>(cell.CrossingPipe)].IsDrawn();
 }
 
 void CheckCell(const Project& project, std::size_t slot, Faults& faults) {
@@ -121,8 +121,8 @@ void CheckCell(const Project& project, std::size_t slot, Faults& faults) {
         faults.Check(holds, "cell", slot, rule);
     };
     check(slot <= static_cast<std::size_t>(project.CellCount()), "lie within the grid");
-    check(AreFinite({cell.Param1, cell.Param2, cell.PumpConstant, cell.Direction, cell.PipeAxis,
-                     cell.Result, cell.MinFlow, cell.MaxFlow}),
+    check(AreFinite({cell.Param1, cell.Param2, cell.PumpConstant, cell.Result, cell.MinFlow,
+                     cell.MaxFlow}),
           "have finite numbers");
     const bool crossed = cell.Kind == CellKind::Crossed && IsCrossedByLivePipe(project, cell);
     check(cell.IsComponent() || (crossed && !cell.Placed),

@@ -13,7 +13,7 @@ void MarkCrossed(Project& project, int pipe, int cell) {
     CellRec& crossed = project.Cells[static_cast<std::size_t>(cell)];
     if (crossed.Kind != CellKind::Empty) return;
     crossed.Kind = CellKind::Crossed;
-    crossed.Param1 = static_cast<float>(pipe);
+    crossed.CrossingPipe = static_cast<std::int16_t>(pipe);
 }
 
 void MarkCellsOf(Project& project, int number) {
@@ -40,7 +40,7 @@ std::string WindowTitle(std::string_view name) {
 }
 
 void InitialiseProject(Project& project) {
-    static_cast<Settings&>(project) = Settings{};
+    project.settings = Settings{};
     if (project.ProjectName.empty()) project.ProjectName = kNewProject;
     project.ProjectDescription.clear();
     project.GridSize = 50;

@@ -56,18 +56,25 @@ struct PointRec {
 
 enum class CellKind : std::int16_t { Empty = 0, Pump = 1, Loss = 2, Crossed = 9 };
 
+/// Where a pump delivers to.
+enum class Delivery : std::int16_t { None = 0, Right = 1, Down = 2, Left = 3, Up = 4 };
+
+/// How the pipe of a component lies.
+enum class Axis : std::int16_t { None = 0, Horizontal = 1, Vertical = 2 };
+
 /// One grid cell, with the component placed in it.
 struct CellRec {
     std::string Name;  ///< the component's name in its database
     CellKind Kind = CellKind::Empty;
-    float Param1 = 0;        ///< pump: a, Pa s2/kg2; loss: coefficient; crossed: the pipe's number
+    float Param1 = 0;        ///< pump: a, Pa s2/kg2; loss: coefficient
     float Param2 = 0;        ///< pump: b, Pa s/kg; loss: fixed drop, Pa
     float PumpConstant = 0;  ///< pump: c, Pa; 0 when the constant of the curve is not known
-    float Direction = 0;     ///< pump delivery: 1 right, 2 down, 3 left, 4 up
-    float PipeAxis = 0;      ///< 1 on a horizontal pipe, 2 on a vertical one
-    float Result = 0;        ///< flow of the component's pipe A in the last computation, kg/s
-    bool Placed = false;     ///< True while a component stands in the cell
+    Delivery Direction = Delivery::None;
+    Axis PipeAxis = Axis::None;
+    float Result = 0;     ///< flow of the component's pipe A in the last computation, kg/s
+    bool Placed = false;  ///< True while a component stands in the cell
     float MinFlow = 0, MaxFlow = 0;  ///< pump: range of its curve, kg/s
+    std::int16_t CrossingPipe = 0;   ///< crossed: number of the pipe
 
     bool IsComponent() const { return Kind == CellKind::Pump || Kind == CellKind::Loss; }
     bool operator==(const CellRec&) const = default;
@@ -110,7 +117,8 @@ struct GridGeometry {
 
 /// The one project of the program: its tables, and the settings it is computed with. Large
 /// (about a megabyte): keep it on the heap.
-struct Project : Settings {
+struct Project {
+    Settings settings;
     std::string ProjectName;         ///< full path of the file, or `kNewProject`
     std::string ProjectDescription;  ///< one line
 

@@ -21,11 +21,11 @@ int MeantFluid(const FluidDb& db, const FluidFields& fields) {
 }
 
 void UseFluid(Project& project, int selected, const FluidFields& fields) {
-    project.FluidDensity = ReadNumber(fields.density);
-    project.FluidViscosity = ReadNumber(fields.viscosity);
-    project.FluidCompressibility = ReadNumber(fields.compressibility);
+    project.settings.FluidDensity = ReadNumber(fields.density);
+    project.settings.FluidViscosity = ReadNumber(fields.viscosity);
+    project.settings.FluidCompressibility = ReadNumber(fields.compressibility);
     const std::string number = selected > 0 ? "[" + GeneralText(selected) + "] " : "";
-    project.FluidName = number + fields.name;
+    project.settings.FluidName = number + fields.name;
 }
 
 void TellVolumeFlows(const Project& project, MessageBoxes& boxes) {

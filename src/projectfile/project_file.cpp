@@ -20,12 +20,12 @@ bool FileExists(const fs::path& path) {
 }
 
 void LeaveNetwork(Project& project, const HandOvers& handOvers) {
-    if (project.Mode == WorkMode::Graphic) ResetProject(project, handOvers);
-    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
+    if (project.settings.Mode == WorkMode::Graphic) ResetProject(project, handOvers);
+    if (project.settings.Mode == WorkMode::Table) handOvers.ClearTable();
 }
 
 void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
-    if (project.Mode == WorkMode::Table) handOvers.ClearTable();
+    if (project.settings.Mode == WorkMode::Table) handOvers.ClearTable();
     ResetProject(project, handOvers);
     ClearNetwork(project);
     project.ProjectName = kNewProject;

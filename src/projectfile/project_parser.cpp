@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <algorithm>
 #include <bitset>
+#include <cmath>
 
 #include "base/number_text.h"
 #include "projectfile/project_content.h"
@@ -56,6 +57,14 @@ ProjectContent::Point ReadPoint(ProjectLines& lines, int cellCount) {
     return point;
 }
 
+/// Any number that names nothing is `None`.
+template <typename Name>
+Name NamedBy(float number, Name last) {
+    const bool names =
+        number >= 1 && number <= static_cast<float>(last) && number == std::floor(number);
+    return names ? static_cast<Name>(static_cast<int>(number)) : Name::None;
+}
+
 ProjectContent::Component ReadComponent(ProjectLines& lines, int cellCount) {
     ProjectContent::Component component;
     CellRec& record = component.record;
@@ -66,8 +75,8 @@ ProjectContent::Component ReadComponent(ProjectLines& lines, int cellCount) {
     record.Kind = static_cast<CellKind>(lines.Whole(lowest, highest));
     record.Param1 = lines.Single();
     record.Param2 = lines.Single();
-    record.Direction = lines.Single();
-    record.PipeAxis = lines.Single();
+    record.Direction = NamedBy<Delivery>(lines.Single(), Delivery::Up);
+    record.PipeAxis = NamedBy<Axis>(lines.Single(), Axis::Vertical);
     record.MinFlow = lines.Single();
     record.MaxFlow = lines.Single();
     record.Name = lines.Text();

@@ -97,7 +97,8 @@ void WriteComponents(PrintZoneWriter& out, const Project& project, const std::ve
     for (const int number : cells) {
         const CellRec& cell = project.Cells[static_cast<std::size_t>(number)];
         NumberLine(out, number, static_cast<int>(cell.Kind), cell.Param1, cell.Param2,
-                   cell.Direction, cell.PipeAxis, cell.MinFlow, cell.MaxFlow);
+                   static_cast<int>(cell.Direction), static_cast<int>(cell.PipeAxis), cell.MinFlow,
+                   cell.MaxFlow);
         TextLine(out, cell.Name);
         NumberLine(out, Flag(cell.Placed));
     }

@@ -49,18 +49,18 @@ class ReportPrinter {
         out_.Text(kVersionNumber).Text(kVersionRelease).Text(")").NextZone();
         out_.Text(when.date).NextZone().Text(when.time).EndLine();
         out_.Text("Project: ").NextZone().Text(project_.ProjectName).EndLine();
-        out_.Text("Mode: ").Text(ModeText(project_.Mode)).EndLine();
+        out_.Text("Mode: ").Text(ModeText(project_.settings.Mode)).EndLine();
     }
 
     void Conditions() {
-        const bool gas = project_.EquationType == Equation::Compressible;
-        const bool circular = project_.SectionType == Section::Circular;
+        const bool gas = project_.settings.EquationType == Equation::Compressible;
+        const bool circular = project_.settings.SectionType == Section::Circular;
         EmptyLine();
-        out_.Text("Fluid: ").Text(project_.FluidName).EndLine();
-        out_.Text("Density [kg/mc]: ").NextZone().Number(project_.FluidDensity).NextZone();
-        out_.Text("viscosity: ").NextZone().Number(project_.FluidViscosity).EndLine();
+        out_.Text("Fluid: ").Text(project_.settings.FluidName).EndLine();
+        out_.Text("Density [kg/mc]: ").NextZone().Number(project_.settings.FluidDensity).NextZone();
+        out_.Text("viscosity: ").NextZone().Number(project_.settings.FluidViscosity).EndLine();
         EmptyLine();
-        out_.Text("Roughness[m]: ").NextZone().Number(project_.Roughness).EndLine();
+        out_.Text("Roughness[m]: ").NextZone().Number(project_.settings.Roughness).EndLine();
         EmptyLine();
         out_.Text("Correlation: ").NextZone();
         Line(gas ? "Compressible gas" : "Incompressible fluid");
@@ -79,7 +79,7 @@ class ReportPrinter {
 
     void PressureDifferences() {
         ForDrawnPipes([this](int number, const PipeRec& pipe) {
-            const PipeFigures figures = FiguresOf(pipe, work_, project_);
+            const PipeFigures figures = FiguresOf(pipe, work_, project_.settings);
             out_.Text("pipe" + StrText(number)).NextZone();
             out_.Text("P" + StrText(int{pipe.StartPoint}) + "-P" + StrText(int{pipe.EndPoint}));
             out_.NextZone().Text("[Pa]").NextZone().Number(figures.drop).NextZone();
@@ -127,9 +127,9 @@ class ReportPrinter {
     }
 
     void Point(int number, const PointRec& point) {
-        const bool bar = project_.PressureUnit == Unit::Bar;
+        const bool bar = project_.settings.PressureUnit == Unit::Bar;
         const bool known = !work_.WorkPressureUnknown[number];
-        const float shown = point.Pressure / project_.PressureUnitFactor;
+        const float shown = point.Pressure / project_.settings.PressureUnitFactor;
         out_.Text("Point" + StrText(number)).NextZone();
         out_.Text("Pressure [Pa],").Text(bar ? "[bar]" : "[mbar]").NextZone();
         out_.Number(point.Pressure).NextZone();
@@ -138,11 +138,12 @@ class ReportPrinter {
     }
 
     void PipeBlock(int number, const PipeRec& pipe) {
-        const PipeFigures figures = FiguresOf(pipe, work_, project_);
+        const PipeFigures figures = FiguresOf(pipe, work_, project_.settings);
         out_.Text("pipe").NextZone().Number(number).EndLine();
         out_.Text("   Flow rate [kg/h],[mc/h]").NextZone();
         out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour)).NextZone();
-        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour / project_.FluidDensity)).EndLine();
+        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour / project_.settings.FluidDensity))
+            .EndLine();
         SectionLine(pipe);
         Row("   Lenght [m]", pipe.Length);
         out_.Text("   Height [m] Z1").NextZone().Number(int{pipe.Z1}).NextZone();
@@ -153,7 +154,7 @@ class ReportPrinter {
 
     void SectionLine(const PipeRec& pipe) {
         const float side = ScaledSingle(pipe.Diameter, kMillimetresPerMetre);
-        if (project_.SectionType == Section::Circular) {
+        if (project_.settings.SectionType == Section::Circular) {
             out_.Text("   Diameter [mm]").NextZone().Number(side).NextZone();
             return Line(NominalDesignation(pipe.Diameter));
         }

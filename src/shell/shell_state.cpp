@@ -16,7 +16,7 @@ ModeView ViewOf(WorkMode mode) {
 }
 
 void EnterMode(WorkMode mode, Project& project, ShellState& shell) {
-    project.Mode = mode;
+    project.settings.Mode = mode;
     shell.HintsShown = mode == WorkMode::Graphic;
 }
 

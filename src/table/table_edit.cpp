@@ -43,7 +43,7 @@ class RowEdit {
     }
 
     void TypePressure(const RowEnd& end, std::string_view text) {
-        const CellUnit unit = UnitOf(project_, end.pressureColumn);
+        const CellUnit unit = UnitOf(project_.settings, end.pressureColumn);
         SetPressure(end, {std::string(text), unit.Stored(ReadNumber(text))});
     }
 
@@ -52,7 +52,7 @@ class RowEdit {
 
     PressureCell CopyOf(const TableRowRec& row, const RowEnd& end) const {
         if (!(row.*end.given)) return {};
-        const CellUnit unit = UnitOf(project_, end.pressureColumn);
+        const CellUnit unit = UnitOf(project_.settings, end.pressureColumn);
         return {unit.TextOf(row.*end.pressure), row.*end.pressure};
     }
 
@@ -106,7 +106,7 @@ void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::s
 
     texts.Set(row, column, text);
     const double number = ReadNumber(text);
-    const float stored = UnitOf(project, column).Stored(number);
+    const float stored = UnitOf(project.settings, column).Stored(number);
     TableRowRec& data = edit.Row();
     switch (column) {
         case kStartPoint:

@@ -103,6 +103,7 @@ bool TableToNetwork(Project& project, const TableTexts& texts, WorkNetwork& work
     }
     work.WorkPipeCount = project.numins;
     work.WorkPointCount = points;
+    work.WorkComponents.clear();
     for (int row = kFirstTableRow; row < kFirstTableRow + project.numins; ++row) {
         ConvertRow(project, texts, row, work);
     }

@@ -15,7 +15,7 @@ void FillRow(const Project& project, TableTexts& texts, int row) {
     const TableRowRec& data = project.TableRows[row];
     const auto fill = [&](int column, float value, bool given = false) {
         if (value == 0 && !given) return;
-        texts.Set(row, column, UnitOf(project, column).TextOf(value));
+        texts.Set(row, column, UnitOf(project.settings, column).TextOf(value));
     };
     fill(kStartPoint, data.StartPoint);
     fill(kEndPoint, data.EndPoint);

@@ -122,12 +122,13 @@ TEST(Components, TakeTheirDataFromTheChoice) {
     const CellRec& pump = plant.project.Cells[plant.Place(4, 5)];
     EXPECT_EQ(pump.Name, "feed pump");
     const ComponentChoice& choice = plant.editor.choice;
-    EXPECT_THAT((std::vector{pump.Direction, pump.PipeAxis, pump.MinFlow, pump.MaxFlow}),
-                ElementsAre(1, 1, 0.5F, 2));
+    EXPECT_EQ(pump.Direction, Delivery::Right);
+    EXPECT_EQ(pump.PipeAxis, Axis::Horizontal);
+    EXPECT_THAT((std::vector{pump.MinFlow, pump.MaxFlow}), ElementsAre(0.5F, 2));
     EXPECT_THAT((std::vector<double>{pump.Param1, pump.Param2, pump.PumpConstant}),
                 Pointwise(FloatEq(), {choice.CompValue1, choice.CompValue2, choice.CompValue3}));
     EXPECT_NE(pump.PumpConstant, 0);
-    EXPECT_EQ(plant.project.Cells[plant.Place(2, 8)].Direction, 2);
+    EXPECT_EQ(plant.project.Cells[plant.Place(2, 8)].Direction, Delivery::Down);
     const PipeRec& piece = plant.project.Pipes[3];
     EXPECT_EQ(piece.Length, 12);
     EXPECT_EQ(piece.Diameter, 0.05F);

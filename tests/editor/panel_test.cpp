@@ -10,7 +10,7 @@ namespace {
 /// One pipe, selected, in a project with a fluid.
 struct PipePlant : Plant {
     PipePlant() {
-        project.FluidDensity = 1000;
+        project.settings.FluidDensity = 1000;
         Do("L2,5 L8,5 R5,5 again");
     }
 };
@@ -46,7 +46,7 @@ TEST(Panel, TakesPressuresInTheUnitShown) {
     PipePlant plant;
     plant.Do("end1=given p1=2");
     EXPECT_EQ(plant.project.Points[1].Pressure, 202650);
-    ChoosePressureUnit(plant.project, Unit::MilliBar);
+    ChoosePressureUnit(plant.project.settings, Unit::MilliBar);
     plant.Do("again p1:2000./ p1=1000 again p1:1000./");
     EXPECT_EQ(plant.project.Points[1].Pressure, 101325);
     EXPECT_EQ(plant.panel.unitLabel, "[mbar]");
@@ -67,7 +67,7 @@ TEST(Panel, IsEmptyWithoutAPipe) {
 
 TEST(Panel, NeedsAFluidForVolumeFlows) {
     PipePlant plant;
-    plant.project.FluidDensity = 0;
+    plant.project.settings.FluidDensity = 0;
     plant.Do("flow=given kg/h=36 mc/h: mc/h=5 mc/h: again kg/h:36");
     EXPECT_EQ(plant.Messages(), "To insert the volumetric flow rate select a fluid");
 }
@@ -94,7 +94,7 @@ TEST(Panel, ShowsAPipeAsItIs) {
 
 TEST(Panel, LeavesTheSidesOfARectangleAlone) {
     PipePlant plant;
-    plant.project.SectionType = Section::Rectangular;
+    plant.project.settings.SectionType = Section::Rectangular;
     plant.Do("again inner=53.8 outer=200 size:0 R5,5 again outer:200 size:0");
     EXPECT_EQ(plant.panel.section.firstSideLabel, "a [mm]");
 }

@@ -63,12 +63,12 @@ TEST(PlantDrawing, ShowsWhatTheScriptLeaves) {
 TEST(PlantDrawing, IconsFollowKindAndDirection) {
     CellRec cell;
     cell.Kind = CellKind::Pump;
-    cell.Direction = 1;
+    cell.Direction = Delivery::Right;
     EXPECT_EQ(IconFile(cell), "");
     cell.Placed = true;
-    const Lines expected = {"IMG\\arrt.ico", "IMG\\ardn.ico", "IMG\\arlt.ico", "IMG\\arup.ico", ""};
-    for (int direction = 1; direction <= 5; ++direction) {
-        cell.Direction = static_cast<float>(direction);
+    const Lines expected = {"IMG\\arrt.ico", "IMG\\ardn.ico", "IMG\\arlt.ico", "IMG\\arup.ico"};
+    for (int direction = 1; direction <= 4; ++direction) {
+        cell.Direction = static_cast<Delivery>(direction);
         EXPECT_EQ(IconFile(cell), expected[direction - 1]) << direction;
     }
 }

@@ -27,7 +27,7 @@ int ActionsPerSeed() {
 class RandomUser {
   public:
     explicit RandomUser(unsigned seed) : random_(seed) {
-        plant.project.FluidDensity = 998.2;
+        plant.project.settings.FluidDensity = 998.2;
         handOvers_.ClearDrawing = [this] { ClearDrawing(plant.editor); };
         handOvers_.ShowNetwork = [this] { RedrawProject(plant.project, plant.editor); };
     }

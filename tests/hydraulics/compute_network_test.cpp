@@ -34,7 +34,7 @@ double Root(Function f, double low, double high) {
 double Drop(const Project& project, int pipe, double flow) {
     const PipeRec& record = project.Pipes[pipe];
     const int sign = flow < 0 ? -1 : 1;
-    return sign * PipeDrop(project, record.Diameter, 0, flow, record.Length, kAtmosphere);
+    return sign * PipeDrop(project.settings, record.Diameter, 0, flow, record.Length, kAtmosphere);
 }
 
 struct Line {
@@ -142,7 +142,7 @@ TEST(ComputeNetwork, GasPipeMeetsTheIsothermalSolution) {
     const double gas = 0.98 * 101325 / (1.2929 * 273.15) * 293.15;  // Z R T / M
     const double q = Root(
         [&](double flow) {
-            const double f = FrictionFactor(*network, 0.05, 0, flow);
+            const double f = FrictionFactor(network->settings, 0.05, 0, flow);
             return squares - 4 * f * 1e4 * std::pow(flow / area, 2) * gas;
         },
         1e-3, 10);

@@ -55,7 +55,7 @@ class LawCheck {
         double flow = pipe.FlowRate;
         const double sign = Sign({pipe.EndPoint, &pipe}) * (flow < 0 ? -1 : 1);
         const double mean = kAtmosphere + (Pressure(pipe.StartPoint) + Pressure(pipe.EndPoint)) / 2;
-        return sign * PipeDrop(project_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
+        return sign * PipeDrop(project_.settings, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
                                std::max(mean, 1000.0));
     }
 
@@ -76,11 +76,12 @@ class LawCheck {
     }
 
     void CheckPipe(int i, const PipeRec& pipe) {
-        const SectionSize section = SectionGeometry(project_, pipe.Diameter, pipe.OuterSize);
-        const bool idles = ReynoldsNumber(project_, section, pipe.FlowRate) < 20 &&
+        const SectionSize section =
+            SectionGeometry(project_.settings, pipe.Diameter, pipe.OuterSize);
+        const bool idles = ReynoldsNumber(project_.settings, section, pipe.FlowRate) < 20 &&
                            std::abs(pipe.FlowRate) <= 1e-4 * largestFlow_;
         if (idles) return;  // the friction formula has its pole there
-        const double climb = project_.FluidDensity * 9.81 * (pipe.Z2 - pipe.Z1);
+        const double climb = project_.settings.FluidDensity * 9.81 * (pipe.Z2 - pipe.Z1);
         const double loss = Pressure(pipe.StartPoint) - Pressure(pipe.EndPoint) - climb;
         Hold("pipe ", i, loss - Drop(pipe), PressureTolerance());
     }
@@ -94,7 +95,8 @@ class LawCheck {
         const double area = 3.1415 / 4 * a.second->Diameter * a.second->Diameter;
         double rise = cell.PumpConstant - cell.Param2;
         double byFlow = cell.Param1 * flow * flow;
-        if (cell.Kind == CellKind::Loss) byFlow /= -2 * project_.FluidDensity * area * area;
+        if (cell.Kind == CellKind::Loss)
+            byFlow /= -2 * project_.settings.FluidDensity * area * area;
         if (!cell.Placed) rise = byFlow = 0;
         const double misfit = toB * (Pressure(b.first) - Pressure(a.first)) - rise - byFlow;
         Hold("component ", number, misfit,
@@ -105,8 +107,9 @@ class LawCheck {
     static int DeliverySide(const CellRec& cell, const PipeRec& a, const PipeRec& b) {
         const int right = b.X1 + b.X2 - a.X1 - a.X2;
         const int down = b.Y1 + b.Y2 - a.Y1 - a.Y2;
-        const int along = cell.Direction == 1 || cell.Direction == 3 ? right : down;
-        return (along > 0) == (cell.Direction < 3) ? 1 : -1;
+        const int along =
+            cell.Direction == Delivery::Right || cell.Direction == Delivery::Left ? right : down;
+        return (along > 0) == (cell.Direction < Delivery::Left) ? 1 : -1;
     }
 
     const Project& project_;

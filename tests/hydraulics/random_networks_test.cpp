@@ -67,7 +67,7 @@ class RandomNetwork {
         pipes_[a] = pipes_[b] = 0;
         CellRec& cell = network.AddComponent(a, Chance(2) ? CellKind::Pump : CellKind::Loss);
         cell.Placed = !Chance(5);
-        cell.Direction = static_cast<float>(vertical_ ? Whole(1, 2) * 2 : Whole(0, 1) * 2 + 1);
+        cell.Direction = static_cast<Delivery>(vertical_ ? Whole(1, 2) * 2 : Whole(0, 1) * 2 + 1);
         if (cell.Kind == CellKind::Pump) {
             cell.Param1 = -Real(0, 5000);
             cell.PumpConstant = Real(1e4, 5e5);

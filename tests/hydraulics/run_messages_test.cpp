@@ -43,7 +43,7 @@ void OverdetermineFirstPipe(NetworkBuilder& network) {
 
 void TooCold(NetworkBuilder& network) {
     MakeAir(*network);
-    network->FluidTemperature = -273.15F;
+    network->settings.FluidTemperature = -273.15F;
 }
 
 void ForgetSizes(NetworkBuilder& network) {
@@ -70,13 +70,14 @@ const struct {
     const char *title, *text;
     RunEnd end = RunEnd::Refused;
 } kRefusals[] = {
-    {[](auto& n) { n->FluidDensity = 0; }, "Fluid", "Select a fluid"},
-    {[](auto& n) { n->EquationType = Equation::Compressible; }, "Compressibilitynot defined",
-     "The selected fluid is uncompressible"},
+    {[](auto& n) { n->settings.FluidDensity = 0; }, "Fluid", "Select a fluid"},
+    {[](auto& n) { n->settings.EquationType = Equation::Compressible; },
+     "Compressibilitynot defined", "The selected fluid is uncompressible"},
     {TooCold, "Calculation data", "The temperature is not above absolute zero (-273.15 °C)"},
     {ForgetSizes, "Check", "Pipe  1 with zero lenght"},
     {[](auto& n) { n->Pipes[1].Diameter = 0; }, "Check", "Pipe  1 with zero diameter"},
-    {[](auto& n) { n->SectionType = Section::Rectangular; }, "Check", "Pipe  1 with zero diameter"},
+    {[](auto& n) { n->settings.SectionType = Section::Rectangular; }, "Check",
+     "Pipe  1 with zero diameter"},
     {[](auto& n) { n = PumpedPipe(); }, "Unsolving system",
      " 6 Unknowns >  4 Equations + 1 Known terms\rSet  1 flow rates and/or pressures"},
     {[](auto& n) { n.SetFlow(1, 1); }, "Indefinite system",
@@ -120,7 +121,7 @@ TEST(RunMessages, NegativePressuresOfferABasePressure) {
             " automatically define a new value for the base pressure ?\rActual value =  0 bar",
             "Pressure check", BoxIcon::Information, BoxButtons::YesNo);
         EXPECT_EQ(run.boxes.shown, Boxes{question});
-        EXPECT_EQ(network->BasePressure, answer == Answer::Yes ? 20000 : 0);
+        EXPECT_EQ(network->settings.BasePressure, answer == Answer::Yes ? 20000 : 0);
     }
 }
 
@@ -131,7 +132,7 @@ TEST(RunMessages, PumpsOutOfRangeAreListedInDrawnNetworksOnly) {
         NetworkBuilder network = PumpedPipe();
         network.SetFlow(1, 1);
         if (table) {
-            network->Mode = WorkMode::Table;
+            network->settings.Mode = WorkMode::Table;
             for (const int point : {3, 4}) network.SetPressure(point, 3e5F);
         }
         CellRec& pump = network->Cells[network->Points[2].Cell];
@@ -146,8 +147,8 @@ TEST(RunMessages, PumpsOutOfRangeAreListedInDrawnNetworksOnly) {
 TEST(RunNotes, TellWhatNoPlantCanHave) {
     NetworkBuilder network = LoopedNetwork(2, 1);
     EXPECT_THAT(NetworkRun(network).outcome.notes, testing::IsEmpty());
-    network->BasePressure = -1e9F;
-    network->FluidViscosity = 0;
+    network->settings.BasePressure = -1e9F;
+    network->settings.FluidViscosity = 0;
     EXPECT_THAT(NetworkRun(network).outcome.notes,
                 testing::ElementsAre("The fluid has no viscosity",
                                      testing::HasSubstr("would be below a vacuum")));

@@ -13,9 +13,9 @@ namespace {
 TEST(SinglePipe, FindsEachUnknownAndNothingWithoutAPipe) {
     const auto project = std::make_unique<Project>();
     const auto work = std::make_unique<WorkNetwork>();
-    project->FluidDensity = 998.2;
-    project->FluidViscosity = 0.001002;
-    project->BasePressure = -1e6F;
+    project->settings.FluidDensity = 998.2;
+    project->settings.FluidViscosity = 0.001002;
+    project->settings.BasePressure = -1e6F;
     project->Cells[7].Kind = CellKind::Pump;  // belongs to the drawing
     const auto before = std::make_unique<Project>(*project);
     ScriptedBoxes boxes;

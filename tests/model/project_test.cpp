@@ -15,7 +15,7 @@ namespace {
 
 TEST(Project, StartsEmptyAndResetLeavesAllButTheNetwork) {
     auto project = SampleProject();
-    project->Mode = WorkMode::Table;
+    project->settings.Mode = WorkMode::Table;
     InitialiseProject(*project);
     EXPECT_EQ(WindowTitle(project->ProjectName), "Idrova 2.6.3 - [New project]");
     EXPECT_EQ(*project, *NewTestProject());
@@ -47,7 +47,7 @@ TEST(Invariants, EveryBreachIsFound) {
         {[](Project& p) { p.Points[2].Cell = 9; }, "point 2 must lie in the centre"},
         {[](Project& p) { p.CellIsNode[50] = false; }, "point 2 must mark its cell"},
         {[](Project& p) { p.Cells[9].Placed = true; }, "cell 9 must hold a component"},
-        {[](Project& p) { p.Cells[9].Param1 = 3; }, "cell 9 must hold a component"},
+        {[](Project& p) { p.Cells[9].CrossingPipe = 3; }, "cell 9 must hold a component"},
         {[](Project& p) { p.Cells[2501].Kind = CellKind::Loss; }, "cell 2501 must lie within"},
         {[](Project& p) { p.TableRows[2].RowZ2 = NAN; }, "table row 2 must have finite"},
         {[](Project& p) { p.TableRows[2].P1Given = false; }, "table row 2 must have its values"},

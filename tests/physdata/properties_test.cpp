@@ -23,14 +23,14 @@ TEST(Fluids, UseTakesTheTypedValues) {
     UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""});
     project->numtubo = 1;  // a slot whose pipe was deleted
     TellVolumeFlows(*project, boxes);
-    EXPECT_EQ(project->FluidName, "[7] Water");
-    EXPECT_EQ(FluidPropertyLabel(*project), " 1500 kg/mc ; 1.500E3 Ns/mq");
+    EXPECT_EQ(project->settings.FluidName, "[7] Water");
+    EXPECT_EQ(FluidPropertyLabel(project->settings), " 1500 kg/mc ; 1.500E3 Ns/mq");
     project->Pipes[1].X1 = 10;
     boxes.Expect(kRedefineVolumeFlows);
     TellVolumeFlows(*project, boxes);
     UseFluid(*project, 0, kWater);
-    EXPECT_EQ(project->FluidName, "Water 20 °C");
-    EXPECT_EQ(project->FluidViscosity, 1.002e-3);
+    EXPECT_EQ(project->settings.FluidName, "Water 20 °C");
+    EXPECT_EQ(project->settings.FluidViscosity, 1.002e-3);
 }
 
 TEST(Fluids, ANameAloneMeansItsRecord) {

@@ -146,7 +146,7 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
     for (const Case& c : cases) {
         project = SampleProject();
         project->ProjectName = "mine.iv";
-        project->Mode = c.mode;
+        project->settings.Mode = c.mode;
         const Project before = *project;
         if (c.box) boxes.Expect(*c.box);
         EXPECT_EQ(Confirm(FilePurpose::Open, c.name), c.state != stays) << c.name;

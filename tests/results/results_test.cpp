@@ -18,9 +18,9 @@ using testing::HasSubstr;
 TEST(Report, IsPrintedLineByLine) {
     const auto project = std::make_unique<Project>();
     project->ProjectName = "/plants/Caffè.iv";
-    project->FluidName = "[3] Water 20 C";
-    project->FluidDensity = 998.2;
-    project->FluidViscosity = .001002;
+    project->settings.FluidName = "[3] Water 20 C";
+    project->settings.FluidDensity = 998.2;
+    project->settings.FluidViscosity = .001002;
     project->Cells[7] = {.Name = "Gate valve", .Kind = CellKind::Loss, .Param1 = .2F};
     project->Cells[9] = {.Name = "Removed", .Kind = CellKind::Pump};
     project->Cells[11] = {.Name = "Filter", .Kind = CellKind::Loss, .Param1 = 1.5F, .Param2 = 5000};
@@ -93,7 +93,7 @@ TEST(Report, IsPrintedLineByLine) {
     std::string text;
     for (const std::string& line : expected) text += line + "\r\n";
     EXPECT_EQ(ReportText(*project, *work, time), text);
-    project->SectionType = Section::Rectangular;
+    project->settings.SectionType = Section::Rectangular;
     EXPECT_THAT(ReportText(*project, *work, time),
                 HasSubstr("   Side a [mm]               28           "
                           "   Side b [mm]               65.4 \r\n"));

@@ -17,14 +17,14 @@ struct AssembledNetwork {
         : network(std::move(drawn)) {
         std::mt19937 random(seed);
         CopyNetwork(*network, *work);
-        plan = PlanNetwork(*network, *work, Components::Counted);
+        plan = PlanNetwork(*work);
         for (int i = 1; i <= work->WorkPipeCount; ++i) {
             const PipeRec& pipe = work->WorkPipes[i];
             double flow = std::uniform_real_distribution<double>(0.1, 5)(random);
             state.guess[i] = random() % 2 == 0 ? flow : -flow;
             state.meanPressure[i] = kAtmosphere;
-            const double drop = PipeDrop(*network, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                                         state.meanPressure[i]);
+            const double drop = PipeDrop(network->settings, pipe.Diameter, pipe.OuterSize, flow,
+                                         pipe.Length, state.meanPressure[i]);
             state.resistance[i] = static_cast<float>(drop / flow);
         }
     }
@@ -36,7 +36,7 @@ struct AssembledNetwork {
     }
 
     void Assemble(LinearSystem& system, ComponentRows rows = ComponentRows::Lagged) {
-        AssembleNetworkSystem(*network, plan, *work, state, rows, system);
+        AssembleNetworkSystem(network->settings, plan, *work, state, rows, system);
     }
 
     NetworkBuilder network;

@@ -58,7 +58,7 @@ void CheckCell(const Project& project, int number, int points, int crossing, Fau
     }
     if ((cell.Kind == CellKind::Crossed) != (crossing != 0)) {
         faults.push_back(Named("the crossing mark is wrong in cell", number));
-    } else if (crossing != 0 && cell.Param1 != static_cast<float>(crossing)) {
+    } else if (crossing != 0 && cell.CrossingPipe != crossing) {
         faults.push_back(Named("not the lowest crossing pipe in cell", number));
     }
 }

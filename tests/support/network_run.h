@@ -21,11 +21,11 @@ inline NetworkBuilder CutPipe(CellKind kind, float length = 100, float diameter 
 }
 
 inline void MakeAir(Project& project) {
-    project.FluidDensity = 1.2929;  // at 0 degrees Celsius and one atmosphere
-    project.FluidViscosity = 1.8e-5;
-    project.FluidCompressibility = 0.98;
-    project.FluidTemperature = 20;
-    project.EquationType = Equation::Compressible;
+    project.settings.FluidDensity = 1.2929;  // at 0 degrees Celsius and one atmosphere
+    project.settings.FluidViscosity = 1.8e-5;
+    project.settings.FluidCompressibility = 0.98;
+    project.settings.FluidTemperature = 20;
+    project.settings.EquationType = Equation::Compressible;
 }
 
 /// One run of a drawn network, and what came of it.
@@ -33,6 +33,7 @@ struct NetworkRun {
     explicit NetworkRun(NetworkBuilder& network, std::uint32_t seed = 1, Answer yesNo = Answer::No)
         : boxes(yesNo) {
         CopyNetwork(*network, *work);
+        if (network->settings.Mode == WorkMode::Table) work->WorkComponents.clear();
         outcome =
             ComputeNetwork(*network, *work, false,
                            {.boxes = boxes, .writeReport = [this] { ++reports; }, .seed = seed});

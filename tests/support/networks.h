@@ -16,9 +16,9 @@ class NetworkBuilder {
     /// With `points` points in a row.
     explicit NetworkBuilder(int points = 0) : project_(std::make_unique<Project>()) {
         InitialiseProject(*project_);
-        project_->FluidDensity = 1000;
-        project_->FluidViscosity = 1e-3;
-        project_->FluidName = "Water";
+        project_->settings.FluidDensity = 1000;
+        project_->settings.FluidViscosity = 1e-3;
+        project_->settings.FluidName = "Water";
         for (int i = 1; i <= points; ++i) AddPoint(2 * i, 2);
     }
 
@@ -65,8 +65,8 @@ class NetworkBuilder {
         CellRec& cell = project_->Cells[project_->Points[point].Cell];
         cell.Kind = kind;
         cell.Placed = true;
-        cell.Direction = 1;
-        cell.PipeAxis = 1;
+        cell.Direction = Delivery::Right;
+        cell.PipeAxis = Axis::Horizontal;
         cell.MaxFlow = 1e6F;
         return cell;
     }

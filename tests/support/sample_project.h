@@ -61,8 +61,16 @@ inline std::unique_ptr<Project> SampleProject() {
     project.Points[6] = {0, -10, -10, 0};
     project.PressureUnknown[1] = false;
     for (const std::size_t cell : {1U, 50U, 100U, 2500U}) project.CellIsNode[cell] = true;
-    project.Cells[25] = {"Pump, big n. 1", CellKind::Pump, -150.25F, 10, 0, 1, 1, 0, true, .5F, 3};
-    project.Cells[100] = {"Valve", CellKind::Loss, .2F, 0, 0, 0, 0, 0, false, 0, 0};
+    project.Cells[25] = {.Name = "Pump, big n. 1",
+                         .Kind = CellKind::Pump,
+                         .Param1 = -150.25F,
+                         .Param2 = 10,
+                         .Direction = Delivery::Right,
+                         .PipeAxis = Axis::Horizontal,
+                         .Placed = true,
+                         .MinFlow = .5F,
+                         .MaxFlow = 3};
+    project.Cells[100] = {.Name = "Valve", .Kind = CellKind::Loss, .Param1 = .2F};
     project.TableRows[2] = {1, 303975, 2, 0, .0279F, 10, 0, 1.5F, 0, true, false, false};
     project.TableRows[3] = {2, 0, 3, 101325, .0416F, 5, .25F, 0, -1, false, true, true};
     project.numins = 2;

@@ -127,7 +127,7 @@ TEST_F(TableEdit, CopiesOfAPressureAreExact) {
 }
 
 TEST_F(TableEdit, FilledTableTypedAgainGivesTheSameRows) {
-    project->PressureUnitFactor = kPascalPerMilliBar;
+    project->settings.PressureUnitFactor = kPascalPerMilliBar;
     Type("2.1=1;2.2=3.217;2.3=2;2.4=0;2.6=65.4;2.7=.35;2.8=8.1;2.9=2.6");
     const TableRowRec typed = Row(2);
     EXPECT_NEAR(typed.StartPressure, 325.9625, 1e-4);

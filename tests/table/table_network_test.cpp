@@ -70,9 +70,8 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
                         pipe.Length, pipe.FlowRate, 0, 0, !drawn->PressureUnknown[pipe.StartPoint],
                         !drawn->PressureUnknown[pipe.EndPoint], !drawn->FlowUnknown[i]});
     }
-    const Settings& settings = *drawn;
-    static_cast<Settings&>(*project) = settings;
-    project->Mode = WorkMode::Table;
+    project->settings = drawn->settings;
+    project->settings.Mode = WorkMode::Table;
     Load(rows);
     ASSERT_TRUE(Convert());
     EXPECT_EQ(ComputeNetwork(*project, *work, false, {.boxes = boxes, .seed = 2}).end,

@@ -66,7 +66,7 @@ TEST_F(MainWindow, TypedSettingsAreTaken) {
     ASSERT_NE(Window("FrmRug"), nullptr) << "a negative one is not";
     Do("Text1=.00025;Text1!");
     EXPECT_EQ(Window("FrmRug"), nullptr);
-    EXPECT_EQ(project.Roughness, 0.00025);
+    EXPECT_EQ(project.settings.Roughness, 0.00025);
     EXPECT_EQ(Shown("RoughnessLabel"), "2.50E-4");
     EXPECT_TRUE(Item("tt").isChecked() && !Item("t1").isChecked());
 
@@ -80,14 +80,14 @@ TEST_F(MainWindow, TypedSettingsAreTaken) {
     Open("Editor", "FrmCon");
     EXPECT_EQ(Shown("Combo1"), editor);
 
-    project.BasePressure = 202650;
-    project.FluidTemperature = 20.5F;
+    project.settings.BasePressure = 202650;
+    project.settings.FluidTemperature = 20.5F;
     Open("PresMini", "FrmPMin");
     EXPECT_EQ(Shown("Text1 Text2"), "2|20.5");
     Do("Text1=3;Text2=cold;Command1");
     EXPECT_EQ(Window("FrmPMin"), nullptr);
-    EXPECT_EQ(project.BasePressure, 303975);
-    EXPECT_EQ(project.FluidTemperature, 0);
+    EXPECT_EQ(project.settings.BasePressure, 303975);
+    EXPECT_EQ(project.settings.FluidTemperature, 0);
 }
 
 TEST_F(MainWindow, FastSettingsReachEveryPipeAndThePanel) {

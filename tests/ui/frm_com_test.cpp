@@ -12,7 +12,7 @@ namespace {
 class CommandPanel : public DrawingWindow {
   protected:
     CommandPanel() {
-        project.FluidDensity = 1000;
+        project.settings.FluidDensity = 1000;
         Draw(2, 5, 8, 5);
         Select(5, 5);
     }
@@ -52,7 +52,7 @@ TEST_F(CommandPanel, EveryBoxReachesItsFieldAndMayBeRefused) {
     Do("Text7=53");
     EXPECT_EQ(Child<QComboBox>("Combo2").currentIndex(), -1);
 
-    project.FluidDensity = 0;
+    project.settings.FluidDensity = 0;
     Child<QLineEdit>("Text13").setFocus();
     boxes.Expect(kFluidForVolumeFlow);
     Do("Text13:5");

@@ -13,8 +13,8 @@ namespace {
 class SinglePipeWindow : public MainWindow {
   protected:
     SinglePipeWindow() {
-        project.FluidDensity = 998.2;
-        project.FluidViscosity = 0.001002;
+        project.settings.FluidDensity = 998.2;
+        project.settings.FluidViscosity = 0.001002;
         Open("sintub", "FrmSin");
     }
 
@@ -23,16 +23,16 @@ class SinglePipeWindow : public MainWindow {
 
 TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
     project.Pipes[1].FlowRate = 7;
-    project.SectionType = Section::Rectangular;  // of the drawing: a single pipe is round
+    project.settings.SectionType = Section::Rectangular;  // of the drawing: a single pipe is round
     Do("Text2=2;Text3=1;Text1=100");
     EXPECT_EQ(Shown("Text4"), "") << "there is no diameter yet";
     Do("Combo2#6");
     EXPECT_EQ(Shown("Text5"), "53.8");
-    EXPECT_EQ(project.SectionType, Section::Rectangular);
-    project.SectionType = Section::Circular;
+    EXPECT_EQ(project.settings.SectionType, Section::Rectangular);
+    project.settings.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
     double taken = flow;
-    EXPECT_NEAR(PipeDrop(project, .0538F, 0, taken, 100, 3e5), 101325, 20);
+    EXPECT_NEAR(PipeDrop(project.settings, .0538F, 0, taken, 100, 3e5), 101325, 20);
     const auto& arrow = Child<QWidget>("FlowArrow");
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 1 to point 2");
     EXPECT_TRUE(Child<QAbstractButton>("StatusOutcome").text().startsWith("Computed in"));

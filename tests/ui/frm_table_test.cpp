@@ -219,7 +219,7 @@ TEST_F(TableWindow, SwitchingModesAtRandomLosesNothing) {
         EXPECT_EQ(Shown("StatusMode"), entered.status);
         EXPECT_EQ(program->shell.HintsShown, &entered == &modes[0]);
         ASSERT_EQ(program->table, texts);
-        before->Mode = project.Mode;
+        before->settings.Mode = project.settings.Mode;
         ASSERT_TRUE(project == *before);
     }
 }

@@ -109,7 +109,7 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
         const bool isMenu = entry.kind == MenuKind::Menu;
         EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
         EXPECT_EQ(action.text().remove('&'), ToQt(entry.caption));
-        EXPECT_EQ(action.isChecked(), IsChecked(entry, project, program->shell));
+        EXPECT_EQ(action.isChecked(), IsChecked(entry, project.settings, program->shell));
         EXPECT_EQ(action.shortcut().toString(QKeySequence::PortableText), ToQt(entry.shortcut));
         EXPECT_EQ(isMenu, action.statusTip().isEmpty());
         const QString key = QKeySequence::mnemonic(action.text()).toString();
@@ -131,7 +131,7 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
     boxes.Expect(kNotCompressible);
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor1").isChecked());
-    project.FluidCompressibility = 1;
+    project.settings.FluidCompressibility = 1;
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor2").isChecked());
 }

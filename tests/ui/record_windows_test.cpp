@@ -46,7 +46,7 @@ TEST_F(RecordWindow, FluidsAreShownSavedAddedDeletedAndUsed) {
     boxes.Expect({ReadRecords<FluidRecord>(folder.Path()).Error(), kFluidsTitle});
     Open("Fluido", "FrmFlu");
     Do("Text1=850;Command1");
-    EXPECT_EQ(project.FluidDensity, 850);
+    EXPECT_EQ(project.settings.FluidDensity, 850);
     std::filesystem::remove(folder / "fluidi.dat");
 
     PutRecords<FluidRecord>({{"Water", 998.2F, .001002F, 0, 4186, .6F, 0},
@@ -84,7 +84,7 @@ TEST_F(RecordWindow, FluidsAreShownSavedAddedDeletedAndUsed) {
 
     Do("Combo1#0;Text1=1101 kg;Text1!");
     EXPECT_EQ(Window("FrmFlu"), nullptr);
-    EXPECT_EQ(project.FluidDensity, 1101);
+    EXPECT_EQ(project.settings.FluidDensity, 1101);
     EXPECT_EQ(Shown("StatusFluid"), "Fluid: [1] Glycol");
 }
 

@@ -25,9 +25,9 @@ class Run : public DrawingWindow {
     }
 
     void ChooseWater() {
-        project.FluidName = "water";
-        project.FluidDensity = 998.2;
-        project.FluidViscosity = 0.001002;
+        project.settings.FluidName = "water";
+        project.settings.FluidDensity = 998.2;
+        project.settings.FluidViscosity = 0.001002;
         program->showSettings();
     }
 
@@ -38,7 +38,7 @@ class Run : public DrawingWindow {
 
 TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
     ChooseWater();
-    project.BasePressure = 101325;
+    project.settings.BasePressure = 101325;
     Do("Command1");
     EXPECT_GT(project.Pipes[1].FlowRate, 1);
     EXPECT_TRUE(outcome.text().startsWith("Computed in "));

@@ -22,7 +22,7 @@ class WholeJob : public DrawingWindow {
                                        std::filesystem::copy_options::overwrite_existing);
         }
         program->handOvers.RereadComponents();
-        LoadCurrentFluid(project, program->fluids, folder.Path(), boxes);
+        LoadCurrentFluid(project.settings, program->fluids, folder.Path(), boxes);
     }
 
     void Place(int kind, const char* name, int column, int row) {

@@ -45,7 +45,7 @@ void TakeDrawing(MDI& mdi) {
     program.outcomes.erase(WorkMode::Graphic);
     mdi.ShowOutcome();
     mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
-    const bool closed = mdi.Windows().Find(ViewOf(program.project.Mode).window) == nullptr;
+    const bool closed = mdi.Windows().Find(ViewOf(program.project.settings.Mode).window) == nullptr;
     if (closed) mdi.ShowMode();
     mdi.ShowNetwork();
     mdi.ShowSettings();
@@ -60,7 +60,7 @@ void TakeNetwork(MDI& mdi) {
     program.outcomes.erase(WorkMode::Table);
     TakeDrawing(mdi);
     const bool isTable = program.project.numtubo == 0 && CountTableRows(program.project) > 0;
-    if (isTable && program.project.Mode == WorkMode::Graphic) {
+    if (isTable && program.project.settings.Mode == WorkMode::Graphic) {
         mdi.statusBar()->showMessage(kProjectIsTable);
     }
 }

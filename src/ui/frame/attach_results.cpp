@@ -32,7 +32,7 @@ void AttachResultCommands(MDI& mdi) {
                 [&program] { ShowResults(program.folder, program.boxes, StartWithFile); });
     menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
     menu.Attach("Risultatiseq", [&program] {
-        program.project.ResultsInSequence = !program.project.ResultsInSequence;
+        program.project.settings.ResultsInSequence = !program.project.settings.ResultsInSequence;
     });
 }
 

@@ -19,7 +19,7 @@ namespace {
 
 /// Fills the working copy from the drawing or from the table; false when the table is refused.
 bool FillWorkNetwork(Program& program) {
-    if (program.project.Mode == WorkMode::Table) {
+    if (program.project.settings.Mode == WorkMode::Table) {
         return TableToNetwork(program.project, program.table, program.work, program.boxes);
     }
     CopyNetwork(program.project, program.work);
@@ -61,7 +61,7 @@ Outcome Compute(MDI& mdi) {
 void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
-    program.outcomes[program.project.Mode] = Compute(mdi);
+    program.outcomes[program.project.settings.Mode] = Compute(mdi);
     mdi.ShowOutcome();
     mdi.ShowNetwork();
     mdi.ShowSettings();

@@ -13,7 +13,7 @@ namespace {
 
 void SwitchPressureUnit(MDI& mdi, Unit unit) {
     Program& program = mdi.State();
-    ChoosePressureUnit(program.project, unit);
+    ChoosePressureUnit(program.project.settings, unit);
     FillTable(program.project, program.table);
     mdi.ShowNetwork();
 }
@@ -26,16 +26,18 @@ void AttachSettingCommands(MDI& mdi) {
     Project& project = program.project;
     for (const RoughnessPreset& preset : kRoughnessPresets) {
         menu.Attach(preset.item, [&program, &preset] {
-            program.roughnessLabel = ChooseRoughness(program.project, preset);
+            program.roughnessLabel = ChooseRoughness(program.project.settings, preset);
             program.shell.roughnessItem = preset.item;
         });
     }
-    menu.Attach("Circolare", [&project] { project.SectionType = Section::Circular; });
-    menu.Attach("Rettangolare", [&project] { project.SectionType = Section::Rectangular; });
+    menu.Attach("Circolare", [&project] { project.settings.SectionType = Section::Circular; });
+    menu.Attach("Rettangolare",
+                [&project] { project.settings.SectionType = Section::Rectangular; });
     menu.Attach("p_bar", [&mdi] { SwitchPressureUnit(mdi, Unit::Bar); });
     menu.Attach("p_mbar", [&mdi] { SwitchPressureUnit(mdi, Unit::MilliBar); });
-    menu.Attach("Cor1", [&project] { ChooseIncompressible(project); });
-    menu.Attach("Cor2", [&program] { ChooseCompressible(program.project, program.boxes); });
+    menu.Attach("Cor1", [&project] { ChooseIncompressible(project.settings); });
+    menu.Attach("Cor2",
+                [&program] { ChooseCompressible(program.project.settings, program.boxes); });
 }
 
 }  // namespace idrova

@@ -38,8 +38,8 @@ constexpr QSize kFrameAllowance(16, 48);  ///< what a desktop puts round a windo
 
 void LoadStartState(Program& program) {
     InitialiseProject(program.project);
-    program.roughnessLabel = StartRoughnessLabel(program.project);
-    LoadCurrentFluid(program.project, program.fluids, program.folder, program.boxes);
+    program.roughnessLabel = StartRoughnessLabel(program.project.settings);
+    LoadCurrentFluid(program.project.settings, program.fluids, program.folder, program.boxes);
     LoadComponentDatabases(program.components, program.folder, program.boxes);
 }
 
@@ -85,7 +85,7 @@ MDI::MDI(Program& program)
 MDI::~MDI() = default;
 
 void MDI::ShowMode() {
-    const std::string_view wanted = ViewOf(program_.project.Mode).window;
+    const std::string_view wanted = ViewOf(program_.project.settings.Mode).window;
     for (const std::string_view name : {"FrmCel", "FrmTable", "FrmSin"}) {
         if (name != wanted) windows_->Close(name);
     }
@@ -97,20 +97,20 @@ void MDI::ShowMode() {
 }
 
 void MDI::ShowSettings() {
-    menu_->ShowChecks(program_.project, program_.shell);
+    menu_->ShowChecks(program_.project.settings, program_.shell);
     panel_->ShowSettings();
-    statusLine_->ShowSettings(program_.project);
+    statusLine_->ShowSettings(program_.project.settings);
     hints_->ShowHints(HintLines(program_.editor));
     hints_->setVisible(program_.shell.HintsShown);
 }
 
 void MDI::ShowNetwork() {
-    ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
+    ChildWindow* window = windows_->Find(ViewOf(program_.project.settings.Mode).window);
     if (window != nullptr) window->ShowNetwork();
 }
 
 void MDI::TakeEdits() {
-    ChildWindow* window = windows_->Find(ViewOf(program_.project.Mode).window);
+    ChildWindow* window = windows_->Find(ViewOf(program_.project.settings.Mode).window);
     if (window != nullptr) window->TakeEdits();
 }
 
@@ -128,7 +128,7 @@ void MDI::ShowTitle(std::string_view name) {
 }
 
 void MDI::ShowOutcome() {
-    const auto found = program_.outcomes.find(program_.project.Mode);
+    const auto found = program_.outcomes.find(program_.project.settings.Mode);
     if (found == program_.outcomes.end()) {
         statusLine_->HideOutcome();
     } else {

@@ -11,7 +11,7 @@ RunServices ServicesOfRun(Program& program, MessageBoxes& boxes,
                           const std::function<void(const Status&)>& stored) {
     const auto writeReport = [&program, stored] {
         program.report = ReportText(program.project, program.work, CurrentReportTime());
-        stored(StoreReport(program.project, program.report, program.folder));
+        stored(StoreReport(program.project.settings, program.report, program.folder));
     };
     return {.boxes = boxes, .writeReport = writeReport, .seed = {}};
 }

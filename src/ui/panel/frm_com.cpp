@@ -109,8 +109,8 @@ void FrmCom::AddButtons(QVBoxLayout& column) {
 }
 
 void FrmCom::ShowSettings() {
-    fluidName_->setText(ToQt(program_.project.FluidName));
-    fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project)));
+    fluidName_->setText(ToQt(program_.project.settings.FluidName));
+    fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project.settings)));
     roughness_->setText(ToQt(program_.roughnessLabel));
     context_.panel = ShowPipeData(program_.project);
     ShowFrames();
@@ -144,7 +144,7 @@ void FrmCom::ShowFrames() {
 }
 
 void FrmCom::ShowEnabling() {
-    const ModeView view = ViewOf(program_.project.Mode);
+    const ModeView view = ViewOf(program_.project.settings.Mode);
     const bool frames = view.drawingTools && program_.editor.framesEnabled;
     for (QGroupBox* frame : {static_cast<QGroupBox*>(Frame3), static_cast<QGroupBox*>(Frame4),
                              static_cast<QGroupBox*>(Frame8)}) {

@@ -26,7 +26,7 @@ QString HeaderTip(const Program& program, int section) {
     const bool isPressure =
         section == table_column::kStartPressure || section == table_column::kEndPressure;
     if (!isPressure) return header;
-    return header + (program.project.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
+    return header + (program.project.settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
 }
 
 }  // namespace
@@ -131,7 +131,7 @@ void TableModel::Clear(const TableBlock& block) {
 }
 
 void TableModel::Refresh() {
-    const float unit = program_.project.PressureUnitFactor;
+    const float unit = program_.project.settings.PressureUnitFactor;
     if (std::exchange(shownUnit_, unit) != unit) undo_.clear();
     Announce();
 }

@@ -15,7 +15,7 @@ namespace idrova {
 FrmPMin::FrmPMin(Program& program)
     : ChildWindow("FrmPMin", "Idrova - calculation data"),
       program_(program),
-      shown_(ShowCalculationData(program.project)),
+      shown_(ShowCalculationData(program.project.settings)),
       Text1(TextField("Text1")),
       Text2(TextField("Text2")) {
     QPushButton* confirm = CommandButton("Command1", "OK", [this] { Command1_Click(); });
@@ -38,7 +38,7 @@ void FrmPMin::GoToTemperature() {
 
 void FrmPMin::Command1_Click() {
     SetCalculationData(
-        program_.project, shown_,
+        program_.project.settings, shown_,
         {.basePressure = FromQt(Text1->text()), .temperature = FromQt(Text2->text())});
     program_.showSettings();
     CloseWindow();

@@ -22,12 +22,12 @@ FrmRug::FrmRug(Program& program)
     column->addLayout(rows);
     column->addStretch(1);
     column->addLayout(ButtonRow({confirm}));
-    Text1->setText(ToQt(RoughnessFieldText(program_.project)));
+    Text1->setText(ToQt(RoughnessFieldText(program_.project.settings)));
     setFocusProxy(Text1);
 }
 
 void FrmRug::Command1_Click() {
-    const auto label = ChooseUserRoughness(program_.project, FromQt(Text1->text()));
+    const auto label = ChooseUserRoughness(program_.project.settings, FromQt(Text1->text()));
     if (!label) {
         Text1->selectAll();
         Text1->setFocus();
