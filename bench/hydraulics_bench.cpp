@@ -5,10 +5,11 @@
 #include <vector>
 
 #include "hydraulics/compute_network.h"
-#include "hydraulics/linear_solver.h"
+#include "hydraulics/network_system.h"
 #include "hydraulics/pipe_drop.h"
-#include "support/assembled_network.h"
-#include "support/plain_solver.h"
+#include "hydraulics/plain_elimination.h"
+#include "hydraulics/sparse_solver.h"
+#include "support/networks.h"
 
 namespace idrova {
 namespace {
@@ -33,55 +34,45 @@ void OnePipe(benchmark::State& run) {
     const auto reynolds = static_cast<double>(run.range(0));
     const double flowAt = reynolds * kPi * 0.1 * 1e-3 / 4;
     for (auto _ : run) {
-        double flow = flowAt;
-        benchmark::DoNotOptimize(PipeDrop(network->settings, 0.1, 0, flow, 100, kAtmosphere));
+        benchmark::DoNotOptimize(PipeDrop(network->settings, 0.1, 0, flowAt, 100, kAtmosphere));
     }
 }
 BENCHMARK(OnePipe)->ArgName("Re")->Arg(2000)->Arg(100000);
 
-void Assembly(benchmark::State& run) {
-    AssembledNetwork network(NetworkOf(static_cast<int>(run.range(0))));
-    LinearSystem system(network.plan.Order());
-    for (auto _ : run) {
-        network.Assemble(system);
-        benchmark::DoNotOptimize(system.matrix.data());
-    }
-    run.counters["N"] = network.plan.Order();
-}
-BENCHMARK(Assembly)->Arg(50)->Arg(100)->Arg(190);
-
-template <typename SolveOnce>
-void SolveBenchmark(benchmark::State& run, SolveOnce solve) {
-    AssembledNetwork network(NetworkOf(static_cast<int>(run.range(0))));
-    const LinearSystem assembled = network.Assemble();
-    LinearSystem system = assembled;
-    for (auto _ : run) {
-        system.matrix = assembled.matrix;
-        system.rightSide = assembled.rightSide;
-        solve(system);
-        benchmark::DoNotOptimize(system.rightSide.data());
-    }
-    run.counters["N"] = network.plan.Order();
+/// The equations of a first pass, at guesses of all sizes.
+LinearSystem SystemOf(int unknowns) {
+    NetworkBuilder network = NetworkOf(unknowns);
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*network, *work);
+    const NetworkPlan plan = PlanNetwork(*work);
+    PassState state;
+    for (int i = 1; i <= work->WorkPipeCount; ++i) state.resistance[i] = 1000.0 * i;
+    LinearSystem system(plan.Order());
+    AssembleNetworkSystem(network->settings, plan, *work, state, system);
+    return system;
 }
 
-void PlainTripleLoop(benchmark::State& run) {
-    SolveBenchmark(run, [](LinearSystem& s) { PlainSolve(s.matrix, s.order, s.rightSide); });
+void PlainElimination(benchmark::State& run) {
+    const LinearSystem system = SystemOf(static_cast<int>(run.range(0)));
+    std::vector<double> x;
+    for (auto _ : run) benchmark::DoNotOptimize(EliminatePlainly(system, x));
 }
-BENCHMARK(PlainTripleLoop)->Arg(50)->Arg(100)->Arg(190);
+BENCHMARK(PlainElimination)->Arg(50)->Arg(100)->Arg(190);
 
-void SolveWithInverse(benchmark::State& run) {
-    SolveBenchmark(run, [](LinearSystem& s) {
-        SolveLinearSystem(s.matrix, s.order, s.rightSide, Inverse::Wanted);
-    });
+void SparseFirst(benchmark::State& run) {
+    const LinearSystem system = SystemOf(static_cast<int>(run.range(0)));
+    std::vector<double> x;
+    for (auto _ : run) benchmark::DoNotOptimize(SparseSolver().Run(system, x));
 }
-BENCHMARK(SolveWithInverse)->Arg(50)->Arg(100)->Arg(190);
+BENCHMARK(SparseFirst)->Arg(50)->Arg(100)->Arg(190);
 
-void SolveWithoutInverse(benchmark::State& run) {
-    SolveBenchmark(run, [](LinearSystem& s) {
-        SolveLinearSystem(s.matrix, s.order, s.rightSide, Inverse::NotWanted);
-    });
+void SparseAgain(benchmark::State& run) {
+    const LinearSystem system = SystemOf(static_cast<int>(run.range(0)));
+    SparseSolver solver;
+    std::vector<double> x;
+    for (auto _ : run) benchmark::DoNotOptimize(solver.Run(system, x));
 }
-BENCHMARK(SolveWithoutInverse)->Arg(50)->Arg(100)->Arg(190);
+BENCHMARK(SparseAgain)->Arg(50)->Arg(100)->Arg(190);
 
 void WholeRun(benchmark::State& run) {
     NetworkBuilder network = NetworkOf(static_cast<int>(run.range(0)));

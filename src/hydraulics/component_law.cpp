@@ -11,30 +11,16 @@
 namespace idrova {
 namespace {
 
-/// Value and derivative by the flow `q` in the delivery direction.
-PressureJump PumpRise(const CellRec& cell, double q, ComponentRows rows) {
-    const bool backwards = rows == ComponentRows::Sloped && q < 0;
-    const double flow = backwards ? 0 : q;
-    PressureJump rise;
-    if (cell.PumpConstant != 0) {
-        rise.value = cell.Param1 * flow * flow + cell.Param2 * flow + cell.PumpConstant;
-        rise.slope = 2 * cell.Param1 * flow + cell.Param2;
-    } else {
-        rise.value = cell.Param1 * flow * flow + cell.Param2;
-        rise.slope = 2 * cell.Param1 * flow;
-    }
-    if (backwards) rise.slope = 0;
-    return rise;
+double LaggedRise(const CellRec& pump, double q) {
+    if (pump.PumpConstant == 0) return pump.Param1 * q * q + pump.Param2;
+    return pump.Param1 * q * q + pump.Param2 * q + pump.PumpConstant;
 }
 
-PressureJump LossDrop(const Settings& settings, const CellRec& cell, const PipeRec& pipeA, double q,
-                      ComponentRows rows) {
-    if (cell.Param2 != 0) return {cell.Param2, 0};
+double LaggedDrop(const Settings& settings, const CellRec& loss, const PipeRec& pipeA, double q) {
+    if (loss.Param2 != 0) return loss.Param2;
     const double area = SectionGeometry(settings, pipeA.Diameter, pipeA.OuterSize).area;
     const double v = q / (settings.FluidDensity * area);
-    const double drop = cell.Param1 * 0.5 * settings.FluidDensity * v * v;
-    if (rows == ComponentRows::Lagged || q == 0) return {drop, 0};
-    return {q < 0 ? -drop : drop, 2 * drop / std::abs(q)};
+    return loss.Param1 * 0.5 * settings.FluidDensity * v * v;
 }
 
 constexpr double kFullDropShare = 0.01;  ///< of the flow at which creeping ends
@@ -74,15 +60,12 @@ PressureLaw CoefficientLaw(const Settings& settings, double coefficient, const P
 
 }  // namespace
 
-PressureJump JumpAt(const Settings& settings, const CellRec& cell, const Component& component,
-                    const PipeRec& pipeA, double flow, ComponentRows rows) {
-    if (!cell.Placed) return {};
-    const double through = component.throughSign * flow;
-    PressureJump jump = cell.Kind == CellKind::Pump
-                            ? PumpRise(cell, through, rows)
-                            : LossDrop(settings, cell, pipeA, through, rows);
-    jump.slope *= component.throughSign;
-    return jump;
+double LaggedJump(const Settings& settings, const Component& component, const PipeRec& pipeA,
+                  double flow) {
+    const CellRec& cell = component.record;
+    if (!cell.Placed) return 0;
+    if (cell.Kind == CellKind::Loss) return LaggedDrop(settings, cell, pipeA, flow);
+    return LaggedRise(cell, component.throughSign * flow);
 }
 
 bool OpensUpwards(const CellRec& pump) {
@@ -96,8 +79,9 @@ double FullDropFlow(const Settings& settings, const PipeRec& pipeA) {
     return kFullDropShare * FlowAtReynolds(settings, section, kCreepingReynolds);
 }
 
-PressureLaw ComponentLaw(const Settings& settings, const CellRec& cell, const Component& component,
-                         const PipeRec& pipeA, double flow, double start, double end) {
+PressureLaw ComponentLaw(const Settings& settings, const Component& component, const PipeRec& pipeA,
+                         double flow, double start, double end) {
+    const CellRec& cell = component.record;
     if (!cell.Placed) return {};
     const double through = component.throughSign * flow;
     PressureLaw law;

@@ -7,32 +7,20 @@
 
 namespace idrova {
 
-/// How the equations of pumps and losses are linearised.
-enum class ComponentRows {
-    Lagged,  ///< value at the flow of the pass before; a loss drops along its pipe's reference
-    Sloped,  ///< tangent at that flow; a loss opposes the flow, a pump never rises when it is
-             ///< run backwards
-};
-
-/// p(high) - p(low) of a component in Pa, and its derivative by the flow of pipe A (Pa s/kg).
-struct PressureJump {
-    double value = 0;
-    double slope = 0;
-};
-
-/// At the flow of pipe A (kg/s, signed from its reference point). Pump: its curve at the flow in
-/// the delivery direction. Loss: coefficient times the dynamic pressure in pipe A, or its fixed
-/// drop. A cell whose component was deleted joins its pieces: 0.
-PressureJump JumpAt(const Settings& settings, const CellRec& cell, const Component& component,
-                    const PipeRec& pipeA, double flow, ComponentRows rows);
+/// p(high) - p(low) of a component in Pa as the first stage has it, at the flow of pipe A (kg/s,
+/// signed from its reference point) of the pass before. Pump: its curve at the flow in the delivery
+/// direction. Loss: coefficient times the dynamic pressure in pipe A, or its fixed drop, along the
+/// pipe's reference direction. A cell whose component was deleted joins its pieces: 0.
+double LaggedJump(const Settings& settings, const Component& component, const PipeRec& pipeA,
+                  double flow);
 
 /// p(high) - p(low) of a component at the flow of its pipe A (kg/s, signed from its reference
 /// point) and the pressures at that pipe's ends, with the derivatives by all three. A pump gives
 /// its curve in the delivery direction, and its highest rise below the flow of that rise and when
 /// it is run backwards. A loss opposes the flow; a fixed drop grows up to `FullDropFlow`. A cell
 /// whose component was deleted joins its pieces: 0.
-PressureLaw ComponentLaw(const Settings& settings, const CellRec& cell, const Component& component,
-                         const PipeRec& pipeA, double flow, double start, double end);
+PressureLaw ComponentLaw(const Settings& settings, const Component& component, const PipeRec& pipeA,
+                         double flow, double start, double end);
 
 /// A pump whose curve somewhere rises with the flow: it may have two working points.
 bool OpensUpwards(const CellRec& pump);

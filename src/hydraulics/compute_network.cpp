@@ -7,12 +7,12 @@
 #include <utility>
 
 #include "base/number_text.h"
-#include "hydraulics/iteration.h"
-#include "hydraulics/loose_part.h"
+#include "hydraulics/first_stage.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/run_checks.h"
 #include "hydraulics/run_results.h"
+#include "hydraulics/solve_network.h"
 
 namespace idrova {
 namespace {
@@ -56,21 +56,11 @@ bool MayRun(const Project& project, const WorkNetwork& work, bool singlePipe, Me
            (singlePipe || PipeDataAreComplete(project, work, boxes));
 }
 
-/// The first stage; the second as well when the first has not settled and there are components.
-/// The second stage's result counts only when it settles.
 StageResult Solve(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
-                  const RunServices& services, Outcome& outcome) {
-    const FlowGuesses start = StartGuesses(work, services.seed.value_or(ClockSeed()));
-    const PassReport report = ProgressReport(services);
-    StageResult first =
-        RunStage(project.settings, plan, work, start, ComponentRows::Lagged, report);
-    outcome.passes[0] = first.passes;
-    if (first.settled || plan.components.empty()) return first;
-
-    StageResult second =
-        RunStage(project.settings, plan, work, start, ComponentRows::Sloped, report);
-    outcome.passes[1] = second.passes;
-    return second.settled ? second : first;
+                  const RunServices& services) {
+    return SolveNetwork(project.settings, plan, work,
+                        StartGuesses(work, services.seed.value_or(ClockSeed())),
+                        ProgressReport(services));
 }
 
 RunEnd EndOf(const StageResult& result) {
@@ -108,8 +98,8 @@ Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
     if (!CountsAreBalanced(plan, boxes)) return outcome;
     if (!GivenDataAreCoherent(project, work, boxes)) return outcome;
 
-    StageResult result = Solve(project, plan, work, services, outcome);
-    result.singular = result.singular || PipeWithoutGivenPressure(plan, work) != 0;
+    StageResult result = Solve(project, plan, work, services);
+    outcome.passes = result.passes;
     outcome.end = EndOf(result);
     if (outcome.end == RunEnd::NotFinite) {
         boxes.Show(kDoesNotSettle);

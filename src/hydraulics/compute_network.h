@@ -26,7 +26,7 @@ enum class RunEnd {
 /// What became of a run.
 struct Outcome {
     RunEnd end = RunEnd::Refused;
-    std::array<int, 2> passes{};     ///< of the first and of the second stage; 0 when not run
+    std::array<int, 2> passes{};     ///< of the first and of the closing stage; 0 when not run
     double residual = 0;             ///< summed relative residual of the last pass
     double worstResidual = 0;        ///< the largest residual of an unsettled pipe
     int worstPipe = 0;               ///< its number; 0 when every pipe has settled

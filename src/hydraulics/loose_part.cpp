@@ -46,4 +46,10 @@ int PipeWithoutGivenPressure(const NetworkPlan& plan, const WorkNetwork& work) {
     return 0;
 }
 
+bool IsOverdetermined(const WorkNetwork& work, int number) {
+    const PipeRec& pipe = work.WorkPipes[number];
+    return pipe.IsDrawn() && !work.WorkFlowUnknown[number] &&
+           !work.WorkPressureUnknown[pipe.StartPoint] && !work.WorkPressureUnknown[pipe.EndPoint];
+}
+
 }  // namespace idrova

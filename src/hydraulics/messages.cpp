@@ -2,7 +2,7 @@
 #include "hydraulics/messages.h"
 
 #include "base/number_text.h"
-#include "hydraulics/linear_solver.h"
+#include "hydraulics/linear_system.h"
 
 namespace idrova {
 namespace {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "hydraulics/component_law.h"
 #include "hydraulics/pipe_drop.h"
 
 namespace idrova {
@@ -20,17 +21,11 @@ struct PipeEnds {
 class Assembly {
   public:
     Assembly(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
-             const PassState& state, ComponentRows rows, LinearSystem& system)
-        : settings_(settings),
-          plan_(plan),
-          work_(work),
-          state_(state),
-          rows_(rows),
-          system_(system) {}
+             const PassState& state, LinearSystem& system)
+        : settings_(settings), plan_(plan), work_(work), state_(state), system_(system) {}
 
     void Run() {
-        std::fill(system_.matrix.begin(), system_.matrix.end(), 0.0);
-        std::fill(system_.rightSide.begin(), system_.rightSide.end(), 0.0);
+        system_.Clear();
         ForDrawnPipes([this](int i) {
             if (!work_.WorkFlowUnknown[i]) KnownFlowLaw(i);
         });
@@ -56,8 +51,8 @@ class Assembly {
         }
     }
 
-    void Add(int unknown, double coefficient) { system_.At(row_, unknown) += coefficient; }
-    void AddRight(double term) { system_.rightSide[static_cast<std::size_t>(row_ - 1)] += term; }
+    void Add(int unknown, double coefficient) { system_.Add(row_, unknown, coefficient); }
+    void AddRight(double term) { system_.AddRight(row_, term); }
 
     PipeEnds EndsOf(const PipeRec& pipe) const {
         const int s = pipe.StartPoint;
@@ -162,16 +157,9 @@ class Assembly {
         ++row_;
         if (component.high == 0) return;
         const PipeRec& pipeA = work_.WorkPipes[component.pipeA];
-        const bool idles = rows_ == ComponentRows::Sloped && state_.componentIdles[component.pipeA];
-        const double flow = idles ? 0 : WorkingFlow(component.pipeA);
-        const PressureJump jump =
-            JumpAt(settings_, component.record, component, pipeA, flow, rows_);
         Add(plan_.pressureUnknown[component.high], 1);
         Add(plan_.pressureUnknown[component.low], -1);
-        AddRight(jump.value);
-        if (rows_ == ComponentRows::Lagged) return;
-        Add(plan_.flowUnknown[component.pipeA], -jump.slope);
-        AddRight(-jump.slope * flow);
+        AddRight(LaggedJump(settings_, component, pipeA, WorkingFlow(component.pipeA)));
     }
 
     void ComponentContinuity(const Component& component) {
@@ -185,7 +173,6 @@ class Assembly {
     const NetworkPlan& plan_;
     const WorkNetwork& work_;
     const PassState& state_;
-    ComponentRows rows_;
     LinearSystem& system_;
     int row_ = 0;
 };
@@ -193,9 +180,8 @@ class Assembly {
 }  // namespace
 
 void AssembleNetworkSystem(const Settings& settings, const NetworkPlan& plan,
-                           const WorkNetwork& work, const PassState& state, ComponentRows rows,
-                           LinearSystem& system) {
-    Assembly(settings, plan, work, state, rows, system).Run();
+                           const WorkNetwork& work, const PassState& state, LinearSystem& system) {
+    Assembly(settings, plan, work, state, system).Run();
 }
 
 }  // namespace idrova

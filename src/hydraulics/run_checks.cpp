@@ -7,7 +7,7 @@
 
 #include "base/number_text.h"
 #include "hydraulics/fluid_density.h"
-#include "hydraulics/linear_solver.h"
+#include "hydraulics/linear_system.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
 

@@ -5,26 +5,22 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "hydraulics/component_law.h"
 #include "hydraulics/loose_part.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
+#include "hydraulics/solution_check.h"
 
 namespace idrova {
 namespace {
 
 constexpr double kSameHead = 1e-5;        ///< relative
-constexpr double kNegligibleFlow = 1e-5;  ///< of the largest
+constexpr double kNegligibleFlow = 1e-8;  ///< of the largest
 
 double RelativeDifference(double start, double end) {
     if (start != 0) return std::abs(end - start) / std::abs(start);
     if (end != 0) return 1;
     return 0;
-}
-
-bool IsOverdetermined(const WorkNetwork& work, int i) {
-    const PipeRec& pipe = work.WorkPipes[i];
-    return pipe.IsDrawn() && !work.WorkFlowUnknown[i] &&
-           !work.WorkPressureUnknown[pipe.StartPoint] && !work.WorkPressureUnknown[pipe.EndPoint];
 }
 
 bool HasNegativeGivenFlow(const WorkNetwork& work, int i) {
@@ -68,19 +64,22 @@ void NoteVacuum(const Project& project, const NetworkPlan& plan, const WorkNetwo
     notes.push_back("The pressure in point " + GeneralText(lowest) + " would be below a vacuum");
 }
 
-/// The second stage turns a loss given by its coefficient with the flow; a fixed drop and the
-/// first stage keep to the pipe's reference direction.
-void NoteComponent(const CellRec& cell, const Component& component, const StageResult& result,
+void NoteComponent(const Settings& settings, const Component& component, const PipeRec& pipeA,
                    double flow, std::vector<std::string>& notes) {
-    if (!cell.Placed || component.throughSign * flow >= 0) return;
+    const CellRec& cell = component.record;
+    if (!cell.Placed) return;
     const std::string number = GeneralText(component.cell);
-    const bool turns = result.rows == ComponentRows::Sloped && cell.Param2 == 0;
     if (cell.Kind == CellKind::Pump) {
-        notes.push_back("The pump in cell " + number + " runs backwards");
-    } else if (!turns) {
-        notes.push_back("Loss in cell " + number +
-                        " is crossed against its direction: use Flow rates direction and compute"
-                        " again");
+        if (component.throughSign * flow < 0) {
+            notes.push_back("The pump in cell " + number + " runs backwards");
+        }
+        if (OpensUpwards(cell)) {
+            notes.push_back("The curve of the pump in cell " + number +
+                            " opens upwards: there may be two working points");
+        }
+    } else if (cell.Param2 != 0 && std::abs(flow) < FullDropFlow(settings, pipeA)) {
+        notes.push_back("The fixed drop in cell " + number +
+                        " holds the flow still: less than it is there to drive the flow");
     }
 }
 
@@ -95,11 +94,8 @@ std::string PercentText(double share) {
 
 void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
                       StageResult& result) {
-    double largest = 0;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (!work.WorkPipes[i].IsDrawn()) continue;
-        largest = std::max(largest, std::abs(result.Flow(plan, i)));
-    }
+    const FlowScale scale = FlowScaleOf(project.settings, plan, work, result.solution);
+    const double negligible = kNegligibleFlow * scale.largest + scale.rounding;
     const double weight = project.settings.FluidDensity * kGravity;
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
@@ -107,7 +103,7 @@ void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const Wor
         const double start = result.Pressure(plan, pipe.StartPoint) + weight * pipe.Z1;
         const double end = result.Pressure(plan, pipe.EndPoint) + weight * pipe.Z2;
         if (RelativeDifference(start, end) >= kSameHead) continue;
-        if (std::abs(result.Flow(plan, i)) > kNegligibleFlow * largest) continue;
+        if (std::abs(result.Flow(plan, i)) > negligible) continue;
         result.SetFlow(plan, i, 0);
     }
 }
@@ -146,12 +142,13 @@ std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& 
     NoteVacuum(project, plan, work, result, notes);
     if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
     NotePipes(work, result, notes);
-    for (const int cell : result.unsettledCells) {
-        notes.push_back("The component in cell " + GeneralText(cell) + " has not settled");
+    for (const UnsettledComponent& component : result.unsettledComponents) {
+        notes.push_back("The component in cell " + GeneralText(component.cell) +
+                        " has not settled: " + PercentText(component.relative));
     }
     for (const Component& component : plan.components) {
         if (component.pipeA == 0) continue;
-        NoteComponent(project.Cells[component.cell], component, result,
+        NoteComponent(project.settings, component, work.WorkPipes[component.pipeA],
                       result.Flow(plan, component.pipeA), notes);
     }
     return notes;

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/message_boxes.h"
-#include "hydraulics/iteration.h"
+#include "hydraulics/first_stage.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/work_network.h"
 #include "model/project.h"
@@ -15,7 +15,7 @@ namespace idrova {
 /// What a run does with its solution.
 
 /// Sets to 0 the unknown flow of every pipe whose ends have the same head within 1e-5 and whose
-/// flow is at most 1e-5 of the largest.
+/// flow is at most 1e-8 of the largest.
 void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
                       StageResult& result);
 

@@ -2,20 +2,26 @@
 #pragma once
 
 #include "hydraulics/network_plan.h"
-#include "hydraulics/network_system.h"
 #include "hydraulics/stage_result.h"
 #include "hydraulics/work_network.h"
-#include "model/project.h"
+#include "model/settings.h"
 
 namespace idrova {
 
-constexpr double kPipeTolerance = 1e-4;          ///< on a pipe's own relative residual
-constexpr double kMeanPressureTolerance = 1e-6;  ///< on the last move of a mean pressure, relative
-
-/// Holds the last solution of a stage against the laws themselves, whatever the passes made of
-/// it, and says so in `result`: each pipe, each component, the balance of the junctions. Where
-/// nothing can move, the flows become 0.
+/// Holds the solution of `result` against the laws themselves and says so in it. Settled: every
+/// pipe and component within 1e-6 of the largest drop plus 1e-9 of the largest head, every junction
+/// balanced within 1e-9 of the largest flow, and no gas at the bound of its mean pressure or with
+/// an end below absolute zero.
 void CheckSolution(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
-                   const PassState& state, StageResult& result);
+                   StageResult& result);
+
+/// Flows in kg/s that the tolerances on flows refer to.
+struct FlowScale {
+    double largest = 0;   ///< in the network
+    double rounding = 0;  ///< what the rounding of the heads may move
+};
+
+FlowScale FlowScaleOf(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+                      const Solution& solution);
 
 }  // namespace idrova

@@ -4,44 +4,52 @@
 #include <array>
 #include <vector>
 
-#include "hydraulics/component_law.h"
 #include "hydraulics/network_plan.h"
-#include "model/project.h"
 
 namespace idrova {
 
-/// How well a pipe's law holds in the solution of a pass.
+/// Flows (kg/s) and pressures (Pa, as the project holds them) by unknown number, slot 0 unused.
+struct Solution {
+    std::vector<double> values;
+
+    double Flow(const NetworkPlan& plan, int pipe) const { return values[plan.flowUnknown[pipe]]; }
+    double Pressure(const NetworkPlan& plan, int point) const {
+        return values[plan.pressureUnknown[point]];
+    }
+    bool IsFinite() const;  ///< every value can be stored as a single
+};
+
+/// How well a pipe's law holds.
 struct PipeResidual {
-    double relative = 0;           ///< |drop - linearised drop| / drop
-    double meanPressureShift = 0;  ///< of a gas, in the last pass, relative
-    bool belowVacuum = false;      ///< of a gas: an end has no absolute pressure left
+    double relative = 0;       ///< misfit over the largest drop in the network
+    bool belowVacuum = false;  ///< of a gas: its mean pressure is at the bound, or an end has no
+                               ///< absolute pressure left
     bool settled = true;
 };
 
-/// What a stage of passes ended with.
-struct StageResult {
-    ComponentRows rows = ComponentRows::Lagged;
-    int passes = 0;
-    bool finite = true;     ///< false: the solution holds numbers that are not finite
-    bool singular = false;  ///< the last pass met a zero pivot
-    bool settled = false;   ///< the solution satisfies every law
-    bool balanced = true;   ///< the flows balance at every junction
-    double residual = 0;    ///< summed relative residual of the last pass
-    std::array<PipeResidual, kMaxPipes + 1> pipes{};
-    std::vector<int> unsettledCells;  ///< of components whose law does not hold
-    std::vector<double> solution;     ///< by unknown number, slot 0 unused: kg/s and Pa
+struct UnsettledComponent {
+    int cell = 0;
+    double relative = 0;  ///< misfit over the largest drop in the network
+};
 
-    double Flow(const NetworkPlan& plan, int pipe) const {
-        return solution[plan.flowUnknown[pipe]];
-    }
+/// What a run ended with, held against the laws.
+struct StageResult {
+    std::array<int, 2> passes{};  ///< of the first stage, of the closing stage
+    bool finite = true;           ///< false: the solution holds numbers that are not finite
+    bool singular = false;        ///< the equations have no single solution
+    bool settled = false;         ///< the solution satisfies every law
+    bool balanced = true;         ///< the flows balance at every junction
+    double residual = 0;          ///< sum of the pipes' relative misfits
+    std::array<PipeResidual, kMaxPipes + 1> pipes{};
+    std::vector<UnsettledComponent> unsettledComponents;  ///< the worst first
+    Solution solution;
+
+    double Flow(const NetworkPlan& plan, int pipe) const { return solution.Flow(plan, pipe); }
     void SetFlow(const NetworkPlan& plan, int pipe, double flow) {
-        solution[plan.flowUnknown[pipe]] = flow;
+        solution.values[plan.flowUnknown[pipe]] = flow;
     }
     double Pressure(const NetworkPlan& plan, int point) const {
-        return solution[plan.pressureUnknown[point]];
-    }
-    void SetPressure(const NetworkPlan& plan, int point, double pressure) {
-        solution[plan.pressureUnknown[point]] = pressure;
+        return solution.Pressure(plan, point);
     }
 };
 

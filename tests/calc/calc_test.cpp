@@ -153,8 +153,12 @@ TEST_F(Calc, SettingsReachTheComputation) {
     EXPECT_NEAR(cold / hot, std::sqrt(2), .01) << "twice the kelvin";
     EXPECT_GT(flow("--equation compressible --base-pressure 3"), 1.2 * cold);
     EXPECT_EQ(flow("--seed 5 --mode table"), flow("--seed 5"));
-    EXPECT_NE(Run("--json --seed 5 plant.iv").Parsed()["residual"],
-              Run("--json --seed 6 plant.iv").Parsed()["residual"]);
+    std::set<std::string> passes;
+    for (const char* seed : {"1", "2", "3", "4", "5", "6"}) {
+        passes.insert(
+            Run("--json --seed " + std::string(seed) + " plant.iv").Parsed()["passes"].dump());
+    }
+    EXPECT_GT(passes.size(), 1U) << "other start values, other passes";
 }
 
 TEST_F(Calc, PumpConstantsComeFromTheDatabaseAndAreSaved) {

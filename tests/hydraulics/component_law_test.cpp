@@ -59,8 +59,8 @@ TEST(ComponentLaw, ByHandInBothDirections) {
             component.throughSign = sign;
             cell.Placed = true;
             const auto law = [&](double through) {
-                return ComponentLaw(water->settings, cell, component, pipeA, sign * through, 1e5,
-                                    2e5);
+                component.record = cell;
+                return ComponentLaw(water->settings, component, pipeA, sign * through, 1e5, 2e5);
             };
             EXPECT_NEAR(law(c.through).value, c.value, 1e-6 * std::abs(c.value));
             EXPECT_NEAR(sign * law(c.through).byFlow, c.slope, 1e-6 * std::abs(c.slope));
@@ -83,8 +83,10 @@ TEST(ComponentLaw, GasLosesByItsOwnDensity) {
     cell.Kind = kLoss;
     cell.Param1 = 3;
     cell.Placed = true;
+    Component component;
+    component.record = cell;
     const auto law = [&](double flow, double start, double end) {
-        return ComponentLaw(air->settings, cell, {}, pipeA, flow, start, end);
+        return ComponentLaw(air->settings, component, pipeA, flow, start, end);
     };
     const double density = 1.2929 * (701325.0 / 101325) * (273.15 / 293.15) / 0.98;
     const double drop = 1.5 / density * std::pow(0.5 / 0.00785375, 2);

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/solve_network.h"
+
+#include <cmath>
+#include <utility>
+
+#include "hydraulics/closing_stage.h"
+#include "hydraulics/loose_part.h"
+#include "hydraulics/solution_check.h"
+
+namespace idrova {
+namespace {
+
+/// A pipe whose flow and both pressures are given leaves another value open.
+bool HasOverdeterminedPipe(const WorkNetwork& work) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        if (IsOverdetermined(work, i)) return true;
+    }
+    return false;
+}
+
+/// Solving only reproduces what is given to its last digits.
+void KeepGivenValues(const NetworkPlan& plan, const WorkNetwork& work, Solution& solution) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        const PipeRec& pipe = work.WorkPipes[i];
+        if (!pipe.IsDrawn() || work.WorkFlowUnknown[i]) continue;
+        solution.values[plan.flowUnknown[i]] = std::abs(pipe.FlowRate);
+    }
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        const PointRec& point = work.WorkPoints[i];
+        if (!point.IsDrawn() || work.WorkPressureUnknown[i]) continue;
+        solution.values[plan.pressureUnknown[i]] = point.Pressure;
+    }
+}
+
+StageResult Checked(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+                    Solution solution) {
+    StageResult result;
+    result.solution = std::move(solution);
+    result.finite = result.solution.IsFinite();
+    if (!result.finite) return result;
+    KeepGivenValues(plan, work, result.solution);
+    CheckSolution(settings, plan, work, result);
+    return result;
+}
+
+}  // namespace
+
+StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+                         const FlowGuesses& start, const PassReport& report) {
+    FirstStage first = RunFirstStage(settings, plan, work, start, report);
+    StageResult result;
+    const bool singular = PipeWithoutGivenPressure(plan, work) != 0 || HasOverdeterminedPipe(work);
+    int passes = 0;
+    bool closed = false;
+    double misfit = 0;
+    const auto close = [&](Solution from) {
+        ClosingStage closing = RunClosingStage(settings, plan, work, std::move(from));
+        passes += closing.passes;
+        if (!std::isfinite(closing.misfit) || (closed && !(closing.misfit < misfit))) return;
+        closed = true;
+        misfit = closing.misfit;
+        result = Checked(settings, plan, work, std::move(closing.solution));
+        result.singular = closing.singular;
+    };
+    if (!singular && first.settled) close(first.solution);
+    if (!singular && !result.settled) close(PlainStart(settings, plan, work));
+    if (!closed) result = Checked(settings, plan, work, std::move(first.solution));
+    result.singular = result.singular || singular;
+    result.passes = {first.passes, passes};
+    return result;
+}
+
+}  // namespace idrova
