@@ -14,13 +14,6 @@
 namespace idrova {
 namespace {
 
-class NoBoxes final : public MessageBoxes {
-  public:
-    Answer Show(const MessageBox& box) override {
-        return box.buttons == BoxButtons::YesNo ? Answer::No : Answer::Ok;
-    }
-};
-
 /// Looped networks with about `unknowns` unknowns.
 NetworkBuilder NetworkOf(int unknowns) {
     if (unknowns <= 50) return LoopedNetwork(4, 4);
@@ -77,11 +70,10 @@ BENCHMARK(SparseAgain)->Arg(50)->Arg(100)->Arg(190);
 void WholeRun(benchmark::State& run) {
     NetworkBuilder network = NetworkOf(static_cast<int>(run.range(0)));
     auto work = std::make_unique<WorkNetwork>();
-    NoBoxes boxes;
     Outcome outcome;
     for (auto _ : run) {
         CopyNetwork(*network, *work);
-        outcome = ComputeNetwork(*network, *work, false, {.boxes = boxes, .seed = 1});
+        outcome = ComputeNetwork(network->settings, *work, {.seed = 1});
     }
     run.counters["passes"] = outcome.passes[0];
     run.counters["settled"] = outcome.end == RunEnd::Settled ? 1 : 0;

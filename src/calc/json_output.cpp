@@ -18,6 +18,8 @@ std::string OutcomeName(RunEnd end) {
             return "refused";
         case RunEnd::Empty:
             return "empty";
+        case RunEnd::Stopped:
+            return "stopped";
         case RunEnd::Settled:
             return "settled";
         case RunEnd::Unsettled:
@@ -84,14 +86,11 @@ Json PointList(const WorkNetwork& results) {
     return list;
 }
 
-/// Pumps stand in drawings: a table has none.
-Json PumpList(const Project& project) {
+Json PumpList(const WorkNetwork& results) {
     Json list = Json::array();
-    if (project.settings.Mode != WorkMode::Graphic) return list;
-    for (int i = 1; i <= project.CellCount(); ++i) {
-        const CellRec& cell = project.Cells[i];
+    for (const auto& [number, cell] : results.WorkComponents) {
         if (!HoldsComponent(cell, CellKind::Pump)) continue;
-        list.push_back({{"cell", i},
+        list.push_back({{"cell", number},
                         {"name", cell.Name},
                         {"flow_kg_s", DecimalDouble(cell.Result)},
                         {"in_range", IsInRange(cell)}});
@@ -101,7 +100,7 @@ Json PumpList(const Project& project) {
 
 }  // namespace
 
-std::string JsonText(const Project& project, const RunRecord& run) {
+std::string JsonText(const Settings& settings, const RunRecord& run) {
     const Outcome& outcome = run.outcome;
     Json json = {{"outcome", OutcomeName(outcome.end)},
                  {"passes", outcome.passes},
@@ -113,9 +112,9 @@ std::string JsonText(const Project& project, const RunRecord& run) {
                  {"points", Json::array()},
                  {"pumps", Json::array()}};
     if (run.results != nullptr) {
-        json["pipes"] = PipeList(*run.results, project.settings);
+        json["pipes"] = PipeList(*run.results, settings);
         json["points"] = PointList(*run.results);
-        json["pumps"] = PumpList(project);
+        json["pumps"] = PumpList(*run.results);
     }
     return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }

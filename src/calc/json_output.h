@@ -7,7 +7,7 @@
 #include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 #include "hydraulics/work_network.h"
-#include "model/project.h"
+#include "model/settings.h"
 
 namespace idrova {
 
@@ -20,6 +20,6 @@ struct RunRecord {
 
 /// One JSON object and a line end. Numbers that are not finite are null, text that is not UTF-8
 /// is replaced character by character.
-std::string JsonText(const Project& project, const RunRecord& run);
+std::string JsonText(const Settings& settings, const RunRecord& run);
 
 }  // namespace idrova

@@ -8,15 +8,12 @@
 #include "calc/fluid_choice.h"
 #include "calc/json_output.h"
 #include "calc/printed_boxes.h"
-#include "hydraulics/compute_network.h"
 #include "hydraulics/run_settings.h"
 #include "physdata/messages.h"
 #include "physdata/pipe_settings.h"
 #include "physdata/pump_constants.h"
 #include "projectfile/project_file.h"
-#include "results/report.h"
-#include "results/results_file.h"
-#include "table/table_network.h"
+#include "shell/run_command.h"
 
 namespace idrova {
 namespace {
@@ -88,28 +85,17 @@ class ProjectRun {
     Outcome Compute() {
         const bool gas = options_.equation == Equation::Compressible;
         if (gas && !ChooseCompressible(project_->settings, boxes_)) return {};
-        if (!FillNetwork()) return {};
-        const RunServices services{
-            .boxes = boxes_, .writeReport = [this] { KeepResults(); }, .seed = options_.seed};
-        return ComputeNetwork(*project_, *work_, false, services);
-    }
-
-    bool FillNetwork() {
-        if (options_.mode == WorkMode::Graphic) {
-            CopyNetwork(*project_, *work_);
-            return true;
-        }
         TableTexts texts;
         FillTable(*project_, texts);
-        return TableToNetwork(*project_, texts, *work_, boxes_);
-    }
-
-    /// The results as they are reported, before the base pressure is added to them.
-    void KeepResults() {
-        results_ = std::make_unique<WorkNetwork>(*work_);
-        if (options_.noReport) return;
-        report_ = ReportText(*project_, *work_, CurrentReportTime());
-        reportFailed_ = !WriteReport(project_->settings, report_, options_.data, boxes_);
+        const auto write = ReportWriter(*project_, options_.data, report_);
+        const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
+            results_ = std::make_unique<WorkNetwork>(work);
+            Status written = options_.noReport ? Done{} : write(settings, work);
+            reportFailed_ = !written;
+            return written;
+        };
+        return RunNetwork(*project_, texts, *work_,
+                          {.boxes = boxes_, .writeReport = writeReport, .seed = options_.seed});
     }
 
     void PrintNotes(const Outcome& outcome) {
@@ -128,7 +114,7 @@ class ProjectRun {
 
     bool Print(const Outcome& outcome) {
         if (options_.json) {
-            out_ << JsonText(*project_, {outcome, boxes_.Shown(), results_.get()});
+            out_ << JsonText(project_->settings, {outcome, boxes_.Shown(), results_.get()});
         } else {
             out_ << report_;
         }
@@ -147,6 +133,7 @@ class ProjectRun {
             case RunEnd::Unsettled:
             case RunEnd::Singular:
             case RunEnd::NotFinite:
+            case RunEnd::Stopped:
                 return ExitStatus::Unsettled;
         }
         return ExitStatus::Unsettled;
@@ -158,7 +145,7 @@ class ProjectRun {
     PrintedBoxes boxes_;
     std::unique_ptr<Project> project_ = std::make_unique<Project>();
     std::unique_ptr<WorkNetwork> work_ = std::make_unique<WorkNetwork>();
-    std::unique_ptr<WorkNetwork> results_;
+    std::unique_ptr<WorkNetwork> results_;  ///< as reported, without the base pressure
     std::string report_;
     bool reportFailed_ = false;
 };

@@ -6,9 +6,7 @@
 #include <random>
 #include <utility>
 
-#include "base/number_text.h"
 #include "hydraulics/first_stage.h"
-#include "hydraulics/messages.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/run_checks.h"
 #include "hydraulics/run_results.h"
@@ -43,24 +41,30 @@ RunProgress ProgressOf(int pass, double residual, double closenessSoFar) {
     return progress;
 }
 
-PassReport ProgressReport(const RunServices& services) {
-    return [&services, closeness = 0.0](int pass, double residual) mutable {
-        const RunProgress progress = ProgressOf(pass, residual, closeness);
-        closeness = progress.closeness;
-        services.showProgress(progress);
-    };
-}
+/// Hands the passes on to the progress call and remembers that it has stopped the run.
+class Progress {
+  public:
+    explicit Progress(const RunOptions& options) : options_(options) {}
 
-bool MayRun(const Project& project, const WorkNetwork& work, bool singlePipe, MessageBoxes& boxes) {
-    return FluidIsChosen(project.settings, boxes) && GasLawApplies(project.settings, boxes) &&
-           (singlePipe || PipeDataAreComplete(project, work, boxes));
-}
+    void Report(int pass, double residual) {
+        const RunProgress progress = ProgressOf(pass, residual, closeness_);
+        closeness_ = progress.closeness;
+        if (!stopped_) stopped_ = !options_.progress(progress);
+    }
 
-StageResult Solve(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
-                  const RunServices& services) {
-    return SolveNetwork(project.settings, plan, work,
-                        StartGuesses(work, services.seed.value_or(ClockSeed())),
-                        ProgressReport(services));
+    bool Stopped() const { return stopped_; }
+
+  private:
+    const RunOptions& options_;
+    double closeness_ = 0;
+    bool stopped_ = false;
+};
+
+StageResult Solve(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+                  const RunOptions& options, Progress& progress) {
+    return SolveNetwork(
+        settings, plan, work, StartGuesses(work, options.seed.value_or(ClockSeed())),
+        [&progress](int pass, double residual) { progress.Report(pass, residual); });
 }
 
 RunEnd EndOf(const StageResult& result) {
@@ -80,39 +84,45 @@ void DescribeResiduals(const WorkNetwork& work, const StageResult& result, Outco
     }
 }
 
+std::optional<Refusal> CheckData(const Settings& settings, const WorkNetwork& work,
+                                 const RunOptions& options) {
+    std::optional<Refusal> refusal = CheckFluid(settings);
+    if (!refusal && options.pipeDataChecked) refusal = CheckPipeData(settings, work);
+    return refusal;
+}
+
+std::optional<Refusal> CheckSystem(const Settings& settings, const NetworkPlan& plan,
+                                   const WorkNetwork& work) {
+    std::optional<Refusal> refusal = CheckCounts(plan);
+    return refusal ? refusal : CheckCoherence(settings, work);
+}
+
+Outcome Ended(RunEnd end, std::optional<Refusal> refusal = {}) {
+    Outcome outcome;
+    outcome.end = end;
+    outcome.refusal = std::move(refusal);
+    return outcome;
+}
+
 }  // namespace
 
-Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
-                       const RunServices& services) {
-    Outcome outcome;
-    MessageBoxes& boxes = services.boxes;
-    if (!MayRun(project, work, singlePipe, boxes)) return outcome;
-
-    const bool ofDrawing = project.settings.Mode == WorkMode::Graphic && !singlePipe;
+Outcome ComputeNetwork(const Settings& settings, WorkNetwork& work, const RunOptions& options) {
+    if (auto refusal = CheckData(settings, work, options)) return Ended(RunEnd::Refused, refusal);
     const NetworkPlan plan = PlanNetwork(work);
-    work.EquationCount = plan.equations;
-    if (plan.Order() == 0) {
-        outcome.end = RunEnd::Empty;
-        return outcome;
-    }
-    if (!CountsAreBalanced(plan, boxes)) return outcome;
-    if (!GivenDataAreCoherent(project, work, boxes)) return outcome;
+    if (plan.Order() == 0) return Ended(RunEnd::Empty);
+    if (auto refusal = CheckSystem(settings, plan, work)) return Ended(RunEnd::Refused, refusal);
 
-    StageResult result = Solve(project, plan, work, services);
+    Progress progress(options);
+    StageResult result = Solve(settings, plan, work, options, progress);
+    Outcome outcome;
     outcome.passes = result.passes;
-    outcome.end = EndOf(result);
-    if (outcome.end == RunEnd::NotFinite) {
-        boxes.Show(kDoesNotSettle);
-        return outcome;
-    }
-    DescribeResiduals(work, result, outcome);
-    CleanUpZeroFlows(project, plan, work, result);
-    outcome.notes = ResultNotes(project, plan, work, result);
-    StoreResults(project, plan, work, result, ofDrawing);
-    services.writeReport();
+    outcome.end = progress.Stopped() ? RunEnd::Stopped : EndOf(result);
+    if (outcome.end == RunEnd::Stopped || outcome.end == RunEnd::NotFinite) return outcome;
 
-    CheckWorkingPoints(project, plan, boxes);
-    if (!singlePipe) AddBasePressure(project, work, boxes);
+    DescribeResiduals(work, result, outcome);
+    CleanUpZeroFlows(settings, plan, work, result);
+    outcome.notes = ResultNotes(settings, plan, work, result);
+    StoreResults(plan, work, result);
     return outcome;
 }
 

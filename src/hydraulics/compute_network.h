@@ -8,15 +8,16 @@
 #include <string>
 #include <vector>
 
-#include "base/message_boxes.h"
+#include "hydraulics/refusal.h"
 #include "hydraulics/work_network.h"
-#include "model/project.h"
+#include "model/settings.h"
 
 namespace idrova {
 
 enum class RunEnd {
-    Refused,    ///< a check stopped the run with a message: nothing was stored
-    Empty,      ///< nothing to compute: nothing was stored, no message
+    Refused,    ///< a check refused the network: nothing was stored
+    Empty,      ///< nothing to compute: nothing was stored
+    Stopped,    ///< the progress call has stopped the run: nothing was stored
     Settled,    ///< the results are a solution
     Unsettled,  ///< the results are the last pass, not a solution
     Singular,   ///< the equations have no single solution: the results are the last pass
@@ -30,6 +31,7 @@ struct Outcome {
     double residual = 0;             ///< summed relative residual of the last pass
     double worstResidual = 0;        ///< the largest residual of an unsettled pipe
     int worstPipe = 0;               ///< its number; 0 when every pipe has settled
+    std::optional<Refusal> refusal;  ///< of a run that the engine has refused
     std::vector<std::string> notes;  ///< what the user should know, in plain words
 };
 
@@ -42,19 +44,17 @@ struct RunProgress {
     double passes = 0;
 };
 
-/// What a run needs from outside.
-struct RunServices {
-    MessageBoxes& boxes;
-    std::function<void()> writeReport = [] {};  ///< called once, with the results stored
-    std::function<void(const RunProgress&)> showProgress = [](const RunProgress&) {};
-    std::optional<std::uint32_t> seed;  ///< of the start values; from the clock when absent
+/// What a run takes beside the settings and the network.
+struct RunOptions {
+    std::optional<std::uint32_t> seed{};  ///< of the start values; from the clock when absent
+    /// Called after every pass; false stops the run, which stores nothing then.
+    std::function<bool(const RunProgress&)> progress = [](const RunProgress&) { return true; };
+    bool pipeDataChecked = true;  ///< false: a pipe may have zero length or diameter
 };
 
-/// One whole run on the working copy: checks, iteration, results into the copy and (in graphic
-/// mode of a network run) into the project, report, pump and pressure checks. Flows come out in
-/// kg/s signed from each pipe's `FlowFromPoint`, pressures in Pa without the base pressure for the
-/// report; a network run then adds `BasePressure` to the working pressures.
-Outcome ComputeNetwork(Project& project, WorkNetwork& work, bool singlePipe,
-                       const RunServices& services);
+/// One whole run: checks, solution, results into the working network. Flows come out in kg/s signed
+/// from each pipe's `FlowFromPoint`, pressures in Pa without the base pressure, and each
+/// component's record has the flow of its first pipe piece as its `Result`.
+Outcome ComputeNetwork(const Settings& settings, WorkNetwork& work, const RunOptions& options);
 
 }  // namespace idrova

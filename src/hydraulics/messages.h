@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
+#include <vector>
 
 #include "base/message_boxes.h"
+#include "hydraulics/refusal.h"
 
 namespace idrova {
 
@@ -17,15 +18,10 @@ constexpr FixedMessage kChangeDirections{
     "Flow rates direction", BoxIcon::Question, BoxButtons::OkCancel};
 constexpr FixedMessage kDoesNotSettle{"The computation does not settle: no results", "Computation"};
 
-MessageBox ZeroLength(int pipe);
-MessageBox ZeroDiameter(int pipe);
-MessageBox TooManyUnknowns(int unknowns);
-MessageBox UnsolvingSystem(int unknowns, int equations, int knownTerms);
-MessageBox IndefiniteSystem(int unknowns, int equations, int knownTerms);
-/// `pipes`: the number texts of the pipes, one after the other.
-MessageBox IncoherentData(const std::string& pipes);
-/// `cells`: each pump's cell as number text followed by " ,".
-MessageBox OutOfRangePumps(const std::string& cells);
+/// What the refused run says.
+MessageBox RefusalBox(const Refusal& refusal);
+/// `cells`: those of the pumps.
+MessageBox OutOfRangePumps(const std::vector<int>& cells);
 /// `basePressure` in bar.
 MessageBox NegativePressures(float basePressure);
 

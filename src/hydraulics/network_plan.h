@@ -28,7 +28,7 @@ struct NetworkPlan {
     int unknowns = 0;
     int equations = 0;
     int knownTerms = 0;
-    std::vector<Component> components;  ///< in cell order
+    std::vector<Component> components;  ///< one for each of the working network, in its order
 
     int Order() const { return equations + knownTerms; }
 };

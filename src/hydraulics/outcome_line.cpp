@@ -25,6 +25,8 @@ std::string OutcomeLine(const Outcome& outcome) {
             return "Not computed";
         case RunEnd::Empty:
             return "Nothing to compute";
+        case RunEnd::Stopped:
+            return "Stopped after " + Passes(outcome);
         case RunEnd::Settled:
             return "Computed in " + Passes(outcome);
         case RunEnd::Unsettled:

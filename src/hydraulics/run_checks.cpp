@@ -3,12 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 #include "base/number_text.h"
 #include "hydraulics/fluid_density.h"
 #include "hydraulics/linear_system.h"
-#include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
 
 namespace idrova {
@@ -17,14 +15,13 @@ namespace {
 constexpr double kCoherence = 1e-4;           ///< relative
 constexpr double kCoherenceAtRest = 10.1325;  ///< Pa, when the given pressures are equal
 
-bool IsCoherent(const Project& project, const PipeRec& pipe, const PointRec& start,
+bool IsCoherent(const Settings& settings, const PipeRec& pipe, const PointRec& start,
                 const PointRec& end) {
     const double given = static_cast<double>(start.Pressure) - end.Pressure;
-    double flow = pipe.FlowRate;
     const double computed =
         pipe.DirectionSign() *
-        PipeDrop(project.settings, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                 MeanAbsolutePressure(project.settings, start.Pressure, end.Pressure));
+        PipeDrop(settings, pipe.Diameter, pipe.OuterSize, pipe.FlowRate, pipe.Length,
+                 MeanAbsolutePressure(settings, start.Pressure, end.Pressure));
     if (given == 0) return std::abs(computed) <= kCoherenceAtRest;
     return std::abs(computed - given) / std::abs(given) <= kCoherence;
 }
@@ -36,71 +33,49 @@ bool HasZeroSize(const Settings& settings, const PipeRec& pipe) {
 
 }  // namespace
 
-bool FluidIsChosen(const Settings& settings, MessageBoxes& boxes) {
-    if (settings.FluidDensity != 0) return true;
-    boxes.Show(kSelectAFluid);
-    return false;
+std::optional<Refusal> CheckFluid(const Settings& settings) {
+    if (settings.FluidDensity == 0) return Refusal{RefusalKind::NoFluid};
+    if (settings.EquationType == Equation::Incompressible) return std::nullopt;
+    if (settings.FluidCompressibility == 0) return Refusal{RefusalKind::NotCompressible};
+    if (settings.FluidTemperature > ToSingle(-kCelsiusToKelvin)) return std::nullopt;
+    return Refusal{RefusalKind::TooCold};
 }
 
-bool GasLawApplies(const Settings& settings, MessageBoxes& boxes) {
-    if (settings.EquationType == Equation::Incompressible) return true;
-    if (settings.FluidCompressibility == 0) {
-        boxes.Show(kNotCompressible);
-        return false;
-    }
-    if (settings.FluidTemperature <= ToSingle(-kCelsiusToKelvin)) {
-        boxes.Show(kTooCold);
-        return false;
-    }
-    return true;
-}
-
-bool PipeDataAreComplete(const Project& project, const WorkNetwork& work, MessageBoxes& boxes) {
+std::optional<Refusal> CheckPipeData(const Settings& settings, const WorkNetwork& work) {
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
         if (!pipe.IsDrawn()) continue;
-        if (pipe.Length == 0) {
-            boxes.Show(ZeroLength(i));
-            return false;
-        }
-        if (HasZeroSize(project.settings, pipe)) {
-            boxes.Show(ZeroDiameter(i));
-            return false;
-        }
+        if (pipe.Length == 0) return Refusal{RefusalKind::ZeroLength, {i}};
+        if (HasZeroSize(settings, pipe)) return Refusal{RefusalKind::ZeroDiameter, {i}};
     }
-    return true;
+    return std::nullopt;
 }
 
-bool CountsAreBalanced(const NetworkPlan& plan, MessageBoxes& boxes) {
-    const int largest = std::max(plan.unknowns, plan.Order());
-    if (largest > kMaxUnknowns) {
-        boxes.Show(TooManyUnknowns(largest));
-    } else if (plan.unknowns > plan.Order()) {
-        boxes.Show(UnsolvingSystem(plan.unknowns, plan.equations, plan.knownTerms));
-    } else if (plan.unknowns < plan.Order()) {
-        boxes.Show(IndefiniteSystem(plan.unknowns, plan.equations, plan.knownTerms));
-    } else {
-        return true;
-    }
-    return false;
+std::optional<Refusal> CheckCounts(const NetworkPlan& plan) {
+    Refusal refusal{
+        RefusalKind::TooManyUnknowns, {}, plan.unknowns, plan.equations, plan.knownTerms};
+    if (std::max(plan.unknowns, plan.Order()) > kMaxUnknowns) return refusal;
+    if (plan.unknowns == plan.Order()) return std::nullopt;
+    const bool tooFew = plan.unknowns > plan.Order();
+    refusal.kind = tooFew ? RefusalKind::TooFewTerms : RefusalKind::TooManyTerms;
+    return refusal;
 }
 
-bool GivenDataAreCoherent(const Project& project, const WorkNetwork& work, MessageBoxes& boxes) {
-    std::string incoherent;
+std::optional<Refusal> CheckCoherence(const Settings& settings, const WorkNetwork& work) {
+    Refusal refusal{RefusalKind::Incoherent};
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
         if (!pipe.IsDrawn() || work.WorkFlowUnknown[i]) continue;
         if (work.WorkPressureUnknown[pipe.StartPoint]) continue;
         if (work.WorkPressureUnknown[pipe.EndPoint]) continue;
-        if (IsCoherent(project, pipe, work.WorkPoints[pipe.StartPoint],
+        if (IsCoherent(settings, pipe, work.WorkPoints[pipe.StartPoint],
                        work.WorkPoints[pipe.EndPoint])) {
             continue;
         }
-        incoherent += StrText(i);
+        refusal.pipes.push_back(i);
     }
-    if (incoherent.empty()) return true;
-    boxes.Show(IncoherentData(incoherent));
-    return false;
+    if (refusal.pipes.empty()) return std::nullopt;
+    return refusal;
 }
 
 }  // namespace idrova

@@ -1,27 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "base/message_boxes.h"
+#include <optional>
+
 #include "hydraulics/network_plan.h"
+#include "hydraulics/refusal.h"
 #include "hydraulics/work_network.h"
-#include "model/project.h"
+#include "model/settings.h"
 
 namespace idrova {
 
-/// The checks before a run. Each says its message and returns false when the run must stop.
+/// The checks before a run. Each returns the first refusal, nothing when the run may go on.
 
-bool FluidIsChosen(const Settings& settings, MessageBoxes& boxes);
-
-/// The compressible equation is chosen for a gas only, at a temperature that there is.
-bool GasLawApplies(const Settings& settings, MessageBoxes& boxes);
+/// A fluid is chosen; the compressible equation for a gas only, at a temperature that there is.
+std::optional<Refusal> CheckFluid(const Settings& settings);
 
 /// No drawn pipe has zero length or zero diameter (in a rectangular section: a zero side).
-bool PipeDataAreComplete(const Project& project, const WorkNetwork& work, MessageBoxes& boxes);
+std::optional<Refusal> CheckPipeData(const Settings& settings, const WorkNetwork& work);
 
 /// As many unknowns as equations and known terms, and no more than the solver takes.
-bool CountsAreBalanced(const NetworkPlan& plan, MessageBoxes& boxes);
+std::optional<Refusal> CheckCounts(const NetworkPlan& plan);
 
 /// Where the flow and both pressures of a pipe are given, they agree.
-bool GivenDataAreCoherent(const Project& project, const WorkNetwork& work, MessageBoxes& boxes);
+std::optional<Refusal> CheckCoherence(const Settings& settings, const WorkNetwork& work);
 
 }  // namespace idrova

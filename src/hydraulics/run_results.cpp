@@ -7,7 +7,6 @@
 #include "base/number_text.h"
 #include "hydraulics/component_law.h"
 #include "hydraulics/loose_part.h"
-#include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
 #include "hydraulics/solution_check.h"
 
@@ -50,11 +49,11 @@ void NotePipes(const WorkNetwork& work, const StageResult& result,
 }
 
 /// The lowest point whose liquid would be torn apart; a gas is told by its pipes.
-void NoteVacuum(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+void NoteVacuum(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                 const StageResult& result, std::vector<std::string>& notes) {
-    if (project.settings.EquationType == Equation::Compressible) return;
+    if (settings.EquationType == Equation::Compressible) return;
     int lowest = 0;
-    double least = -kAtmosphere - project.settings.BasePressure;
+    double least = -kAtmosphere - settings.BasePressure;
     for (int i = 1; i <= work.WorkPointCount; ++i) {
         if (!work.WorkPoints[i].IsDrawn() || result.Pressure(plan, i) >= least) continue;
         least = result.Pressure(plan, i);
@@ -92,11 +91,11 @@ std::string PercentText(double share) {
     return "0" + GeneralText(rounded) + " %";
 }
 
-void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                       StageResult& result) {
-    const FlowScale scale = FlowScaleOf(project.settings, plan, work, result.solution);
+    const FlowScale scale = FlowScaleOf(settings, plan, work, result.solution);
     const double negligible = kNegligibleFlow * scale.largest + scale.rounding;
-    const double weight = project.settings.FluidDensity * kGravity;
+    const double weight = settings.FluidDensity * kGravity;
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
         if (!pipe.IsDrawn() || !work.WorkFlowUnknown[i]) continue;
@@ -108,27 +107,22 @@ void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const Wor
     }
 }
 
-void StoreResults(Project& project, const NetworkPlan& plan, WorkNetwork& work,
-                  const StageResult& result, bool intoProject) {
+void StoreResults(const NetworkPlan& plan, WorkNetwork& work, const StageResult& result) {
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
-        pipe.FlowRate = ToSingle(result.Flow(plan, i));
-        if (intoProject) project.Pipes[i].FlowRate = pipe.FlowRate;
+        if (pipe.IsDrawn()) pipe.FlowRate = ToSingle(result.Flow(plan, i));
     }
     for (int i = 1; i <= work.WorkPointCount; ++i) {
         PointRec& point = work.WorkPoints[i];
-        if (!point.IsDrawn()) continue;
-        point.Pressure = ToSingle(result.Pressure(plan, i));
-        if (intoProject) project.Points[i].Pressure = point.Pressure;
+        if (point.IsDrawn()) point.Pressure = ToSingle(result.Pressure(plan, i));
     }
-    for (const Component& component : plan.components) {
-        if (component.pipeA == 0) continue;
-        project.Cells[component.cell].Result = work.WorkPipes[component.pipeA].FlowRate;
+    for (std::size_t i = 0; i < plan.components.size(); ++i) {
+        const int pipeA = plan.components[i].pipeA;
+        if (pipeA != 0) work.WorkComponents[i].record.Result = work.WorkPipes[pipeA].FlowRate;
     }
 }
 
-std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& plan,
+std::vector<std::string> ResultNotes(const Settings& settings, const NetworkPlan& plan,
                                      const WorkNetwork& work, const StageResult& result) {
     std::vector<std::string> notes;
     const int loose = PipeWithoutGivenPressure(plan, work);
@@ -136,10 +130,9 @@ std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& 
         notes.push_back("No pressure is given in the part of the network that holds pipe " +
                         GeneralText(loose));
     }
-    if (project.settings.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
-    if (project.settings.FluidDensity < 0)
-        notes.emplace_back("The density of the fluid is negative");
-    NoteVacuum(project, plan, work, result, notes);
+    if (settings.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
+    if (settings.FluidDensity < 0) notes.emplace_back("The density of the fluid is negative");
+    NoteVacuum(settings, plan, work, result, notes);
     if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
     NotePipes(work, result, notes);
     for (const UnsettledComponent& component : result.unsettledComponents) {
@@ -148,7 +141,7 @@ std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& 
     }
     for (const Component& component : plan.components) {
         if (component.pipeA == 0) continue;
-        NoteComponent(project.settings, component, work.WorkPipes[component.pipeA],
+        NoteComponent(settings, component, work.WorkPipes[component.pipeA],
                       result.Flow(plan, component.pipeA), notes);
     }
     return notes;
@@ -159,27 +152,24 @@ bool IsInRange(const CellRec& pump) {
     return pump.MinFlow <= flow && flow <= pump.MaxFlow;
 }
 
-void CheckWorkingPoints(const Project& project, const NetworkPlan& plan, MessageBoxes& boxes) {
-    std::string outOfRange;
-    for (const Component& component : plan.components) {
-        const CellRec& cell = project.Cells[component.cell];
-        if (cell.Kind != CellKind::Pump || !cell.Placed || IsInRange(cell)) continue;
-        outOfRange += StrText(component.cell) + " ,";
+std::vector<int> PumpsOutOfRange(const WorkNetwork& work) {
+    std::vector<int> cells;
+    for (const auto& [cell, record] : work.WorkComponents) {
+        if (record.Kind != CellKind::Pump || !record.Placed || IsInRange(record)) continue;
+        cells.push_back(cell);
     }
-    if (!outOfRange.empty()) boxes.Show(OutOfRangePumps(outOfRange));
+    return cells;
 }
 
-void AddBasePressure(Project& project, WorkNetwork& work, MessageBoxes& boxes) {
+float AddBasePressure(const Settings& settings, WorkNetwork& work) {
     float lowest = 0;
     for (int i = 1; i <= work.WorkPointCount; ++i) {
         PointRec& point = work.WorkPoints[i];
         if (!point.IsDrawn()) continue;
-        point.Pressure += project.settings.BasePressure;
+        point.Pressure += settings.BasePressure;
         lowest = std::min(lowest, point.Pressure);
     }
-    if (lowest >= 0) return;
-    const MessageBox question = NegativePressures(project.settings.BasePressure / kPascalPerBar);
-    if (boxes.Show(question) == Answer::Yes) project.settings.BasePressure = -lowest;
+    return lowest;
 }
 
 }  // namespace idrova

@@ -4,11 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "base/message_boxes.h"
 #include "hydraulics/first_stage.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/work_network.h"
-#include "model/project.h"
+#include "model/settings.h"
 
 namespace idrova {
 
@@ -16,29 +15,28 @@ namespace idrova {
 
 /// Sets to 0 the unknown flow of every pipe whose ends have the same head within 1e-5 and whose
 /// flow is at most 1e-8 of the largest.
-void CleanUpZeroFlows(const Project& project, const NetworkPlan& plan, const WorkNetwork& work,
+void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                       StageResult& result);
 
-/// Flows and pressures into the working copy and the components' cells; with `intoProject` into
-/// the project's pipes and points too.
-void StoreResults(Project& project, const NetworkPlan& plan, WorkNetwork& work,
-                  const StageResult& result, bool intoProject);
+/// Flows and pressures into the working network, each component's flow into its record.
+void StoreResults(const NetworkPlan& plan, WorkNetwork& work, const StageResult& result);
 
 /// What the user should know of the data and the solution, a sentence each. To be called before
 /// the results replace the given values.
-std::vector<std::string> ResultNotes(const Project& project, const NetworkPlan& plan,
+std::vector<std::string> ResultNotes(const Settings& settings, const NetworkPlan& plan,
                                      const WorkNetwork& work, const StageResult& result);
 
 /// A share in percent: "3 %", below one percent with two decimals: "0.04 %".
 std::string PercentText(double share);
 
-/// Lists the pumps whose stored flow is outside the range of their curve.
-void CheckWorkingPoints(const Project& project, const NetworkPlan& plan, MessageBoxes& boxes);
-
 /// True when a pump's stored flow is within the range of its curve, its limits included.
 bool IsInRange(const CellRec& pump);
 
-/// Adds the base pressure to the working pressures; when some are negative, offers a new one.
-void AddBasePressure(Project& project, WorkNetwork& work, MessageBoxes& boxes);
+/// The cells of the pumps whose computed flow is outside the range of their curve.
+std::vector<int> PumpsOutOfRange(const WorkNetwork& work);
+
+/// Adds the base pressure to the working pressures of drawn points. Returns the lowest of them in
+/// Pa, 0 when none is negative.
+float AddBasePressure(const Settings& settings, WorkNetwork& work);
 
 }  // namespace idrova

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hydraulics/single_pipe.h"
 
-#include <utility>
-
 #include "base/number_text.h"
 
 namespace idrova {
@@ -48,42 +46,6 @@ void SetPoint(WorkNetwork& work, int point, double bar, bool unknown) {
     work.WorkPoints[point].Pressure = ToSingle(bar * kPascalPerBar);
     work.WorkPoints[point].X = kAnyPlace;
     work.WorkPressureUnknown[point] = unknown;
-}
-
-std::optional<BoxText> ComputedText(const SinglePipe& pipe, const WorkNetwork& work) {
-    const auto pressureText = [&work](int point) {
-        return FormatNumber(work.WorkPoints[point].Pressure / kPascalPerBar, "###.##");
-    };
-    switch (pipe.unknown) {
-        case PipeQuantity::PressureAt1:
-            return BoxText{pipe.unknown, pressureText(1)};
-        case PipeQuantity::PressureAt2:
-            return BoxText{pipe.unknown, pressureText(2)};
-        case PipeQuantity::FlowRate: {
-            const double perHour = work.WorkPipes[1].FlowRate * kSecondsPerHour;
-            return BoxText{pipe.unknown, GeneralText(static_cast<float>(perHour))};
-        }
-        default:
-            return std::nullopt;
-    }
-}
-
-/// Has the pipes computed and reported as round ones for as long as it lives.
-class RoundSection {
-  public:
-    explicit RoundSection(Settings& settings)
-        : settings_(settings), chosen_(std::exchange(settings.SectionType, Section::Circular)) {}
-    RoundSection(const RoundSection&) = delete;
-    RoundSection& operator=(const RoundSection&) = delete;
-    ~RoundSection() { settings_.SectionType = chosen_; }
-
-  private:
-    Settings& settings_;
-    Section chosen_;
-};
-
-bool StoresResults(RunEnd end) {
-    return end == RunEnd::Settled || end == RunEnd::Unsettled;
 }
 
 }  // namespace
@@ -133,18 +95,27 @@ void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work) {
     work.WorkFlowUnknown[1] = pipe.unknown == PipeQuantity::FlowRate;
 }
 
-SinglePipeResult SinglePipeCompute(const SinglePipe& pipe, Project& project, WorkNetwork& work,
-                                   const RunServices& services) {
-    SinglePipeResult result;
-    result.outcome.end = RunEnd::Empty;
+bool IsComplete(const SinglePipe& pipe) {
     const bool lengthMissing = pipe.length == 0 && pipe.unknown != PipeQuantity::Length;
-    if (pipe.diameter == 0 || lengthMissing) return result;
+    return pipe.diameter != 0 && !lengthMissing;
+}
 
-    BuildSinglePipeNetwork(pipe, work);
-    const RoundSection round(project.settings);
-    result.outcome = ComputeNetwork(project, work, true, services);
-    if (StoresResults(result.outcome.end)) result.box = ComputedText(pipe, work);
-    return result;
+std::optional<BoxText> ComputedText(const SinglePipe& pipe, const WorkNetwork& work) {
+    const auto pressureText = [&work](int point) {
+        return FormatNumber(work.WorkPoints[point].Pressure / kPascalPerBar, "###.##");
+    };
+    switch (pipe.unknown) {
+        case PipeQuantity::PressureAt1:
+            return BoxText{pipe.unknown, pressureText(1)};
+        case PipeQuantity::PressureAt2:
+            return BoxText{pipe.unknown, pressureText(2)};
+        case PipeQuantity::FlowRate: {
+            const double perHour = work.WorkPipes[1].FlowRate * kSecondsPerHour;
+            return BoxText{pipe.unknown, GeneralText(static_cast<float>(perHour))};
+        }
+        default:
+            return std::nullopt;
+    }
 }
 
 DirectionView FollowPressures(SinglePipe& pipe) {

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "hydraulics/compute_network.h"
+#include "hydraulics/work_network.h"
 
 namespace idrova {
 
@@ -45,15 +45,11 @@ std::string SteppedText(const SinglePipe& pipe, PipeQuantity quantity, int steps
 /// The pipe as a working network of one pipe and two points.
 void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work);
 
-struct SinglePipeResult {
-    Outcome outcome;
-    std::optional<BoxText> box;  ///< the unknown's new text, when there is one
-};
+/// False while the diameter is 0, or the length is 0 and known: nothing is computed then.
+bool IsComplete(const SinglePipe& pipe);
 
-/// Computes the unknown. Nothing happens while the diameter is 0, or the length is 0 and known.
-/// Refusals are told in boxes. The drawn network keeps its data and results.
-SinglePipeResult SinglePipeCompute(const SinglePipe& pipe, Project& project, WorkNetwork& work,
-                                   const RunServices& services);
+/// The computed text of the unknown; nothing when that is the length or the diameter.
+std::optional<BoxText> ComputedText(const SinglePipe& pipe, const WorkNetwork& work);
 
 /// What the window shows of the flow direction: the arrow and whether it may be turned by hand.
 struct DirectionView {

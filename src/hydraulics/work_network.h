@@ -27,7 +27,6 @@ struct WorkNetwork {
     std::vector<WorkComponent> WorkComponents;  ///< of a drawing, in cell order
     int WorkPipeCount = 0;
     int WorkPointCount = 0;
-    int EquationCount = 0;  ///< equations of the last run
 };
 
 /// Where the records of pipes and points that are on no drawing stand, so that they take part.

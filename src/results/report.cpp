@@ -39,28 +39,28 @@ std::string NominalDesignation(float diameter) {
 
 class ReportPrinter {
   public:
-    ReportPrinter(const Project& project, const WorkNetwork& work)
-        : project_(project), work_(work) {}
+    ReportPrinter(const Settings& settings, const WorkNetwork& work)
+        : settings_(settings), work_(work) {}
 
-    void Heading(const ReportTime& when) {
+    void Heading(std::string_view project, const ReportTime& when) {
         EmptyLine();
         Line(kReportStart);
         out_.Text("RESULTS CALCULATION    (ver.").NextZone();
         out_.Text(kVersionNumber).Text(kVersionRelease).Text(")").NextZone();
         out_.Text(when.date).NextZone().Text(when.time).EndLine();
-        out_.Text("Project: ").NextZone().Text(project_.ProjectName).EndLine();
-        out_.Text("Mode: ").Text(ModeText(project_.settings.Mode)).EndLine();
+        out_.Text("Project: ").NextZone().Text(project).EndLine();
+        out_.Text("Mode: ").Text(ModeText(settings_.Mode)).EndLine();
     }
 
     void Conditions() {
-        const bool gas = project_.settings.EquationType == Equation::Compressible;
-        const bool circular = project_.settings.SectionType == Section::Circular;
+        const bool gas = settings_.EquationType == Equation::Compressible;
+        const bool circular = settings_.SectionType == Section::Circular;
         EmptyLine();
-        out_.Text("Fluid: ").Text(project_.settings.FluidName).EndLine();
-        out_.Text("Density [kg/mc]: ").NextZone().Number(project_.settings.FluidDensity).NextZone();
-        out_.Text("viscosity: ").NextZone().Number(project_.settings.FluidViscosity).EndLine();
+        out_.Text("Fluid: ").Text(settings_.FluidName).EndLine();
+        out_.Text("Density [kg/mc]: ").NextZone().Number(settings_.FluidDensity).NextZone();
+        out_.Text("viscosity: ").NextZone().Number(settings_.FluidViscosity).EndLine();
         EmptyLine();
-        out_.Text("Roughness[m]: ").NextZone().Number(project_.settings.Roughness).EndLine();
+        out_.Text("Roughness[m]: ").NextZone().Number(settings_.Roughness).EndLine();
         EmptyLine();
         out_.Text("Correlation: ").NextZone();
         Line(gas ? "Compressible gas" : "Incompressible fluid");
@@ -79,7 +79,7 @@ class ReportPrinter {
 
     void PressureDifferences() {
         ForDrawnPipes([this](int number, const PipeRec& pipe) {
-            const PipeFigures figures = FiguresOf(pipe, work_, project_.settings);
+            const PipeFigures figures = FiguresOf(pipe, work_, settings_);
             out_.Text("pipe" + StrText(number)).NextZone();
             out_.Text("P" + StrText(int{pipe.StartPoint}) + "-P" + StrText(int{pipe.EndPoint}));
             out_.NextZone().Text("[Pa]").NextZone().Number(figures.drop).NextZone();
@@ -127,9 +127,9 @@ class ReportPrinter {
     }
 
     void Point(int number, const PointRec& point) {
-        const bool bar = project_.settings.PressureUnit == Unit::Bar;
+        const bool bar = settings_.PressureUnit == Unit::Bar;
         const bool known = !work_.WorkPressureUnknown[number];
-        const float shown = point.Pressure / project_.settings.PressureUnitFactor;
+        const float shown = point.Pressure / settings_.PressureUnitFactor;
         out_.Text("Point" + StrText(number)).NextZone();
         out_.Text("Pressure [Pa],").Text(bar ? "[bar]" : "[mbar]").NextZone();
         out_.Number(point.Pressure).NextZone();
@@ -138,11 +138,11 @@ class ReportPrinter {
     }
 
     void PipeBlock(int number, const PipeRec& pipe) {
-        const PipeFigures figures = FiguresOf(pipe, work_, project_.settings);
+        const PipeFigures figures = FiguresOf(pipe, work_, settings_);
         out_.Text("pipe").NextZone().Number(number).EndLine();
         out_.Text("   Flow rate [kg/h],[mc/h]").NextZone();
         out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour)).NextZone();
-        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour / project_.settings.FluidDensity))
+        out_.Number(ScaledSingle(pipe.FlowRate, kSecondsPerHour / settings_.FluidDensity))
             .EndLine();
         SectionLine(pipe);
         Row("   Lenght [m]", pipe.Length);
@@ -154,7 +154,7 @@ class ReportPrinter {
 
     void SectionLine(const PipeRec& pipe) {
         const float side = ScaledSingle(pipe.Diameter, kMillimetresPerMetre);
-        if (project_.settings.SectionType == Section::Circular) {
+        if (settings_.SectionType == Section::Circular) {
             out_.Text("   Diameter [mm]").NextZone().Number(side).NextZone();
             return Line(NominalDesignation(pipe.Diameter));
         }
@@ -173,13 +173,12 @@ class ReportPrinter {
 
     template <typename Print>
     void ForComponents(CellKind kind, const Print& print) {
-        for (int i = 1; i <= project_.CellCount(); ++i) {
-            const CellRec& cell = project_.Cells[i];
-            if (HoldsComponent(cell, kind)) print(cell);
+        for (const auto& [cell, record] : work_.WorkComponents) {
+            if (HoldsComponent(record, kind)) print(record);
         }
     }
 
-    const Project& project_;
+    const Settings& settings_;
     const WorkNetwork& work_;
     PrintZoneWriter out_;
 };
@@ -200,9 +199,10 @@ ReportTime CurrentReportTime() {
     return {ClockText(local, "%Y-%m-%d"), ClockText(local, "%H:%M:%S")};
 }
 
-std::string ReportText(const Project& project, const WorkNetwork& work, const ReportTime& when) {
-    ReportPrinter report(project, work);
-    report.Heading(when);
+std::string ReportText(const Settings& settings, std::string_view project, const WorkNetwork& work,
+                       const ReportTime& when) {
+    ReportPrinter report(settings, work);
+    report.Heading(project, when);
     report.Conditions();
     report.Points();
     report.PressureDifferences();

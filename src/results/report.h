@@ -18,7 +18,9 @@ struct ReportTime {
 ReportTime CurrentReportTime();
 
 /// The report of the last computation: its settings, the pressures, the pipes, the components.
-/// Lines end with carriage return and line feed. Only drawn pipes and points take part.
-std::string ReportText(const Project& project, const WorkNetwork& work, const ReportTime& when);
+/// Lines end with carriage return and line feed. Only drawn pipes and points take part, and the
+/// components of `work`. `project` is the project's name.
+std::string ReportText(const Settings& settings, std::string_view project, const WorkNetwork& work,
+                       const ReportTime& when);
 
 }  // namespace idrova

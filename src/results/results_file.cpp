@@ -36,13 +36,6 @@ Status StoreReport(const Settings& settings, std::string_view report, const fs::
     return WriteWholeFile(file, *old + std::string(report));
 }
 
-bool WriteReport(const Settings& settings, std::string_view report, const fs::path& folder,
-                 MessageBoxes& boxes) {
-    const Status stored = StoreReport(settings, report, folder);
-    if (!stored) boxes.Show({stored.Error(), kResultsTitle});
-    return static_cast<bool>(stored);
-}
-
 void PrintReport(const std::string& report, MessageBoxes& boxes,
                  const std::function<void(const std::string&)>& print) {
     if (boxes.Show(kAskPrint) == Answer::Yes) print(report);

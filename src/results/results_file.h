@@ -20,10 +20,6 @@ constexpr std::string_view kResultsFile = "out.dat";
 Status StoreReport(const Settings& settings, std::string_view report,
                    const std::filesystem::path& folder);
 
-/// The same; a failure is told.
-bool WriteReport(const Settings& settings, std::string_view report,
-                 const std::filesystem::path& folder, MessageBoxes& boxes);
-
 /// Asks, then hands the report to `print` as plain text.
 void PrintReport(const std::string& report, MessageBoxes& boxes,
                  const std::function<void(const std::string&)>& print);

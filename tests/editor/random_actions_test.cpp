@@ -7,9 +7,9 @@
 #include <random>
 #include <set>
 
-#include "hydraulics/compute_network.h"
 #include "plant.h"
 #include "projectfile/project_file.h"
+#include "shell/run_command.h"
 #include "support/temp_folder.h"
 
 namespace idrova {
@@ -103,8 +103,9 @@ class RandomUser {
             project.PressureUnknown[i] = pipesAt[i] != 1 || cut;
         }
         const auto work = std::make_unique<WorkNetwork>();
-        CopyNetwork(project, *work);
-        runs.insert(ComputeNetwork(project, *work, false, {.boxes = plant.boxes, .seed = 1}).end);
+        const auto noReport = [](const Settings&, const WorkNetwork&) { return Status(Done{}); };
+        const RunHost host{.boxes = plant.boxes, .writeReport = noReport, .seed = 1};
+        runs.insert(RunNetwork(project, {}, *work, host).end);
     }
 
     void Reopen() {

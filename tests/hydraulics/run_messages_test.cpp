@@ -2,17 +2,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <functional>
 #include <vector>
 
+#include "hydraulics/messages.h"
+#include "hydraulics/run_results.h"
 #include "hydraulics/run_settings.h"
 #include "support/network_run.h"
 
 namespace idrova {
 namespace {
-
-using Boxes = std::vector<MessageBox>;
 
 /// One pipe between points at 3 and 2 bar.
 NetworkBuilder OnePipe() {
@@ -60,7 +59,6 @@ void LevelPressures(NetworkBuilder& network) {
 const struct {
     std::function<void(NetworkBuilder&)> spoil;
     const char *title, *text;
-    RunEnd end = RunEnd::Refused;
 } kRefusals[] = {
     {[](auto& n) { n->settings.FluidDensity = 0; }, "Fluid", "Select a fluid"},
     {[](auto& n) { n->settings.EquationType = Equation::Compressible; },
@@ -78,63 +76,61 @@ const struct {
      "Too many unknowns: 202 (max 200)"},
     {OverdetermineFirstPipe, "Data oherence check", "Pipes  1 with not coherent data"},
     {LevelPressures, "Data oherence check", "Pipes  1 with not coherent data"},
-    {[](auto& n) { n.SetPressure(1, INFINITY); }, "Computation",
-     "The computation does not settle: no results", RunEnd::NotFinite},
 };
 
 TEST(RunMessages, RefusalsChangeNothing) {
     for (const auto& c : kRefusals) {
         NetworkBuilder network = OnePipe();
         c.spoil(network);
-        const auto before = std::make_unique<Project>(*network);
         const NetworkRun run(network);
-        EXPECT_EQ(run.boxes.shown, Boxes{MessageBox(c.text, c.title)});
-        EXPECT_EQ(run.outcome.end, c.end);
-        EXPECT_EQ(run.reports, 0);
-        EXPECT_EQ(*network, *before);
+        EXPECT_EQ(run.outcome.end, RunEnd::Refused);
+        EXPECT_EQ(RefusalBox(run.outcome.refusal.value()), MessageBox(c.text, c.title));
         auto copied = std::make_unique<WorkNetwork>();
-        CopyNetwork(*before, *copied);
+        CopyNetwork(*network, *copied);
         EXPECT_EQ(run.work->WorkPipes, copied->WorkPipes);
         EXPECT_EQ(run.work->WorkPoints, copied->WorkPoints);
     }
-    NetworkBuilder empty;
-    const NetworkRun run(empty);
+    const NetworkRun run(NetworkBuilder{});
     EXPECT_EQ(run.outcome.end, RunEnd::Empty);
-    EXPECT_EQ(run.boxes.shown, Boxes{});
-    EXPECT_EQ(run.reports, 0);
+    EXPECT_EQ(run.outcome.refusal, std::nullopt);
 }
 
 TEST(RunMessages, NegativePressuresOfferABasePressure) {
-    for (const Answer answer : {Answer::Yes, Answer::No}) {
-        NetworkBuilder network = OnePipe();
-        network.SetPressure(2, -20000);
-        const NetworkRun run(network, 1, answer);
-        const MessageBox question(
-            "Some pressures are negative, probably due to a close circuit\rDo you want to"
-            " automatically define a new value for the base pressure ?\rActual value =  0 bar",
-            "Pressure check", BoxIcon::Information, BoxButtons::YesNo);
-        EXPECT_EQ(run.boxes.shown, Boxes{question});
-        EXPECT_EQ(network->settings.BasePressure, answer == Answer::Yes ? 20000 : 0);
-    }
+    const MessageBox question(
+        "Some pressures are negative, probably due to a close circuit\rDo you want to"
+        " automatically define a new value for the base pressure ?\rActual value =  0 bar",
+        "Pressure check", BoxIcon::Information, BoxButtons::YesNo);
+    EXPECT_EQ(NegativePressures(0), question);
+    NetworkBuilder network = PumpedPipe();
+    network->Points[4].Pressure = -20000;
+    network->Points[5].Pressure = -1e9F;  // deleted
+    network->settings.BasePressure = 5000;
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*network, *work);
+    EXPECT_EQ(AddBasePressure(network->settings, *work), -15000);
+    EXPECT_EQ(work->WorkPoints[1].Pressure, 305000);
 }
 
-TEST(RunMessages, PumpsOutOfRangeAreListedInDrawnNetworksOnly) {
-    const MessageBox outOfRange("The pumps  205 , work with a flow rate out range",
-                                "Working point check", BoxIcon::Information);
-    for (const bool table : {false, true}) {
-        NetworkBuilder network = PumpedPipe();
-        network.SetFlow(1, 1);
-        if (table) {
-            network->settings.Mode = WorkMode::Table;
-            for (const int point : {3, 4}) network.SetPressure(point, 3e5F);
-        }
-        CellRec& pump = network->Cells[network->Points[2].Cell];
-        pump.MinFlow = 1;
-        EXPECT_EQ(NetworkRun(network).boxes.shown, Boxes{});
-        pump.MinFlow = 2;
-        EXPECT_EQ(NetworkRun(network).boxes.shown, table ? Boxes{} : Boxes{outOfRange});
-        EXPECT_EQ(pump.Result, table ? 0 : 1);
+TEST(RunMessages, PumpsOutOfRangeAreListed) {
+    NetworkBuilder network = PumpedPipe();
+    CellRec& pump = network->Cells[network->Points[2].Cell];
+    pump.Result = -1;
+    const struct {
+        float least, most;
+        bool outOfRange;
+    } cases[] = {{0, 1, false}, {1, 2, false}, {1.5F, 2, true}, {0, .5F, true}};
+    for (const auto& c : cases) {
+        pump.MinFlow = c.least;
+        pump.MaxFlow = c.most;
+        const auto work = std::make_unique<WorkNetwork>();
+        CopyNetwork(*network, *work);
+        EXPECT_EQ(PumpsOutOfRange(*work).size(), c.outOfRange ? 1U : 0U);
+        work->WorkComponents[0].record.Placed = false;
+        EXPECT_TRUE(PumpsOutOfRange(*work).empty());
     }
+    const MessageBox box("The pumps  205 , 7 , work with a flow rate out range",
+                         "Working point check", BoxIcon::Information);
+    EXPECT_EQ(OutOfRangePumps({205, 7}), box);
 }
 
 TEST(RunNotes, TellWhatNoPlantCanHave) {

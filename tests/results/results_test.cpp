@@ -16,21 +16,22 @@ namespace fs = std::filesystem;
 using testing::HasSubstr;
 
 TEST(Report, IsPrintedLineByLine) {
-    const auto project = std::make_unique<Project>();
-    project->ProjectName = "/plants/Caffè.iv";
-    project->settings.FluidName = "[3] Water 20 C";
-    project->settings.FluidDensity = 998.2;
-    project->settings.FluidViscosity = .001002;
-    project->Cells[7] = {.Name = "Gate valve", .Kind = CellKind::Loss, .Param1 = .2F};
-    project->Cells[9] = {.Name = "Removed", .Kind = CellKind::Pump};
-    project->Cells[11] = {.Name = "Filter", .Kind = CellKind::Loss, .Param1 = 1.5F, .Param2 = 5000};
-    project->Cells[2500] = {.Name = "Pump 30-160", .Kind = CellKind::Pump, .Result = .5F};
-    project->Cells[2500].MinFlow = .25F;
-    project->Cells[2500].MaxFlow = 2;
-    for (const int cell : {7, 11, 2500}) project->Cells[cell].Placed = true;
-    project->Cells[2501] = project->Cells[2500];  // beyond the grid
+    Settings settings;
+    settings.FluidName = "[3] Water 20 C";
+    settings.FluidDensity = 998.2;
+    settings.FluidViscosity = .001002;
 
     const auto work = std::make_unique<WorkNetwork>();
+    work->WorkComponents = {
+        {7, {.Name = "Gate valve", .Kind = CellKind::Loss, .Param1 = .2F}},
+        {9, {.Name = "Removed", .Kind = CellKind::Pump}},
+        {11, {.Name = "Filter", .Kind = CellKind::Loss, .Param1 = 1.5F, .Param2 = 5000}},
+        {2500, {.Name = "Pump 30-160", .Kind = CellKind::Pump, .Result = .5F}}};
+    for (WorkComponent& component : work->WorkComponents) {
+        component.record.Placed = component.cell != 9;
+    }
+    work->WorkComponents.back().record.MinFlow = .25F;
+    work->WorkComponents.back().record.MaxFlow = 2;
     constexpr std::int16_t gone = kDeleted;  // pipe 2 and point 3
     work->WorkPipeCount = 3;
     work->WorkPipes[1] = {.5F, 12.5F, .0279F, 1, 2, 639, 0, 0, 0, 0, 3, 0, 1};
@@ -92,9 +93,9 @@ TEST(Report, IsPrintedLineByLine) {
     const ReportTime time{"2026-11-22", "21:55:26"};
     std::string text;
     for (const std::string& line : expected) text += line + "\r\n";
-    EXPECT_EQ(ReportText(*project, *work, time), text);
-    project->settings.SectionType = Section::Rectangular;
-    EXPECT_THAT(ReportText(*project, *work, time),
+    EXPECT_EQ(ReportText(settings, "/plants/Caffè.iv", *work, time), text);
+    settings.SectionType = Section::Rectangular;
+    EXPECT_THAT(ReportText(settings, "/plants/Caffè.iv", *work, time),
                 HasSubstr("   Side a [mm]               28           "
                           "   Side b [mm]               65.4 \r\n"));
 }
@@ -118,7 +119,7 @@ class ResultsFile : public testing::Test {
 TEST_F(ResultsFile, ReportReplacesOrFollowsTheOldOnesAndIsDeletedAndPrinted) {
     for (const bool inSequence : {false, false, true}) {
         settings.ResultsInSequence = inSequence;
-        ASSERT_TRUE(WriteReport(settings, "one", folder.Path(), boxes));
+        ASSERT_TRUE(StoreReport(settings, "one", folder.Path()));
     }
     boxes.Expect(kAskDeleteResults, Answer::Cancel).Expect(kAskDeleteResults, Answer::Ok);
     DeleteResults(folder.Path(), boxes);
@@ -127,7 +128,7 @@ TEST_F(ResultsFile, ReportReplacesOrFollowsTheOldOnesAndIsDeletedAndPrinted) {
     EXPECT_FALSE(fs::exists(results));
     boxes.Expect(kAskDeleteResults, Answer::Ok);  // nothing left, which is not told
     DeleteResults(folder.Path(), boxes);
-    ASSERT_TRUE(WriteReport(settings, "four", folder.Path(), boxes));
+    ASSERT_TRUE(StoreReport(settings, "four", folder.Path()));
     EXPECT_EQ(FileBytes(results), "four");
 
     std::string printed;
@@ -145,11 +146,12 @@ TEST_F(ResultsFile, FailureIsTold) {
     RecordedBoxes told;
     for (const bool inSequence : {false, true}) {
         settings.ResultsInSequence = inSequence;
-        EXPECT_FALSE(WriteReport(settings, "report", folder.Path(), told));
-        EXPECT_THAT(told.shown.back().title + told.shown.back().text, HasSubstr("out.dat"));
+        const Status stored = StoreReport(settings, "report", folder.Path());
+        ASSERT_FALSE(stored);
+        EXPECT_THAT(stored.Error(), HasSubstr("out.dat"));
     }
     EXPECT_FALSE(SaveEditor(folder.Path(), editor, told));
-    EXPECT_EQ(told.shown.back().title + told.shown.front().title, "Text editorResults");
+    EXPECT_EQ(told.shown.back().title, "Text editor");
 }
 
 TEST_F(ResultsFile, ShowStartsTheEditorOrSaysWhatIsMissing) {

@@ -5,7 +5,6 @@
 
 #include "hydraulics/compute_network.h"
 #include "support/networks.h"
-#include "support/scripted_boxes.h"
 
 namespace idrova {
 
@@ -30,21 +29,15 @@ inline void MakeAir(Project& project) {
 
 /// One run of a drawn network, and what came of it.
 struct NetworkRun {
-    explicit NetworkRun(NetworkBuilder& network, std::uint32_t seed = 1, Answer yesNo = Answer::No)
-        : boxes(yesNo) {
+    explicit NetworkRun(const NetworkBuilder& network, std::uint32_t seed = 1) {
         CopyNetwork(*network, *work);
-        if (network->settings.Mode == WorkMode::Table) work->WorkComponents.clear();
-        outcome =
-            ComputeNetwork(*network, *work, false,
-                           {.boxes = boxes, .writeReport = [this] { ++reports; }, .seed = seed});
+        outcome = ComputeNetwork(network->settings, *work, {.seed = seed});
     }
 
     double Flow(int pipe) const { return work->WorkPipes[pipe].FlowRate; }
     double Pressure(int point) const { return work->WorkPoints[point].Pressure; }
 
     std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
-    RecordedBoxes boxes;
-    int reports = 0;
     Outcome outcome;
 };
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/network_run.h"
+#include "support/scripted_boxes.h"
 #include "table/messages.h"
 
 namespace idrova {
@@ -74,8 +75,7 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
     project->settings.Mode = WorkMode::Table;
     Load(rows);
     ASSERT_TRUE(Convert());
-    EXPECT_EQ(ComputeNetwork(*project, *work, false, {.boxes = boxes, .seed = 2}).end,
-              RunEnd::Settled);
+    EXPECT_EQ(ComputeNetwork(project->settings, *work, {.seed = 2}).end, RunEnd::Settled);
     const NetworkRun graphic(drawn);
     for (int i = 1; i <= drawn->numtubo; ++i) {
         EXPECT_NEAR(work->WorkPipes[i].FlowRate, graphic.Flow(i), 1e-6 * std::abs(graphic.Flow(i)))

@@ -14,9 +14,11 @@ namespace {
 
 void PrintLastResults(MDI& mdi) {
     Program& program = mdi.State();
-    const std::string report = program.report.empty()
-                                   ? ReportText(program.project, program.work, CurrentReportTime())
-                                   : program.report;
+    const Project& project = program.project;
+    const std::string report =
+        program.report.empty()
+            ? ReportText(project.settings, project.ProjectName, program.work, CurrentReportTime())
+            : program.report;
     PrintReport(report, program.boxes, [&](const std::string& text) {
         PrintText(text, program.lastFolder, &mdi, program.boxes);
     });

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 #include "model/settings.h"
 

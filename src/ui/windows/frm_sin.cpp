@@ -12,8 +12,7 @@
 #include <QVBoxLayout>
 
 #include "model/pipe_sizes.h"
-#include "results/messages.h"
-#include "ui/frame/run_services.h"
+#include "shell/run_command.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/flow_arrow.h"
 #include "ui/kit/form_parts.h"
@@ -191,18 +190,22 @@ void FrmSin::Recompute() {
     // The sign of the flow that is shown belongs to the arrow that is shown.
     Timer1_Timer();
     // Such a run ends within one keystroke: a progress window would only flicker.
-    const RunServices services = ServicesOfRun(
-        program_, program_.boxes, [this](const Status& stored) { ReportStored(stored); });
+    const auto write = ReportWriter(program_.project, program_.folder, program_.report);
+    const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
+        return FirstFailure(write(settings, work));
+    };
     const SinglePipeResult result =
-        SinglePipeCompute(pipe_, program_.project, program_.work, services);
+        RunSinglePipe(pipe_, program_.project.settings, program_.work,
+                      {.boxes = program_.boxes, .writeReport = writeReport});
     program_.outcomes[WorkMode::SinglePipe] = result.outcome;
     program_.showOutcome();
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }
 
-void FrmSin::ReportStored(const Status& stored) {
-    if (!stored && !reportFailed_) program_.boxes.Show({stored.Error(), kResultsTitle});
+Status FrmSin::FirstFailure(const Status& stored) {
+    const bool told = reportFailed_;
     reportFailed_ = !stored;
+    return told ? Status(Done{}) : stored;
 }
 
 }  // namespace idrova

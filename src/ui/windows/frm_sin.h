@@ -46,7 +46,9 @@ class FrmSin : public ChildWindow {
     void Command9_Click();
     void Timer1_Timer();
     void Recompute();
-    void ReportStored(const Status& stored);
+    /// The failure to write a report, unless the last one failed too: told once, not with every
+    /// key.
+    Status FirstFailure(const Status& stored);
 
     Program& program_;
     SinglePipe pipe_;
@@ -55,7 +57,7 @@ class FrmSin : public ChildWindow {
     QPushButton* Command9;
     FlowArrow* arrow_;
     QTimer* Timer1;
-    bool reportFailed_ = false;  ///< told once, not with every key
+    bool reportFailed_ = false;
 };
 
 }  // namespace idrova

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/run_command.h"
+
+#include "hydraulics/messages.h"
+#include "hydraulics/run_results.h"
+#include "results/messages.h"
+#include "results/report.h"
+#include "results/results_file.h"
+#include "table/table_network.h"
+
+namespace idrova {
+namespace {
+
+/// False, told in a box, when the table is refused.
+bool FillNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
+                 MessageBoxes& boxes) {
+    if (project.settings.Mode == WorkMode::Table) {
+        return TableToNetwork(project, texts, work, boxes);
+    }
+    CopyNetwork(project, work);
+    return true;
+}
+
+bool HasResults(const Outcome& outcome) {
+    switch (outcome.end) {
+        case RunEnd::Settled:
+        case RunEnd::Unsettled:
+        case RunEnd::Singular:
+            return true;
+        case RunEnd::Refused:
+        case RunEnd::Empty:
+        case RunEnd::Stopped:
+        case RunEnd::NotFinite:
+            return false;
+    }
+    return false;
+}
+
+/// Deleted pipes and points keep what they held.
+void StoreIntoProject(const WorkNetwork& work, Project& project) {
+    for (int i = 1; i <= work.WorkPipeCount; ++i) {
+        project.Pipes[i].FlowRate = work.WorkPipes[i].FlowRate;
+    }
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        project.Points[i].Pressure = work.WorkPoints[i].Pressure;
+    }
+    for (const WorkComponent& component : work.WorkComponents) {
+        project.Cells[component.cell].Result = component.record.Result;
+    }
+}
+
+Outcome Compute(const Settings& settings, WorkNetwork& work, bool pipeDataChecked,
+                const RunHost& host) {
+    return ComputeNetwork(
+        settings, work,
+        {.seed = host.seed, .progress = host.showProgress, .pipeDataChecked = pipeDataChecked});
+}
+
+/// Writes the report of a run that has results, takes the progress away, tells what went wrong.
+void Report(const Settings& settings, const WorkNetwork& work, const Outcome& outcome,
+            const RunHost& host) {
+    Status written = Done{};
+    if (HasResults(outcome)) written = host.writeReport(settings, work);
+    host.endProgress();
+    if (outcome.refusal) host.boxes.Show(RefusalBox(*outcome.refusal));
+    if (outcome.end == RunEnd::NotFinite) host.boxes.Show(kDoesNotSettle);
+    if (!written) host.boxes.Show({written.Error(), kResultsTitle});
+}
+
+void CheckPumps(const WorkNetwork& work, MessageBoxes& boxes) {
+    const std::vector<int> cells = PumpsOutOfRange(work);
+    if (!cells.empty()) boxes.Show(OutOfRangePumps(cells));
+}
+
+/// Adds the base pressure; when pressures are negative then, offers one that lifts the lowest to 0.
+void CheckPressures(Settings& settings, WorkNetwork& work, MessageBoxes& boxes) {
+    const float lowest = AddBasePressure(settings, work);
+    if (lowest >= 0) return;
+    const MessageBox question = NegativePressures(settings.BasePressure / kPascalPerBar);
+    if (boxes.Show(question) == Answer::Yes) settings.BasePressure = -lowest;
+}
+
+}  // namespace
+
+Outcome RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
+                   const RunHost& host) {
+    if (!FillNetwork(project, texts, work, host.boxes)) return {};
+    Outcome outcome = Compute(project.settings, work, true, host);
+    const bool stored = HasResults(outcome);
+    if (stored && project.settings.Mode == WorkMode::Graphic) StoreIntoProject(work, project);
+    Report(project.settings, work, outcome, host);
+    if (!stored) return outcome;
+    CheckPumps(work, host.boxes);
+    CheckPressures(project.settings, work, host.boxes);
+    return outcome;
+}
+
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Settings& settings, WorkNetwork& work,
+                               const RunHost& host) {
+    SinglePipeResult result;
+    result.outcome.end = RunEnd::Empty;
+    if (!IsComplete(pipe)) return result;
+
+    Settings round = settings;
+    round.SectionType = Section::Circular;
+    BuildSinglePipeNetwork(pipe, work);
+    result.outcome = Compute(round, work, false, host);
+    Report(round, work, result.outcome, host);
+    if (HasResults(result.outcome)) result.box = ComputedText(pipe, work);
+    return result;
+}
+
+std::function<Status(const Settings&, const WorkNetwork&)> ReportWriter(
+    const Project& project, const std::filesystem::path& folder, std::string& report) {
+    return [&project, &folder, &report](const Settings& settings, const WorkNetwork& work) {
+        report = ReportText(settings, project.ProjectName, work, CurrentReportTime());
+        return StoreReport(settings, report, folder);
+    };
+}
+
+}  // namespace idrova

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "base/message_boxes.h"
+#include "base/result.h"
+#include "hydraulics/compute_network.h"
+#include "hydraulics/single_pipe.h"
+#include "hydraulics/work_network.h"
+#include "model/project.h"
+#include "table/table_texts.h"
+
+namespace idrova {
+
+/// What a run needs of the program that asks for it.
+struct RunHost {
+    MessageBoxes& boxes;
+    /// Called once, with the settings and the results of the run, before the base pressure is added
+    /// to them. A failure is told in a box.
+    std::function<Status(const Settings&, const WorkNetwork&)> writeReport;
+    /// After every pass; false stops the run.
+    std::function<bool(const RunProgress&)> showProgress = [](const RunProgress&) { return true; };
+    /// Called once, after the report and before any box of a run.
+    std::function<void()> endProgress = [] {};
+    std::optional<std::uint32_t> seed{};  ///< of the start values; from the clock when absent
+};
+
+/// Computes the table or the drawing, as the mode says: refusals told, the drawing's results stored
+/// in the project, the report written, pumps and pressures checked.
+Outcome RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
+                   const RunHost& host);
+
+struct SinglePipeResult {
+    Outcome outcome;
+    std::optional<BoxText> box;  ///< the unknown's new text, when there is one
+};
+
+/// Computes the unknown of one round pipe, unless it is incomplete: refusals told, the report
+/// written. Takes the settings of the project, which keeps its data and results.
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Settings& settings, WorkNetwork& work,
+                               const RunHost& host);
+
+/// A `writeReport` that keeps the report in `report` and puts it into the results file of `folder`.
+/// All three must outlive it.
+std::function<Status(const Settings&, const WorkNetwork&)> ReportWriter(
+    const Project& project, const std::filesystem::path& folder, std::string& report);
+
+}  // namespace idrova
