@@ -107,7 +107,7 @@ class Studio {
 
     void Compute() {
         Press("Command1");
-        const Outcome& outcome = program_->outcomes[program_->project.Mode];
+        const Outcome& outcome = program_->outcomes[program_->project.settings.Mode];
         if (outcome.end != RunEnd::Settled) throw std::runtime_error("not settled");
     }
 
