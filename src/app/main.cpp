@@ -59,7 +59,7 @@ fs::path ProjectsFolder() {
 
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
-    idrova::SetDecimalPoint();
+    idrova::PrepareInput();
     QApplication::setApplicationName("idrova");
     QApplication::setApplicationVersion(idrova::ToQt(idrova::VersionText()));
     QApplication::setDesktopFileName(idrova::kApplicationId);

@@ -79,6 +79,24 @@ TEST_F(CommandPanel, FramesOpenWithARightClickAndLockWithALeftOne) {
     EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
 }
 
+TEST_F(CommandPanel, TheWheelChangesOnlyWhatHasTheKeyboard) {
+    const auto wheel = [](QWidget& control) {
+        const QPointF at(5, 5);
+        QWheelEvent turn(at, control.mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&control, &turn);
+    };
+    Do("Combo2#6");
+    auto& sizes = Child<QComboBox>("Combo2");
+    EXPECT_EQ(sizes.focusPolicy(), Qt::StrongFocus);
+    Child<QLineEdit>("Text6").setFocus();
+    for (const char* name : {"Combo2", "Combo1", "Slider1"}) wheel(Child<QWidget>(name));
+    EXPECT_EQ(Shown("Text7 Combo1"), "53.8|Pump");
+    sizes.setFocus();
+    wheel(sizes);
+    EXPECT_EQ(sizes.currentIndex(), 7);
+}
+
 TEST_F(CommandPanel, TheArmedButtonBlinks) {
     const auto& button = Child<QAbstractButton>("Command3");
     const auto isLit = [&button] { return button.styleSheet().contains("ffff00"); };

@@ -24,6 +24,6 @@ int main(int argc, char* argv[]) {
     const QApplication application(argc, argv);
     if (!idrova::LocaleIsAsAsked()) return EXIT_FAILURE;
     QApplication::setQuitOnLastWindowClosed(false);
-    idrova::SetDecimalPoint();
+    idrova::PrepareInput();
     return RUN_ALL_TESTS();
 }

@@ -8,15 +8,17 @@
 #include <utility>
 
 #include "ui/kit/keypad_point.h"
+#include "ui/kit/wheel_guard.h"
 #include "ui/windows/frm_warn.h"
 
 namespace idrova {
 
-void SetDecimalPoint() {
+void PrepareInput() {
     QLocale::setDefault(QLocale::c());
     std::setlocale(LC_NUMERIC, "C");
     std::setlocale(LC_MESSAGES, "C");  // the reasons that the system gives, as all other messages
     qApp->installEventFilter(new KeypadPoint(qApp));
+    qApp->installEventFilter(new WheelGuard(qApp));
 }
 
 void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow, int splashMilliseconds) {

@@ -13,8 +13,9 @@ namespace idrova {
 void FrmStart(MessageBoxes& boxes, std::function<void()> openMainWindow,
               int splashMilliseconds = kSplashMilliseconds);
 
-/// Makes the toolkit, the C library and the keypad use the period in numbers. Once, right after the
-/// application object, whose construction takes over the machine's regional settings.
-void SetDecimalPoint();
+/// Makes the toolkit, the C library and the keypad use the period in numbers, and the wheel leave
+/// alone what does not have the keyboard. Once, right after the application object, whose
+/// construction takes over the machine's regional settings.
+void PrepareInput();
 
 }  // namespace idrova
