@@ -62,6 +62,8 @@ TEST_F(MainWindow, DataWindowOpensOnceIsUsedByKeyboardAndClosesByEscape) {
 TEST_F(MainWindow, TypedSettingsAreTaken) {
     Open("tt", "FrmRug");
     EXPECT_EQ(Shown("Text1"), ".0001");
+    QTest::keyClicks(QApplication::focusWidget(), ".002");
+    EXPECT_EQ(Shown("Text1"), ".002") << "typing replaces what the window opened with";
     Do("Text1=-0.001;Command1");
     ASSERT_NE(Window("FrmRug"), nullptr) << "a negative one is not";
     Do("Text1=.00025;Text1!");
@@ -84,6 +86,8 @@ TEST_F(MainWindow, TypedSettingsAreTaken) {
     project.settings.FluidTemperature = 20.5F;
     Open("PresMini", "FrmPMin");
     EXPECT_EQ(Shown("Text1 Text2"), "2|20.5");
+    QTest::mouseClick(&Child<QLineEdit>("Text2"), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Child<QLineEdit>("Text2").hasSelectedText(); }));
     Do("Text1=3;Text2=cold;Command1");
     EXPECT_EQ(Window("FrmPMin"), nullptr);
     EXPECT_EQ(project.settings.BasePressure, 303975);

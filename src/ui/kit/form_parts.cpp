@@ -7,6 +7,7 @@
 #include <QPushButton>
 
 #include "ui/kit/controls.h"
+#include "ui/kit/text_field.h"
 
 namespace idrova {
 
@@ -77,7 +78,7 @@ QLabel* ValueLabel(const char* name) {
 }
 
 QLineEdit* TextField(const char* name) {
-    return Named(new QLineEdit, name);
+    return Named<QLineEdit>(new SelectingField, name);
 }
 
 QLineEdit* ComputedField(const char* name) {

@@ -7,12 +7,14 @@
 #include "model/pipe_sizes.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/qt_text.h"
+#include "ui/kit/text_field.h"
 
 namespace idrova {
 
 NameList::NameList(const char* name) {
     Named(this, name);
     setEditable(true);
+    setLineEdit(new SelectingField);
     setInsertPolicy(NoInsert);
     setCompleter(nullptr);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);

@@ -23,12 +23,6 @@ void NumberBox::Show(const std::string& text) {
     setText(shown);
 }
 
-void NumberBox::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    // A press that gives the focus goes on to place the cursor.
-    QMetaObject::invokeMethod(this, "selectAll", Qt::QueuedConnection);
-}
-
 NumberBox* ResultBox(const char* name) {
     auto* box = new NumberBox(name, [](std::string_view) {});
     box->setReadOnly(true);

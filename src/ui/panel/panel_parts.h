@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QLineEdit>
 #include <QWidget>
 #include <functional>
 #include <string>
 #include <string_view>
 
 #include "editor/pipe_panel.h"
+#include "ui/kit/text_field.h"
 
 class QRadioButton;
 
@@ -23,17 +23,14 @@ struct PanelContext {
     std::function<void()> redraw = [] {};  ///< something else than a typed number changed
 };
 
-/// A box for a typed number. Getting the focus selects its text, so that typing replaces it.
-class NumberBox : public QLineEdit {
+/// A box for a typed number.
+class NumberBox : public SelectingField {
   public:
     /// `typed` is called with the whole text at every change that does not come from `Show`.
     NumberBox(const char* name, const std::function<void(std::string_view)>& typed);
 
     /// Leaves the box, and the cursor in it, alone when it holds the text already.
     void Show(const std::string& text);
-
-  protected:
-    void focusInEvent(QFocusEvent* event) override;
 };
 
 /// A box for a computed number.

@@ -2,7 +2,6 @@
 #include "ui/windows/frm_con.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -30,7 +29,6 @@ FrmCon::FrmCon(Program& program)
     column->addLayout(ButtonRow({save, leave}));
     Combo1->Refill(EditorSuggestions());
     Combo1->setEditText(ToQt(EditorBoxText(program_.folder)));
-    Combo1->lineEdit()->selectAll();
     setFocusProxy(Combo1);
 }
 

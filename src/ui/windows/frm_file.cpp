@@ -50,10 +50,10 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose)
       Drive1(Named(new QComboBox, "Drive1")),
       Dir1(Named<QListWidget>(new FolderList, "Dir1")),
       File1(Named(new QListWidget, "File1")),
-      Text1(Named(new QLineEdit, "Text1")),
+      Text1(TextField("Text1")),
       Text2(ComputedField("Text2")),
-      Text3(Named(new QLineEdit, "Text3")),
-      Text4(Named(new QLineEdit, "Text4")) {
+      Text3(TextField("Text3")),
+      Text4(TextField("Text4")) {
     auto* column = new QVBoxLayout(this);
     column->addWidget(MakeLists(), 1);
     column->addWidget(MakeFields());
