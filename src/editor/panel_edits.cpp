@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/panel_edits.h"
 
-#include <algorithm>
-
 #include "base/number_text.h"
 #include "editor/messages.h"
 #include "model/pipe_sizes.h"
@@ -18,11 +16,13 @@ PointPanel& PanelOf(PipePanel& panel, PipeEnd end) {
     return end == PipeEnd::Start ? panel.start : panel.end;
 }
 
-/// Takes `text` into a box that allows no negative number; returns the number.
-double TakeSize(std::string& box, std::string_view text) {
+/// Takes `text` into a box that allows no negative number; returns the number. A negative one
+/// becomes "0", and so does what is typed on behind that.
+double TakeSize(PipePanel& panel, std::string& box, std::string_view text) {
     const double value = ReadNumber(text);
-    box = value < 0 ? "0" : text;
-    return value < 0 ? 0 : value;
+    panel.negative = value < 0 || (panel.negative && text.starts_with('0'));
+    box = panel.negative ? "0" : text;
+    return panel.negative ? 0 : value;
 }
 
 /// Nothing was typed yet where the record still holds 0.
@@ -73,20 +73,20 @@ bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view
 void TypeLength(Project& project, PipePanel& panel, std::string_view text) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
-    pipe->Length = ToSingle(TakeSize(panel.length, text));
+    pipe->Length = ToSingle(TakeSize(panel, panel.length, text));
 }
 
 void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
-    pipe->Diameter = ToSingle(TakeSize(panel.innerSize, text) / kMillimetresPerMetre);
+    pipe->Diameter = ToSingle(TakeSize(panel, panel.innerSize, text) / kMillimetresPerMetre);
     panel.nominalSize = panel.section.nominalSizes ? NominalSizeOf(pipe->Diameter) : 0;
 }
 
 void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
-    pipe->OuterSize = ToSingle(TakeSize(panel.outerSize, text) / kMillimetresPerMetre);
+    pipe->OuterSize = ToSingle(TakeSize(panel, panel.outerSize, text) / kMillimetresPerMetre);
 }
 
 void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
@@ -101,11 +101,16 @@ void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
 void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_view text) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
-    const std::int16_t height = ToInt16(ReadNumber(text));
-    // "0.5" begins with a zero: putting another in its place would make "05" of it.
-    const bool begins = text.starts_with("0") && ReadNumber(text) == 0;
-    PanelOf(panel, end).height = ReadNumber(text) > 0 || begins ? text : "0";
-    (end == PipeEnd::Start ? pipe->Z1 : pipe->Z2) = std::max<std::int16_t>(height, 0);
+    const double height = TakeSize(panel, PanelOf(panel, end).height, text);
+    (end == PipeEnd::Start ? pipe->Z1 : pipe->Z2) = ToInt16(height);
+}
+
+void LeaveBox(const Project& project, PipePanel& panel) {
+    panel.negative = false;
+    if (project.CurrentPipe == 0) return;
+    const PipeRec& pipe = project.Pipes[project.CurrentPipe];
+    panel.start.height = GeneralText(pipe.Z1);
+    panel.end.height = GeneralText(pipe.Z2);
 }
 
 void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known) {

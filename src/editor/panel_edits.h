@@ -26,7 +26,8 @@ void TypeKgPerHour(Project& project, PipePanel& panel, std::string_view text);
 bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view text,
                             MessageBoxes& boxes);
 
-/// `Text6`, `Text7`, `Text8`: m, mm, mm. A negative number becomes "0".
+/// `Text6`, `Text7`, `Text8`: m, mm, mm. A negative number becomes "0", and stays so while more of
+/// it is typed, until the box is emptied or left.
 void TypeLength(Project& project, PipePanel& panel, std::string_view text);
 void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text);
 void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text);
@@ -34,8 +35,11 @@ void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text);
 /// `Combo2`: a nominal size (1 .. 12); fills both diameters.
 void ChoosePipeSize(Project& project, PipePanel& panel, int size);
 
-/// `Text5`, `Text11`: m, rounded to whole ones. What is not above 0 becomes "0".
+/// `Text5`, `Text11`: m, rounded to whole ones; negative numbers as in the sizes.
 void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_view text);
+
+/// The keyboard leaves a box: the heights show what is stored.
+void LeaveBox(const Project& project, PipePanel& panel);
 
 /// `Option1`, `Option2`.
 void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known);

@@ -36,6 +36,7 @@ struct PipePanel {
     std::string innerSize;                   ///< `Text7`, mm
     std::string outerSize;                   ///< `Text8`, mm
     PointPanel start, end;
+    bool negative = false;       ///< the number being typed was negative: its rest is not taken
     std::string_view unitLabel;  ///< of the four pressure boxes
     SectionDisplay section;
 

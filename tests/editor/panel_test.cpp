@@ -28,7 +28,12 @@ constexpr const char* kScripts[] = {
     "size=7 size:7 inner:53.8 outer:60.3 again size:7 outer:60.3 inner=54 size:0 size=13 size:0",
     "size=12 outer=70 R5,5 again size:12 outer:165 size=1 outer=70 R5,5 again size:1",
     "z1=12 z1:12 again z1:12 z1=2.5 z1:2.5 again z1:2 z1=3.5 again z1:4 z2:0 z2=8 again z2:8",
-    "z1=9 z1=0.5 z1:0.5 z1=-3 z1:0 again z1:0 z1= z1:0 z1=x z1:0 z1=99999 z1:99999 again z1:32767",
+    "z1=9 z1=0.5 z1:0.5 z1=-3 z1:0 again z1:0 z1= z1: z1=12 z1:12 z1=99999 z1:99999 again z1:32767",
+    "z2=x z2:x z2=12.7 z2:12.7 leave= z2:13 again z2:13",
+    // As they are typed: what follows a negative digit is a part of that number.
+    "inner=- inner:- inner=-5 inner:0 inner=03 inner:0 inner=0. inner:0 again inner:0",
+    "length=-5 length=02 length:0 length= length: length=2 length:2 again length:2",
+    "z1=-1 z1=02 z1:0 leave= z1=05 z1:05 z1=-1 z1=7 z1:7 again z1:7",
     "p1=2 p1:/. again p1:/. end1=given p1:/ p1=2 p1:2/ again p1:2./ p2:/. end1=unknown p1:/2.",
     "end2=given p2=1 again p2:1./ p1:/. from2:no from2= from2:yes again from2:yes",
 };

@@ -87,6 +87,7 @@ class Plant {
         {"end2", [&](auto& t) { ChoosePressure(project, panel, PipeEnd::End, t == "given"); }},
         {"p1", [&](auto& t) { TypePressure(project, panel, PipeEnd::Start, t); }},
         {"p2", [&](auto& t) { TypePressure(project, panel, PipeEnd::End, t); }},
+        {"leave", [&](auto&) { LeaveBox(project, panel); }},
         {"from2", [&](auto&) { ChooseDirection(project, panel, PipeEnd::End); }},
     };
 

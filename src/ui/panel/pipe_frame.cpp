@@ -44,17 +44,21 @@ PipeFrame::PipeFrame(PanelContext& context)
     form->addRow(endHeightLabel_, Text11);
 }
 
-NumberBox* PipeFrame::EditBox(const char* name, Edit edit) {
-    return new NumberBox(name, [this, edit](std::string_view text) {
+NumberBox* PipeFrame::EditBox(const char* name, const Edit& edit) {
+    auto* box = new NumberBox(name, [this, edit](std::string_view text) {
         edit(context_.program.project, context_.panel, text);
         context_.show();
     });
+    connect(box, &QLineEdit::editingFinished, this, [this] {
+        LeaveBox(context_.program.project, context_.panel);
+        context_.show();
+    });
+    return box;
 }
 
 NumberBox* PipeFrame::HeightBox(const char* name, PipeEnd end) {
-    return new NumberBox(name, [this, end](std::string_view text) {
-        TypeHeight(context_.program.project, context_.panel, end, text);
-        context_.show();
+    return EditBox(name, [end](Project& project, PipePanel& panel, std::string_view text) {
+        TypeHeight(project, panel, end, text);
     });
 }
 

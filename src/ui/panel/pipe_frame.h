@@ -22,8 +22,8 @@ class PipeFrame : public QGroupBox {
     void Show();
 
   private:
-    using Edit = void (*)(Project&, PipePanel&, std::string_view);
-    NumberBox* EditBox(const char* name, Edit edit);
+    using Edit = std::function<void(Project&, PipePanel&, std::string_view)>;
+    NumberBox* EditBox(const char* name, const Edit& edit);
     NumberBox* HeightBox(const char* name, PipeEnd end);
     void ShowSection();
 
