@@ -10,22 +10,60 @@
 
 namespace idrova {
 
-int MeantFluid(const FluidDb& db, const FluidFields& fields) {
-    FluidFields blank;
-    blank.name = fields.name;
-    if (fields != blank) return 0;
+namespace {
+
+/// The slot of the record of this name; 0 when there is none.
+int SlotNamed(const FluidDb& db, std::string_view name) {
     for (int slot = 1; slot <= db.count; ++slot) {
-        if (db[slot].name == fields.name) return slot;
+        if (db[slot].name == name) return slot;
     }
     return 0;
 }
 
-void UseFluid(Project& project, int selected, const FluidFields& fields) {
+/// The name of the current fluid without the number of its record.
+std::string_view PlainName(std::string_view name) {
+    const std::size_t end = name.find("] ");
+    const bool numbered = name.starts_with('[') && end != std::string_view::npos &&
+                          name.find_first_not_of("0123456789", 1) == end;
+    return numbered ? name.substr(end + 2) : name;
+}
+
+/// The values without the name.
+FluidFields ValuesOf(FluidFields fields) {
+    fields.name.clear();
+    return fields;
+}
+
+}  // namespace
+
+FluidFields ShowFluidInUse(const Settings& settings, const FluidDb& db) {
+    FluidFields fields;
+    if (settings.FluidDensity == 0) return fields;
+    fields.name = PlainName(settings.FluidName);
+    if (const int slot = SlotNamed(db, fields.name); slot != 0) fields = ShowFluid(db[slot]);
+    fields.density = GeneralText(settings.FluidDensity);
+    fields.viscosity = GeneralText(settings.FluidViscosity);
+    fields.compressibility = GeneralText(settings.FluidCompressibility);
+    return fields;
+}
+
+int MeantFluid(const FluidDb& db, const FluidFields& fields, const FluidFields& opened) {
+    const FluidFields values = ValuesOf(fields);
+    const bool untouched = values == ValuesOf(opened) && fields.name != opened.name;
+    return values == FluidFields{} || untouched ? SlotNamed(db, fields.name) : 0;
+}
+
+bool UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes) {
+    if (ValuesOf(fields) == FluidFields{}) {
+        boxes.Show(kNoFluidToUse);
+        return false;
+    }
     project.settings.FluidDensity = ReadNumber(fields.density);
     project.settings.FluidViscosity = ReadNumber(fields.viscosity);
     project.settings.FluidCompressibility = ReadNumber(fields.compressibility);
     const std::string number = selected > 0 ? "[" + GeneralText(selected) + "] " : "";
     project.settings.FluidName = number + fields.name;
+    return true;
 }
 
 void TellVolumeFlows(const Project& project, MessageBoxes& boxes) {

@@ -13,13 +13,17 @@ namespace idrova {
 /// `folder` holds the database. In a record, a typed number that exceeds a single is the largest
 /// one.
 
-/// The slot of the record whose name stands over fields that are all empty: it is what the user
-/// means. 0 when there is none.
-int MeantFluid(const FluidDb& db, const FluidFields& fields);
+/// What the window shows when it opens: the fluid in use, with the exact values that are computed
+/// with; the two that are only kept come from the record of its name. Empty when none is in use.
+FluidFields ShowFluidInUse(const Settings& settings, const FluidDb& db);
+
+/// The slot of the record whose name was typed over values that are all empty, or still as `opened`
+/// showed them: it is what the user means. 0 when there is none.
+int MeantFluid(const FluidDb& db, const FluidFields& fields, const FluidFields& opened);
 
 /// "Use": the typed values become the current fluid, named "[selected] name" (the name alone when
-/// none was chosen).
-void UseFluid(Project& project, int selected, const FluidFields& fields);
+/// none was chosen). Without any value it is told in a box and false.
+bool UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes);
 
 /// After "Use": with pipes drawn, says that volume flows must be given again.
 void TellVolumeFlows(const Project& project, MessageBoxes& boxes);

@@ -23,6 +23,7 @@ constexpr FixedMessage kAskSaveFluidAs{"Do you want to save the new fluid ?", "N
                                        BoxIcon::Question, BoxButtons::YesNo};
 constexpr FixedMessage kTooManyFluids{"Max number of fluids reached", "Fluids insertion",
                                       BoxIcon::Information};
+constexpr FixedMessage kNoFluidToUse{"Select a fluid", "Fluid", BoxIcon::Information};
 constexpr FixedMessage kNoFluidToSave{"Select a fluid", kAskSaveFluid.title, BoxIcon::Information};
 constexpr FixedMessage kNoFluidToDelete{"Select a fluid", kAskDeleteFluid.title,
                                         BoxIcon::Information};

@@ -20,7 +20,10 @@ const FluidFields kWater{"Water 20 °C", "998.2", "1.002E-3", "0", "4182", ".598
 TEST(Fluids, UseTakesTheTypedValues) {
     const auto project = std::make_unique<Project>();
     ScriptedBoxes boxes;
-    UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""});
+    boxes.Expect(kNoFluidToUse);
+    EXPECT_FALSE(UseFluid(*project, 0, {"Sand", "", "", "", "", ""}, boxes));
+    EXPECT_EQ(project->settings.FluidName, "");
+    UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""}, boxes);
     project->numtubo = 1;  // a slot whose pipe was deleted
     TellVolumeFlows(*project, boxes);
     EXPECT_EQ(project->settings.FluidName, "[7] Water");
@@ -28,16 +31,27 @@ TEST(Fluids, UseTakesTheTypedValues) {
     project->Pipes[1].X1 = 10;
     boxes.Expect(kRedefineVolumeFlows);
     TellVolumeFlows(*project, boxes);
-    UseFluid(*project, 0, kWater);
+    UseFluid(*project, 0, kWater, boxes);
     EXPECT_EQ(project->settings.FluidName, "Water 20 °C");
     EXPECT_EQ(project->settings.FluidViscosity, 1.002e-3);
 }
 
 TEST(Fluids, ANameAloneMeansItsRecord) {
     const FluidDb db = WithRecord(WithRecord({}, FluidRecord{.name = "Air"}), {.name = "Oil"});
-    EXPECT_EQ(MeantFluid(db, {"Oil", "", "", "", "", ""}), 2);
-    EXPECT_EQ(MeantFluid(db, {"Oi", "", "", "", "", ""}), 0);
-    EXPECT_EQ(MeantFluid(db, {"Oil", "900", "", "", "", ""}), 0);
+    Settings settings;
+    EXPECT_EQ(ShowFluidInUse(settings, db), FluidFields{});
+    settings.FluidName = "[2] Oil";
+    settings.FluidDensity = 870.25;
+    settings.FluidViscosity = .0123456;
+    const FluidFields opened = ShowFluidInUse(settings, db);
+    EXPECT_EQ(opened, (FluidFields{"Oil", "870.25", ".0123456", "0", "0", "0"}));
+    FluidFields renamed = opened;
+    renamed.name = "Air";
+    EXPECT_EQ(MeantFluid(db, opened, opened), 0);
+    EXPECT_EQ(MeantFluid(db, renamed, opened), 1);
+    EXPECT_EQ(MeantFluid(db, {"Oil", "", "", "", "", ""}, opened), 2);
+    EXPECT_EQ(MeantFluid(db, {"Oi", "", "", "", "", ""}, opened), 0);
+    EXPECT_EQ(MeantFluid(db, {"Oil", "900", "", "", "", ""}, opened), 0);
 }
 
 TEST(Fluids, ShowWhatWasTypedAndTheKinematicViscosity) {

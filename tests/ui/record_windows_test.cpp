@@ -55,7 +55,7 @@ TEST_F(RecordWindow, FluidsAreShownSavedAddedDeletedAndUsed) {
     Open("Fluido", "FrmFlu");
     boxes.Expect(kNoFluidToDelete).Expect(kNoFluidToSave).Expect(kNoFluidToDelete);
     Do("Combo1=Brine;Command3;Command2");
-    EXPECT_EQ(Shown("Text1 Label8"), "|") << "a typed name chooses nothing";
+    EXPECT_EQ(Shown("Text1 Label8"), "850|") << "the fluid in use; a typed name chooses nothing";
     Do("Combo1#2;Combo1=Noth;Command3;Combo1#0");
     EXPECT_EQ(Shown("Text1 Text6 Text5 Text3 Text4 Label8 Label9"),
               "998.2|1.002E-3|0|4186|.6|1|1.00E-6");

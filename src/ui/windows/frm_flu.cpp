@@ -38,6 +38,9 @@ FrmFlu::FrmFlu(Program& program)
     Connect();
     LoadFluids(program_.fluids, program_.folder, program_.boxes);
     ListNames(0);
+    opened_ = ShowFluidInUse(program_.project.settings, program_.fluids);
+    Show(opened_);
+    Combo1->setEditText(ToQt(opened_.name));
     setFocusProxy(Combo1);
 }
 
@@ -96,14 +99,17 @@ void FrmFlu::ListNames(int slot) {
     Label8->setText(slot > 0 ? ToQt(GeneralText(slot)) : QString());
 }
 
+void FrmFlu::Show(const FluidFields& fields) {
+    Text1->setText(ToQt(fields.density));
+    Text6->setText(ToQt(fields.viscosity));
+    Text3->setText(ToQt(fields.specificHeat));
+    Text4->setText(ToQt(fields.conductivity));
+    Text5->setText(ToQt(fields.compressibility));
+}
+
 void FrmFlu::Combo1_Click(int position) {
     selected_ = position + 1;
-    const FluidFields shown = ShowFluid(program_.fluids[selected_]);
-    Text1->setText(ToQt(shown.density));
-    Text6->setText(ToQt(shown.viscosity));
-    Text3->setText(ToQt(shown.specificHeat));
-    Text4->setText(ToQt(shown.conductivity));
-    Text5->setText(ToQt(shown.compressibility));
+    Show(ShowFluid(program_.fluids[selected_]));
     Label8->setText(ToQt(GeneralText(selected_)));
     Text6_Change();  // the viscosity may be that of the fluid before, the density is not
 }
@@ -122,11 +128,11 @@ void FrmFlu::Text6_Change() {
 }
 
 void FrmFlu::Command1_Click() {
-    if (const int meant = MeantFluid(program_.fluids, Fields()); meant > 0) {
+    if (const int meant = MeantFluid(program_.fluids, Fields(), opened_); meant > 0) {
         ListNames(meant);
         return Combo1_Click(meant - 1);
     }
-    UseFluid(program_.project, selected_, Fields());
+    if (!UseFluid(program_.project, selected_, Fields(), program_.boxes)) return;
     program_.showSettings();
     TellVolumeFlows(program_.project, program_.boxes);
     CloseWindow();

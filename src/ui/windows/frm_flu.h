@@ -31,6 +31,8 @@ class FrmFlu : public ChildWindow {
     void Connect();
 
     FluidFields Fields() const;
+    /// All but the name.
+    void Show(const FluidFields& fields);
     /// Makes `slot` the chosen one (0 for none) in a list of all names. Leaves the fields alone.
     void ListNames(int slot);
 
@@ -43,7 +45,8 @@ class FrmFlu : public ChildWindow {
     void Command4_Click();
 
     Program& program_;
-    int selected_ = 0;  ///< slot of the fluid last chosen, 0 for none
+    FluidFields opened_;  ///< the fluid in use when the window opened
+    int selected_ = 0;    ///< slot of the fluid last chosen, 0 for none
     NameList* Combo1;
     QLabel* Label8;
     QLineEdit* Text1;
