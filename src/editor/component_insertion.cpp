@@ -33,8 +33,8 @@ bool IsPlainConnection(const CellRec& cell) {
 std::optional<FixedMessage> Refusal(const Project& project, int cell) {
     if (project.Cells[cell].Kind != CellKind::Crossed) return kNotInPipe;
     if (LivePointIn(project, cell) != 0) return kOnExtreme;
-    if (project.numtubo + 1 > kMaxPipes) return kTooManyPipes;
-    if (project.npres + 2 > kMaxPoints) return kTooManyPoints;
+    if (FreePipes(project) == 0) return kTooManyPipes;
+    if (FreePoints(project) < 2) return kTooManyPoints;
     return std::nullopt;
 }
 

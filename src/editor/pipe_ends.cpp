@@ -10,6 +10,21 @@ bool StrictlyBetween(int value, int one, int other) {
     return std::min(one, other) < value && value < std::max(one, other);
 }
 
+template <typename Table>
+int LiveRecords(const Table& table, int used) {
+    return static_cast<int>(std::count_if(table.begin() + 1, table.begin() + 1 + used,
+                                          [](const auto& record) { return record.IsDrawn(); }));
+}
+
+/// The number after the last used one, which then counts as used, or the lowest deleted one.
+template <typename Table>
+int NextNumber(const Table& table, int& used) {
+    if (used + 1 < static_cast<int>(table.size())) return ++used;
+    const auto deleted = std::find_if(table.begin() + 1, table.end(),
+                                      [](const auto& record) { return !record.IsDrawn(); });
+    return static_cast<int>(deleted - table.begin());
+}
+
 }  // namespace
 
 int PointAt(const PipeRec& pipe, PipeEnd end) {
@@ -53,8 +68,16 @@ int LivePointIn(const Project& project, int cell) {
     return 0;
 }
 
+int FreePipes(const Project& project) {
+    return kMaxPipes - LiveRecords(project.Pipes, project.numtubo);
+}
+
+int FreePoints(const Project& project) {
+    return kMaxPoints - LiveRecords(project.Points, project.npres);
+}
+
 int AddPoint(Project& project, int cell) {
-    const int number = ++project.npres;
+    const int number = NextNumber(project.Points, project.npres);
     const ScreenPoint centre = CellCentre(project, cell);
     PointRec& point = project.Points[number];
     point = PointRec();
@@ -67,10 +90,31 @@ int AddPoint(Project& project, int cell) {
 }
 
 int AddPipe(Project& project) {
-    const int number = ++project.numtubo;
+    const int number = NextNumber(project.Pipes, project.numtubo);
     project.Pipes[number] = PipeRec();
     project.FlowUnknown[number] = true;
     return number;
+}
+
+int JoinPoints(Project& project, int cell) {
+    const int kept = LivePointIn(project, cell);
+    for (int other = kept + 1; other <= project.npres; ++other) {
+        PointRec& point = project.Points[other];
+        if (!point.IsDrawn() || point.Cell != cell) continue;
+        if (project.PressureUnknown[kept] && !project.PressureUnknown[other]) {
+            project.PressureUnknown[kept] = false;
+            project.Points[kept].Pressure = point.Pressure;
+        }
+        for (int i = 1; i <= project.numtubo; ++i) {
+            PipeRec& pipe = project.Pipes[i];
+            for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
+                if (PointAt(pipe, end) == other) PutEnd(project, pipe, end, kept);
+            }
+        }
+        point = PointRec{0, kDeleted, kDeleted, 0};
+        project.PressureUnknown[other] = true;
+    }
+    return kept;
 }
 
 }  // namespace idrova

@@ -28,12 +28,21 @@ bool RunsThrough(const PipeRec& pipe, ScreenPoint place);
 /// The first live point in the cell; 0 when there is none.
 int LivePointIn(const Project& project, int cell);
 
-/// Appends a point, unknown and without pressure, in the cell and marks the cell as a node. The
-/// caller has checked the capacity.
+/// How many can be added: numbers not used yet, and those of deleted ones.
+int FreePipes(const Project& project);
+int FreePoints(const Project& project);
+
+/// Adds a point, unknown and without pressure, in the cell and marks the cell as a node. Its number
+/// is the next, or the lowest deleted one when all are used; the caller has checked that there is
+/// one.
 int AddPoint(Project& project, int cell);
 
-/// Appends a pipe without data, its flow unknown. The caller has checked the capacity and gives it
-/// its ends.
+/// Adds a pipe without data, its flow unknown, under a number found in the same way. The caller
+/// gives it its ends.
 int AddPipe(Project& project);
+
+/// Makes one point of all that lie in the cell and returns it. A pressure that one of them has as
+/// given stays given; the numbers of the others become deleted ones.
+int JoinPoints(Project& project, int cell);
 
 }  // namespace idrova

@@ -26,23 +26,23 @@ int CountSplits(const Project& project, ScreenPoint first, ScreenPoint second) {
 std::optional<FixedMessage> CapacityRefusal(const Project& project, int first, int second) {
     const int splits =
         CountSplits(project, CellCentre(project, first), CellCentre(project, second));
-    if (project.numtubo + 1 + splits > kMaxPipes) return kTooManyPipes;
-    int points = project.npres;
+    if (1 + splits > FreePipes(project)) return kTooManyPipes;
+    int points = 0;
     for (const int cell : {first, second}) {
         if (LivePointIn(project, cell) == 0) ++points;
     }
-    if (points > kMaxPoints) return kTooManyPoints;
+    if (points > FreePoints(project)) return kTooManyPoints;
     return std::nullopt;
 }
 
 std::optional<FixedMessage> FirstPointRefusal(const Project& project, int cell) {
-    if (project.numtubo + 1 > kMaxPipes) return kTooManyPipes;
-    if (project.Cells[cell].IsComponent()) return kCellOccupied;
+    if (FreePipes(project) == 0) return kTooManyPipes;
+    if (project.Cells[cell].Placed) return kCellOccupied;
     return std::nullopt;
 }
 
 std::optional<FixedMessage> EndPointRefusal(const Project& project, int first, int cell) {
-    if (project.Cells[cell].IsComponent()) return kCellOccupied;
+    if (project.Cells[cell].Placed) return kCellOccupied;
     if (cell == first) return kLengthZero;
     const ScreenPoint from = CellCentre(project, first);
     const ScreenPoint to = CellCentre(project, cell);
@@ -50,8 +50,10 @@ std::optional<FixedMessage> EndPointRefusal(const Project& project, int first, i
     return CapacityRefusal(project, first, cell);
 }
 
+/// The point of a new pipe's end. The cell of a deleted component becomes a plain node.
 int PointFor(Project& project, int cell) {
-    const int there = LivePointIn(project, cell);
+    if (project.Cells[cell].IsComponent()) project.Cells[cell] = CellRec();
+    const int there = JoinPoints(project, cell);
     return there != 0 ? there : AddPoint(project, cell);
 }
 
@@ -75,18 +77,23 @@ std::optional<Split> FindSplit(const Project& project, int number) {
 }
 
 /// The first half keeps the number and the data; the appended half has the second end and no data.
-void SplitPipe(Project& project, const Split& split) {
-    PipeRec& half = project.Pipes[AddPipe(project)];
+int SplitPipe(Project& project, const Split& split) {
+    const int number = AddPipe(project);
+    PipeRec& half = project.Pipes[number];
     PipeRec& pipe = project.Pipes[split.pipe];
     PutEnd(project, half, PipeEnd::Start, split.point);
     PutEnd(project, half, PipeEnd::End, pipe.EndPoint);
     PutEnd(project, pipe, PipeEnd::End, split.point);
+    return number;
 }
 
-void SplitCrossedPipes(Project& project, int number) {
+/// Returns the pipe that was added last: the last half, else the new pipe itself.
+int SplitCrossedPipes(Project& project, int number) {
+    int last = number;
     while (const std::optional<Split> split = FindSplit(project, number)) {
-        SplitPipe(project, *split);
+        last = SplitPipe(project, *split);
     }
+    return last;
 }
 
 void CompletePipe(Project& project, int first, int second) {
@@ -94,9 +101,8 @@ void CompletePipe(Project& project, int first, int second) {
     PipeRec& pipe = project.Pipes[number];
     PutEnd(project, pipe, PipeEnd::Start, PointFor(project, first));
     PutEnd(project, pipe, PipeEnd::End, PointFor(project, second));
-    SplitCrossedPipes(project, number);
+    project.CurrentPipe = SplitCrossedPipes(project, number);
     RebuildPipeCells(project);
-    project.CurrentPipe = project.numtubo;
 }
 
 }  // namespace

@@ -71,6 +71,13 @@ constexpr ClickList kClickLists[] = {
     {"a deleted component leaves a joint that takes another",
      "L2,5 L6,5 pump L4,5 R4,5 delete loss L4,5", "1:1(2,5)-3(4,5) 2:4(4,5)-2(6,5)",
      "Do you want to delete the component ?"},
+    {"a deleted component's cell joins as a node",
+     "L2,5 L6,5 pump L4,5 R4,5 delete L4,5 L4,9 L3,9 L3,5",
+     "1:1(2,5)-7(3,5) 2:3(4,5)-2(6,5) 3:3(4,5)-5(4,9) 4:6(3,9)-7(3,5) 5:7(3,5)-3(4,5)",
+     "Do you want to delete the component ?"},
+    {"a given pressure there stays",
+     "L2,5 L6,5 pump L4,5 R5,5 again end1=given p1=2 R4,5 delete L4,9 L4,5 R3,5 again p2:2./",
+     "1:1(2,5)-3(4,5) 2:3(4,5)-2(6,5) 3:5(4,9)-3(4,5)", "Do you want to delete the component ?"},
     {"the pipe drawn last", "L2,5 L8,5 L3,7 L6,7 delete", "1:1(2,5)-2(8,5)", "2 ?"},
 };
 
@@ -185,8 +192,12 @@ constexpr struct {
      "Max number of pipes reached; Max number of pipes reached; Max number of pipes reached", 200,
      400},
     {198, 0, "L2,1 L2,2 L2,2 L2,50", "Max number of pipes reached", 200, 398},  // two cuts, one
-    {1, 397, "L2,50 L8,50 pump L2,1 L3,1 L3,50",
-     "Max number of points reached; Max number of points reached", 2, 400},
+    {1, 397, "L2,50 L8,50 pump L2,1 L3,1 L3,50", "", 5, 400},  // deleted numbers are taken again
+    {200, 0, "R2,1 delete R10,2 delete L2,50 L8,50 L5,48 L5,50",
+     "The DELETE function is not tested yet!\rDo you want to delete the pipe ?  1 ?; "
+     "The DELETE function is not tested yet!\rDo you want to delete the pipe ?  15 ?; "
+     "Max number of pipes reached",
+     200, 400},
 };
 
 TEST(Capacity, IsCheckedBeforeAnythingChanges) {
