@@ -2,6 +2,7 @@
 #include "editor/component_insertion.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "base/number_text.h"
@@ -131,7 +132,19 @@ void ArmInsertion(Editor& editor, MessageBoxes& boxes) {
     editor.state = ArmedFor(editor.componentKind);
 }
 
+void TurnSelectedPump(Project& project, const Editor& editor) {
+    CellRec& cell = project.Cells[editor.selectedComponent];
+    if (!cell.Placed || cell.Kind != CellKind::Pump) return;
+    constexpr std::array opposite = {Delivery::None, Delivery::Left, Delivery::Up, Delivery::Right,
+                                     Delivery::Down};
+    cell.Direction = opposite[static_cast<std::size_t>(cell.Direction)];
+}
+
 void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+    if (editor.state == InsertState::Pump && !CurveOf(editor.choice.ChosenPump)) {
+        boxes.Show(kPumpWithoutCurve);
+        return;
+    }
     CellRec& record = project.Cells[cell];
     const int pipe = PipeAtCell(project, cell);
     if (!IsPlainConnection(record)) {

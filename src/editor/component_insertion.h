@@ -25,4 +25,7 @@ void ArmInsertion(Editor& editor, MessageBoxes& boxes);
 /// was deleted takes it without a cut. What is refused is told in a box and changes nothing.
 void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes);
 
+/// "Roate pump": the selected pump, if one is, delivers the other way round.
+void TurnSelectedPump(Project& project, const Editor& editor);
+
 }  // namespace idrova

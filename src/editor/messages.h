@@ -16,6 +16,8 @@ constexpr FixedMessage kNotOrthogonal{"Only orthogonsl paths", "Pipe", BoxIcon::
 
 constexpr FixedMessage kSelectComponent{"Select a component", "Components insertion",
                                         BoxIcon::Information};
+constexpr FixedMessage kPumpWithoutCurve{"The pump has no curve: its flow rates are equal",
+                                         "Component", BoxIcon::Information};
 constexpr FixedMessage kNotInPipe{"The component must be inserted in a pipe", "Component",
                                   BoxIcon::Information};
 constexpr FixedMessage kOnExtreme{"The component can not be positioned on an extreme",

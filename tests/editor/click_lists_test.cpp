@@ -142,6 +142,21 @@ TEST(Components, TakeTheirDataFromTheChoice) {
     EXPECT_EQ(piece.OuterSize, 0);
 }
 
+TEST(Components, PumpsTurnRoundAndNeedACurve) {
+    Plant plant;
+    plant.Do("L2,5 L6,5 L8,2 L8,9 pump L4,5 pump L8,5 turn R8,5 turn");
+    const auto& cells = plant.project.Cells;
+    EXPECT_EQ(cells[plant.Place(4, 5)].Direction, Delivery::Right) << "it is not selected";
+    EXPECT_EQ(cells[plant.Place(8, 5)].Direction, Delivery::Up);
+    plant.Do("R4,5 turn");
+    EXPECT_EQ(cells[plant.Place(4, 5)].Direction, Delivery::Left);
+    const int pipes = plant.project.numtubo;
+    plant.lists.pumps[1].qMax = plant.lists.pumps[1].qMin;
+    plant.Do("pump L3,5");
+    EXPECT_EQ(plant.Messages(), "The pump has no curve: its flow rates are equal");
+    EXPECT_EQ(plant.project.numtubo, pipes);
+}
+
 TEST(Components, ArmedFollowTheKindChosenLast) {
     Plant plant;
     plant.Do("L2,5 L6,5 pump");

@@ -117,6 +117,7 @@ class Plant {
         if (step == "pump") return Arm(CellKind::Pump);
         if (step == "loss") return Arm(CellKind::Loss);
         if (step == "delete") return DeleteSelected(project, editor, boxes);
+        if (step == "turn") return TurnSelectedPump(project, editor);
         if (step == "again") return static_cast<void>(panel = ShowPipeData(project));
         if (step == "labels") return static_cast<void>(editor.DataShown = true);
         const auto sign = step.find_first_of("=:,");

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QStatusTipEvent>
 
+#include "editor/component_insertion.h"
 #include "editor/grid_view.h"
 #include "editor/plant_drawing.h"
 #include "ui/drawing/plant_scene.h"
@@ -52,6 +53,10 @@ void FrmCel::ConnectView() {
     view_->hover = [this](int place) { ShowPlace(place); };
     view_->moveCursor = [this](int place) { scene_->ShowCursor(place); };
     view_->abort = [this] { Abort(); };
+    view_->turnPump = [this] {
+        TurnSelectedPump(program_.project, program_.editor);
+        ShowNetwork();
+    };
 }
 
 void FrmCel::ShowNetwork() {

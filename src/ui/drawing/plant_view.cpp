@@ -76,6 +76,9 @@ void PlantView::keyPressEvent(QKeyEvent* event) {
             return event->ignore();
         case Qt::Key_Escape:
             return abort();
+        case Qt::Key_R:
+            if (event->modifiers() == Qt::NoModifier) return turnPump();
+            return event->ignore();
         default:
             event->ignore();
     }

@@ -11,7 +11,7 @@ namespace idrova {
 
 /// Shows the whole drawing as large as the window allows, and turns mouse and keyboard into presses
 /// on places. Arrow keys move a cell cursor, Enter is the left button, the menu key or
-/// Shift+F10 the right one.
+/// Shift+F10 the right one, R turns the selected pump.
 class PlantView : public QGraphicsView {
   public:
     PlantView(QGraphicsScene* scene, const Project& project);
@@ -21,6 +21,7 @@ class PlantView : public QGraphicsView {
     std::function<void(int place)> hover;
     std::function<void(int place)> moveCursor;
     std::function<void()> abort;
+    std::function<void()> turnPump;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;

@@ -36,13 +36,14 @@ ComponentsFrame::ComponentsFrame(PanelContext& context)
       Combo1(List("Combo1", "Kind of component")),
       Combo3(List("Combo3", "Component")),
       Command3(CommandButton("Command3", "Insert component", [this] { Command3_Click(); })),
-      Command2(CommandButton("Command2", "Roate pump", [] {})),
+      Command2(CommandButton("Command2", "Roate pump", [this] { Command2_Click(); })),
       Timer1(Named(new QTimer(this), "Timer1")) {
     Named(this, "Frame6");
     Combo1->addItems({"Pump", "Concentrated loss      "});
     OnChosen(*Combo1, [this](int position) { Combo1_Click(position); });
     OnChosen(*Combo3, [this](int position) { Combo3_Click(position); });
     Command3->setStatusTip("Then click the cell of a pipe");
+    Command2->setStatusTip("The selected pump delivers the other way round (R)");
     Command2->setVisible(false);
     Timer1->setInterval(kBlink);
     connect(Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
@@ -71,6 +72,12 @@ void ComponentsFrame::Command3_Click() {
     ArmInsertion(program.editor, program.boxes);
     context_.redraw();
     program.showSettings();
+}
+
+void ComponentsFrame::Command2_Click() {
+    Program& program = context_.program;
+    TurnSelectedPump(program.project, program.editor);
+    context_.redraw();
 }
 
 void ComponentsFrame::Show() {

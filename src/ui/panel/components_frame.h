@@ -22,6 +22,7 @@ class ComponentsFrame : public QGroupBox {
     void Combo1_Click(int position);
     void Combo3_Click(int position);
     void Command3_Click();
+    void Command2_Click();
     void ShowChoice();
     void Timer1_Timer();
     void SetLit(bool lit);
