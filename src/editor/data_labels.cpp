@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <optional>
 #include <set>
 #include <utility>
 #include <vector>
@@ -22,16 +23,21 @@ std::string LabelText(const Project& project, int number) {
 /// Finds a place for each label where it hides none of those before.
 class LabelPlaces {
   public:
-    LabelPlaces(const GridGeometry& grid, ScreenPoint scrolled)
-        : cell_(grid.CellWidth), highest_(scrolled.y + grid.GridTop - grid.CellHeight) {}
+    LabelPlaces(const Project& project, ScreenPoint scrolled)
+        : cell_(project.Grid.CellWidth),
+          highest_(scrolled.y + project.Grid.GridTop - project.Grid.CellHeight),
+          rightmost_(scrolled.x + project.Grid.GridLeft + (project.GridSize + 1) * cell_) {}
 
     /// Top-left corner of the label of a point. The first label of a column stands below its point,
     /// the others above, where there is room above the grid; where that place is taken on the other
-    /// side, or further away.
+    /// side, or further away. At the right edge it stands further left, so that all of it is seen.
     ScreenPoint Take(const PointRec& point, std::size_t letters) {
         const int half = cell_ / 2;
         const bool below = columns_.insert(point.X).second;
         ScreenPoint corner{point.X + half, 0};
+        if (point.X < rightmost_) {
+            corner.x = std::min(corner.x, rightmost_ - WidthOf(letters));
+        }
         for (int away = 0;; away += cell_) {
             for (const bool lower : {below, !below}) {
                 corner.y = lower ? point.Y + half + away : point.Y - 6 * half - away;
@@ -42,6 +48,16 @@ class LabelPlaces {
                 }
             }
         }
+    }
+
+    /// Where a line from the point meets a label that does not stand beside it.
+    std::optional<ScreenPoint> LeaderEnd(const PointRec& point, ScreenPoint corner,
+                                         std::size_t letters) const {
+        const int bottom = corner.y + cell_ * 2 / 3;
+        const int x = std::clamp<int>(point.X, corner.x, corner.x + WidthOf(letters));
+        if (corner.y > point.Y + cell_) return ScreenPoint{x, corner.y};
+        if (bottom < point.Y - cell_) return ScreenPoint{x, bottom};
+        return std::nullopt;
     }
 
   private:
@@ -66,21 +82,25 @@ class LabelPlaces {
         return true;
     }
 
-    int cell_, highest_;
+    int cell_, highest_, rightmost_;
     std::set<int> columns_;
     std::map<int, std::vector<Label>> taken_;  ///< by row of cells
 };
 
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
     const ScreenPoint origin = Shown(project, editor, {0, 0});
-    LabelPlaces places(project.Grid, {-origin.x, -origin.y});
+    LabelPlaces places(project, {-origin.x, -origin.y});
     for (int i = 1; i <= project.npres; ++i) {
         const PointRec& point = project.Points[i];
         if (!point.IsDrawn()) continue;
         const std::string text = LabelText(project, i);
         // Points that are scrolled away take their places too: no label moves by scrolling.
         const ScreenPoint corner = places.Take(point, text.size());
-        if (!IsOnGrid(project, Shown(project, editor, {point.X, point.Y}))) continue;
+        const ScreenPoint from = Shown(project, editor, {point.X, point.Y});
+        if (!IsOnGrid(project, from)) continue;
+        if (const auto end = places.LeaderEnd(point, corner, text.size())) {
+            surface.LeaderLine(from, Shown(project, editor, *end));
+        }
         surface.TextLabel(
             Shown(project, editor, corner), text,
             project.PressureUnknown[i] ? drawing_colour::kUnknown : drawing_colour::kKnown);

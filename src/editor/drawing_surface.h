@@ -36,7 +36,9 @@ class DrawingSurface {
     virtual void PointMarker(ScreenPoint centre) = 0;
     virtual void ArrowLine(ScreenPoint from, ScreenPoint to) = 0;
     virtual void TextLabel(ScreenPoint corner, std::string_view text, Rgb background) = 0;
-    /// A thin line from an element to a label, whose nearest corner is `to`.
+    /// A thin line from an element to a label that stands away from it.
+    virtual void LeaderLine(ScreenPoint from, ScreenPoint to) = 0;
+    /// The same with the label, whose nearest corner is `to`.
     virtual void LeaderLabel(ScreenPoint from, ScreenPoint to, std::string_view text,
                              Rgb background) = 0;
 

@@ -27,6 +27,7 @@ class RecordedSurface final : public DrawingSurface {
     void TextLabel(ScreenPoint corner, std::string_view text, Rgb background) override {
         Add(Text(text, background), corner);
     }
+    void LeaderLine(ScreenPoint from, ScreenPoint to) override { Add("leader", from, to); }
     void LeaderLabel(ScreenPoint from, ScreenPoint to, std::string_view text,
                      Rgb background) override {
         Add(Text(text, background), from, to);

@@ -36,6 +36,7 @@ class DrawnElements final : public DrawingSurface {
     void ArrowLine(ScreenPoint /*from*/, ScreenPoint /*to*/) override {}
     void TextLabel(ScreenPoint /*corner*/, std::string_view /*text*/, Rgb /*background*/) override {
     }
+    void LeaderLine(ScreenPoint /*from*/, ScreenPoint /*to*/) override {}
     void LeaderLabel(ScreenPoint /*from*/, ScreenPoint /*to*/, std::string_view /*text*/,
                      Rgb /*background*/) override {}
 

@@ -3,6 +3,7 @@
 
 #include <QGraphicsItem>
 #include <QPen>
+#include <algorithm>
 
 #include "ui/drawing/drawing_style.h"
 #include "ui/drawing/grid_item.h"
@@ -73,21 +74,32 @@ void PlantScene::ArrowLine(ScreenPoint from, ScreenPoint to) {
 }
 
 void PlantScene::TextLabel(ScreenPoint corner, std::string_view text, Rgb background) {
-    MakeLabel(text, background)->setPos(At(corner));
+    PlaceLabel(*MakeLabel(text, background), At(corner));
+}
+
+void PlantScene::LeaderLine(ScreenPoint from, ScreenPoint to) {
+    AddLine(from, to, QPen(drawing_style::kLeader, 0), kLabels);
 }
 
 void PlantScene::LeaderLabel(ScreenPoint from, ScreenPoint to, std::string_view text,
                              Rgb background) {
-    AddLine(from, to, QPen(drawing_style::kLeader, 0), kLabels);
+    LeaderLine(from, to);
     LabelItem* label = MakeLabel(text, background);
     const QRectF box = label->boundingRect();
     const double left = to.x < from.x ? to.x - box.width() : to.x;
     const double top = to.y < from.y ? to.y - box.height() : to.y;
-    label->setPos(left, top);
+    PlaceLabel(*label, {left, top});
 }
 
 void PlantScene::ShowCursor(int place) {
     grid_->ShowCursor(place);
+}
+
+void PlantScene::PlaceLabel(LabelItem& label, QPointF corner) const {
+    const QRectF room = sceneRect();
+    const QSizeF size = label.boundingRect().size();
+    label.setPos(std::max(std::min(corner.x(), room.right() - size.width()), room.left()),
+                 std::max(std::min(corner.y(), room.bottom() - size.height()), room.top()));
 }
 
 LabelItem* PlantScene::MakeLabel(std::string_view text, Rgb background) {

@@ -23,6 +23,7 @@ class PlantScene : public QGraphicsScene, public DrawingSurface {
     void PointMarker(ScreenPoint centre) override;
     void ArrowLine(ScreenPoint from, ScreenPoint to) override;
     void TextLabel(ScreenPoint corner, std::string_view text, Rgb background) override;
+    void LeaderLine(ScreenPoint from, ScreenPoint to) override;
     void LeaderLabel(ScreenPoint from, ScreenPoint to, std::string_view text,
                      Rgb background) override;
 
@@ -30,6 +31,8 @@ class PlantScene : public QGraphicsScene, public DrawingSurface {
 
   private:
     LabelItem* MakeLabel(std::string_view text, Rgb background);
+    /// As near to `corner` as the whole label can be seen.
+    void PlaceLabel(LabelItem& label, QPointF corner) const;
     void AddLine(ScreenPoint from, ScreenPoint to, const QPen& pen, double layer);
 
     const Project& project_;
