@@ -115,6 +115,10 @@ TEST_F(CommandPanel, TheArmedButtonBlinks) {
 TEST_F(CommandPanel, ButtonsShowDataDeleteAndRefuse) {
     Do("Command4");
     EXPECT_TRUE(program->editor.DataShown);
+    Do("Option1_1");
+    const QImage labelled = View().grab().toImage();
+    Do("Text10=2");
+    EXPECT_NE(View().grab().toImage(), labelled) << "the label follows what is typed";
     boxes.Expect(AskDeletePipe(1), Answer::Cancel);
     Do("Command4;Command9");
     EXPECT_FALSE(program->editor.DataShown);

@@ -34,6 +34,7 @@ PressuresFrame::PointBoxes PressuresFrame::MakePoint(const Names& names, PipeEnd
     const auto type = [this, end](std::string_view text) {
         TypePressure(context_.program.project, context_.panel, end, text);
         context_.show();
+        if (context_.program.editor.DataShown) context_.redraw();  // a label shows it
     };
     return {Named(new QGroupBox("P"), names.frame),
             new KnownChoice(names.option, choose),
