@@ -122,6 +122,10 @@ void RefreshComponentChoice(Editor& editor, const ComponentLists& lists) {
     }
 }
 
+bool MayPlaceComponents(const Project& project, const Editor& editor) {
+    return editor.framesEnabled || FreePipes(project) < kMaxPipes;
+}
+
 void ArmInsertion(Editor& editor, MessageBoxes& boxes) {
     editor.DataShown = false;
     if (editor.componentPosition < 0) {

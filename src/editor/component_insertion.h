@@ -18,6 +18,10 @@ void ChooseComponentAt(Editor& editor, const ComponentLists& lists, int position
 /// changed; when it is gone, chooses the first and aborts an armed insertion.
 void RefreshComponentChoice(Editor& editor, const ComponentLists& lists);
 
+/// Whether the panel's "Components" frame is open: a left click locks it, like the other frames,
+/// only while no pipe is drawn that could take one.
+bool MayPlaceComponents(const Project& project, const Editor& editor);
+
 /// `Command3`: the next left click places the chosen component. Told in a box when none is chosen.
 void ArmInsertion(Editor& editor, MessageBoxes& boxes);
 

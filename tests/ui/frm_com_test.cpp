@@ -69,7 +69,15 @@ TEST_F(CommandPanel, FramesOpenWithARightClickAndLockWithALeftOne) {
     Select(20, 20);
     EXPECT_EQ(Enabled(controls), "Frame6 Command4 Command9 Command1");  // no pipe to edit
     Click(20, 20);
-    EXPECT_EQ(Enabled(controls), "Command4 Command9 Command1");
+    EXPECT_EQ(Enabled(controls), "Frame6 Command4 Command9 Command1")
+        << "the pipe takes components";
+    Child<QComboBox>("Combo1").setFocus();
+    QTest::keyClick(&Child<QComboBox>("Combo1"), Qt::Key_Escape);
+    EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
+    Click(20, 20);
+    QTest::mouseClick(View().viewport(), Qt::RightButton, {}, View().mapFromScene(300, 300));
+    EXPECT_EQ(program->editor.state, InsertState::FirstPoint) << "beside the grid";
+    Click(20, 20);
     Choose("Tabella");
     EXPECT_EQ(Enabled(controls), "Command1");
     Choose("sintub");

@@ -32,7 +32,10 @@ int PlantView::PlaceOf(const QPointF& position) const {
 
 void PlantView::mousePressEvent(QMouseEvent* event) {
     const int place = PlaceOf(event->position());
-    if (place == 0) return;
+    if (place == 0) {
+        if (event->button() == Qt::RightButton) abort();
+        return;
+    }
     cursor_ = place;
     moveCursor(0);  // the mouse needs none
     if (event->button() == Qt::LeftButton) press(place, MouseButton::Left);

@@ -12,6 +12,7 @@
 #include <QSlider>
 #include <QVBoxLayout>
 
+#include "editor/cell_click.h"
 #include "editor/component_insertion.h"
 #include "editor/deletion.h"
 #include "editor/messages.h"
@@ -131,6 +132,13 @@ void FrmCom::TakeFocus(bool backwards) {
 }
 
 void FrmCom::keyPressEvent(QKeyEvent* event) {
+    const bool begun = program_.editor.state != InsertState::FirstPoint;
+    if (event->key() == Qt::Key_Escape && begun) {
+        AbortByKey(program_.editor);
+        redraw();
+        program_.showSettings();
+        return;
+    }
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
     if (!isReturn || button == nullptr) return QDockWidget::keyPressEvent(event);
@@ -150,7 +158,7 @@ void FrmCom::ShowEnabling() {
                              static_cast<QGroupBox*>(Frame8)}) {
         frame->setEnabled(frames && context_.panel.pipe != 0);
     }
-    Frame6->setEnabled(frames);
+    Frame6->setEnabled(view.drawingTools && MayPlaceComponents(program_.project, program_.editor));
     Command4->setEnabled(view.drawingTools);
     Command9->setEnabled(view.drawingTools);
     Command1->setEnabled(view.calculate);
