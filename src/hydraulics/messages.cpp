@@ -50,6 +50,12 @@ MessageBox RefusalBox(const Refusal& refusal) {
     switch (refusal.kind) {
         case RefusalKind::NoFluid:
             return kSelectAFluid;
+        case RefusalKind::NegativeDensity:
+            return kNegativeDensity;
+        case RefusalKind::NoViscosity:
+            return kNoViscosity;
+        case RefusalKind::NegativeViscosity:
+            return kNegativeViscosity;
         case RefusalKind::NotCompressible:
             return kNotCompressible;
         case RefusalKind::TooCold:

@@ -9,6 +9,9 @@
 namespace idrova {
 
 constexpr FixedMessage kSelectAFluid{"Select a fluid", "Fluid"};
+constexpr FixedMessage kNegativeDensity{"The density of the fluid is negative", "Fluid"};
+constexpr FixedMessage kNoViscosity{"The fluid has no viscosity", "Fluid"};
+constexpr FixedMessage kNegativeViscosity{"The viscosity of the fluid is negative", "Fluid"};
 constexpr FixedMessage kNotCompressible{"The selected fluid is uncompressible",
                                         "Compressibilitynot defined"};
 constexpr FixedMessage kTooCold{"The temperature is not above absolute zero (-273.15 °C)",

@@ -8,9 +8,12 @@ namespace idrova {
 /// Which check has refused a network.
 enum class RefusalKind {
     NoFluid,
+    NegativeDensity,
+    NoViscosity,
+    NegativeViscosity,
     NotCompressible,  ///< the compressible equation is chosen for a liquid
     TooCold,          ///< a gas, not above absolute zero
-    ZeroLength,
+    ZeroLength,       ///< or a negative one, as with the diameter
     ZeroDiameter,
     TooManyUnknowns,
     TooFewTerms,   ///< more unknowns than equations and known terms

@@ -26,15 +26,18 @@ bool IsCoherent(const Settings& settings, const PipeRec& pipe, const PointRec& s
     return std::abs(computed - given) / std::abs(given) <= kCoherence;
 }
 
-bool HasZeroSize(const Settings& settings, const PipeRec& pipe) {
+bool HasNoSize(const Settings& settings, const PipeRec& pipe) {
     const bool hasSideB = settings.SectionType == Section::Rectangular;
-    return pipe.Diameter == 0 || (hasSideB && pipe.OuterSize == 0);
+    return pipe.Diameter <= 0 || (hasSideB && pipe.OuterSize <= 0);
 }
 
 }  // namespace
 
 std::optional<Refusal> CheckFluid(const Settings& settings) {
     if (settings.FluidDensity == 0) return Refusal{RefusalKind::NoFluid};
+    if (settings.FluidDensity < 0) return Refusal{RefusalKind::NegativeDensity};
+    if (settings.FluidViscosity == 0) return Refusal{RefusalKind::NoViscosity};
+    if (settings.FluidViscosity < 0) return Refusal{RefusalKind::NegativeViscosity};
     if (settings.EquationType == Equation::Incompressible) return std::nullopt;
     if (settings.FluidCompressibility == 0) return Refusal{RefusalKind::NotCompressible};
     if (settings.FluidTemperature > ToSingle(-kCelsiusToKelvin)) return std::nullopt;
@@ -45,8 +48,8 @@ std::optional<Refusal> CheckPipeData(const Settings& settings, const WorkNetwork
     for (int i = 1; i <= work.WorkPipeCount; ++i) {
         const PipeRec& pipe = work.WorkPipes[i];
         if (!pipe.IsDrawn()) continue;
-        if (pipe.Length == 0) return Refusal{RefusalKind::ZeroLength, {i}};
-        if (HasZeroSize(settings, pipe)) return Refusal{RefusalKind::ZeroDiameter, {i}};
+        if (pipe.Length <= 0) return Refusal{RefusalKind::ZeroLength, {i}};
+        if (HasNoSize(settings, pipe)) return Refusal{RefusalKind::ZeroDiameter, {i}};
     }
     return std::nullopt;
 }

@@ -130,8 +130,6 @@ std::vector<std::string> ResultNotes(const Settings& settings, const NetworkPlan
         notes.push_back("No pressure is given in the part of the network that holds pipe " +
                         GeneralText(loose));
     }
-    if (settings.FluidViscosity <= 0) notes.emplace_back("The fluid has no viscosity");
-    if (settings.FluidDensity < 0) notes.emplace_back("The density of the fluid is negative");
     NoteVacuum(settings, plan, work, result, notes);
     if (!result.balanced) notes.emplace_back("The flows do not balance at every junction");
     NotePipes(work, result, notes);

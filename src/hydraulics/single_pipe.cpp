@@ -96,8 +96,8 @@ void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work) {
 }
 
 bool IsComplete(const SinglePipe& pipe) {
-    const bool lengthMissing = pipe.length == 0 && pipe.unknown != PipeQuantity::Length;
-    return pipe.diameter != 0 && !lengthMissing;
+    const bool lengthMissing = pipe.length <= 0 && pipe.unknown != PipeQuantity::Length;
+    return pipe.diameter > 0 && !lengthMissing;
 }
 
 std::optional<BoxText> ComputedText(const SinglePipe& pipe, const WorkNetwork& work) {

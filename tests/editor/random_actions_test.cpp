@@ -28,6 +28,7 @@ class RandomUser {
   public:
     explicit RandomUser(unsigned seed) : random_(seed) {
         plant.project.settings.FluidDensity = 998.2;
+        plant.project.settings.FluidViscosity = 1e-3;
         handOvers_.ClearDrawing = [this] { ClearDrawing(plant.editor); };
         handOvers_.ShowNetwork = [this] { RedrawProject(plant.project, plant.editor); };
     }
