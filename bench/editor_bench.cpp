@@ -14,6 +14,7 @@
 #include "projectfile/project_file.h"
 #include "support/drawing_invariants.h"
 #include "support/temp_folder.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
@@ -34,7 +35,7 @@ class Plant {
         mdi_.resize(1360, 1080);
         project.GridSize = kMaxGridSize;
         mdi_.Windows().Close("FrmCel");
-        mdi_.ShowMode();
+        mdi_.OpenModeWindow();
         mdi_.show();
         benchmark::DoNotOptimize(QTest::qWaitForWindowExposed(&mdi_));
         view_ = mdi_.Windows().Find("FrmCel")->findChild<QGraphicsView*>("Drawing");
@@ -62,7 +63,7 @@ class Plant {
     }
 
     void Open(const std::filesystem::path& file) {
-        mdi_.OpenFile(file);
+        idrova::OpenFile(mdi_, file);
         view_->viewport()->repaint();
     }
 
@@ -72,7 +73,8 @@ class Plant {
     }
 
     void Redraw() {
-        mdi_.ShowNetwork();
+        editor.ScrX = 3 - editor.ScrX;
+        mdi_.ShowState();
         view_->viewport()->repaint();
     }
 

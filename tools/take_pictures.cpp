@@ -25,6 +25,7 @@
 #include "hydraulics/compute_network.h"
 #include "model/grid.h"
 #include "ui/drawing/plant_view.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
@@ -103,7 +104,7 @@ class Studio {
     void Choose(const char* item) { Find<QAction>(item).trigger(); }
     void Press(const char* button) { Find<QAbstractButton>(button, &Panel()).click(); }
     void Type(const char* box, const char* text) { Find<QLineEdit>(box, &Panel()).setText(text); }
-    void OpenSample(const char* name) { mdi_->OpenFile(Folder() / "samples" / name); }
+    void OpenSample(const char* name) { OpenFile(*mdi_, Folder() / "samples" / name); }
 
     void Compute() {
         Press("Command1");

@@ -10,6 +10,7 @@
 
 #include "model/settings.h"
 #include "shell/start_up.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/kit/logo_picture.h"
 #include "ui/kit/qt_message_boxes.h"
@@ -75,7 +76,7 @@ int main(int argc, char* argv[]) {
         mdi = std::make_unique<idrova::MDI>(*program);
         QApplication::setQuitOnLastWindowClosed(true);
         mdi->show();
-        for (const fs::path& file : files) mdi->OpenFile(file);
+        for (const fs::path& file : files) OpenFile(*mdi, file);
     });
     return QApplication::exec();
 }

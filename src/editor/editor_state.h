@@ -31,6 +31,8 @@ struct Editor {
     CellKind componentKind = CellKind::Pump;  ///< `Combo1`
     int componentPosition = -1;               ///< `Combo3`; -1 when its list is empty
     ComponentChoice choice;
+
+    bool operator==(const Editor&) const = default;
 };
 
 bool IsArmed(const Editor& editor);

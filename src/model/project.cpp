@@ -60,8 +60,7 @@ void ClearNetwork(Project& project) {
     project.TableRows.fill({});
 }
 
-void ResetProject(Project& project, const HandOvers& handOvers) {
-    handOvers.ClearDrawing();
+void ResetProject(Project& project) {
     for (int i = 1; i <= project.npres; ++i) {
         project.PressureUnknown[static_cast<std::size_t>(i)] = true;
         project.Points[static_cast<std::size_t>(i)].Pressure = 0;
@@ -71,7 +70,6 @@ void ResetProject(Project& project, const HandOvers& handOvers) {
     project.numtubo = 0;
     project.npres = 0;
     project.CurrentPipe = 0;
-    handOvers.RereadComponents();
 }
 
 void RebuildPipeCells(Project& project) {

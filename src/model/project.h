@@ -3,7 +3,6 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -143,16 +142,6 @@ struct Project {
 
 constexpr const char* kNewProject = "New project";
 
-/// Steps of a command that belong to windows or to other folders. They do nothing until attached.
-struct HandOvers {
-    std::function<void()> ClearDrawing = [] {};      ///< the editor back to its start
-    std::function<void()> RereadComponents = [] {};  ///< load the pump and loss databases again
-    std::function<void()> ClearTable = [] {};        ///< empty the table editor's cells
-    std::function<void()> ShowNetwork = [] {};       ///< redraw, or refill the table, by the mode
-    /// The name in the main window's title changed.
-    std::function<void(std::string_view name)> ShowTitle = [](std::string_view /*name*/) {};
-};
-
 /// The start-up values: settings, except that no fluid is chosen, and an empty network. Keeps a
 /// name that is there.
 void InitialiseProject(Project& project);
@@ -162,7 +151,7 @@ void ClearNetwork(Project& project);
 
 /// Empties the network: pressures of the points in use, cells, node flags, counts. Pipe fields,
 /// `FlowUnknown`, the table rows and the settings stay.
-void ResetProject(Project& project, const HandOvers& handOvers);
+void ResetProject(Project& project);
 
 /// Recomputes the cells of kind `Crossed` from the live pipes. Component cells keep their kind.
 /// A pipe whose `FlowFromPoint` is none of its ends gets its start point.

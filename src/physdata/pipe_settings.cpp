@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "physdata/pipe_settings.h"
 
+#include <algorithm>
+
 #include "base/number_text.h"
 
 namespace idrova {
@@ -14,27 +16,20 @@ std::string RoughnessText(double roughness) {
 
 }  // namespace
 
-std::string RoughnessLabel(const RoughnessPreset& preset, double roughness) {
-    const std::string caption = preset.shortened
-                                    ? std::string(preset.caption.substr(0, kShortCaption)) + "...  "
-                                    : std::string(preset.caption) + "  ";
-    return caption + RoughnessText(roughness);
+std::string RoughnessLabel(std::string_view item, double roughness) {
+    const auto* const preset = std::ranges::find(kRoughnessPresets, item, &RoughnessPreset::item);
+    if (preset == kRoughnessPresets.end()) return RoughnessText(roughness);
+    const std::string caption = preset->shortened
+                                    ? std::string(preset->caption.substr(0, kShortCaption)) + "..."
+                                    : std::string(preset->caption);
+    return caption + "  " + RoughnessText(roughness);
 }
 
-std::string StartRoughnessLabel(const Settings& settings) {
-    return RoughnessLabel(kRoughnessPresets.front(), settings.Roughness);
-}
-
-std::string ChooseRoughness(Settings& settings, const RoughnessPreset& preset) {
-    settings.Roughness = preset.roughness;
-    return RoughnessLabel(preset, preset.roughness);
-}
-
-std::optional<std::string> ChooseUserRoughness(Settings& settings, std::string_view typed) {
+bool ChooseUserRoughness(Settings& settings, std::string_view typed) {
     const double roughness = ReadNumber(typed);
-    if (roughness < 0) return std::nullopt;
+    if (roughness < 0) return false;
     settings.Roughness = roughness;
-    return RoughnessText(roughness);
+    return true;
 }
 
 std::string RoughnessFieldText(const Settings& settings) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -28,17 +27,12 @@ constexpr std::array<RoughnessPreset, 5> kRoughnessPresets = {{
 
 constexpr std::string_view kUserRoughnessItem = "tt";
 
-/// The command panel's roughness label: caption, or the beginning of it, and roughness in m.
-std::string RoughnessLabel(const RoughnessPreset& preset, double roughness);
+/// The command panel's roughness label: of a preset its caption, or the beginning of it, and the
+/// roughness in m; of any other menu item the roughness alone.
+std::string RoughnessLabel(std::string_view item, double roughness);
 
-/// The label at start-up: the first preset's caption with the start-up roughness.
-std::string StartRoughnessLabel(const Settings& settings);
-
-/// Sets the roughness of a preset and returns the label.
-std::string ChooseRoughness(Settings& settings, const RoughnessPreset& preset);
-
-/// Sets the roughness typed in m and returns the label; nothing, and nothing set, when negative.
-std::optional<std::string> ChooseUserRoughness(Settings& settings, std::string_view typed);
+/// Sets the roughness typed in m; false, and nothing set, when it is negative.
+bool ChooseUserRoughness(Settings& settings, std::string_view typed);
 
 /// What the roughness window's field shows on opening.
 std::string RoughnessFieldText(const Settings& settings);

@@ -28,27 +28,25 @@ std::string WithExtension(const std::string& path) {
     return path.ends_with(kExtension) ? path : path + std::string(kExtension);
 }
 
-/// What became of the file that the project is named after.
-enum class FileRun { Done, Missing, Failed };
+FileChange SaveAs(const FileForm& form, Project& project, MessageBoxes& boxes) {
+    const SaveOutcome saved = SaveProject(project, project.ProjectName, boxes);
+    if (saved == SaveOutcome::Failed) return {};
+    return {.done = true, .title = form.Text3};
+}
 
-/// Saves or opens it. `Failed` when it cannot be written or read, or is malformed: the project's
-/// content is then what it was, as it is when the file is missing.
-FileRun RunPurpose(FilePurpose purpose, Project& project, MessageBoxes& boxes,
-                   const HandOvers& handOvers) {
-    const std::filesystem::path path = project.ProjectName;
-    if (purpose == FilePurpose::Save) {
-        const SaveOutcome saved = SaveProject(project, path, boxes);
-        return saved == SaveOutcome::Failed ? FileRun::Failed : FileRun::Done;
-    }
-    switch (OpenProject(project, path, boxes, handOvers)) {
+FileChange OpenAs(const FileForm& form, Project& project, MessageBoxes& boxes) {
+    switch (OpenProject(project, project.ProjectName, boxes)) {
+        case OpenOutcome::Opened:
+            return {.done = true, .title = form.Text3, .network = NetworkChange::Replaced};
+        case OpenOutcome::TooOld:
+            return {.done = true, .title = kNewProject, .network = NetworkChange::Emptied};
+        case OpenOutcome::Missing:
+            return {.done = true, .title = form.Text3};
         case OpenOutcome::Malformed:
         case OpenOutcome::Unreadable:
-            return FileRun::Failed;
-        case OpenOutcome::Missing:
-            return FileRun::Missing;
-        default:
-            return FileRun::Done;
+            break;
     }
+    return {};
 }
 
 }  // namespace
@@ -94,22 +92,16 @@ void DoubleClickFile(FileForm& form, std::string_view name) {
     form.Text2 = JoinPath(form.folder, name);
 }
 
-bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes,
-                     const HandOvers& handOvers) {
-    if (form.Text3.empty()) return false;
-    const std::string path = WithExtension(form.Text2);
-    std::string formerName = std::exchange(project.ProjectName, path);
+FileChange ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes) {
+    if (form.Text3.empty()) return {};
+    std::string formerName = std::exchange(project.ProjectName, WithExtension(form.Text2));
     std::string formerDescription = std::exchange(project.ProjectDescription, form.Text4);
-    const FileRun run = RunPurpose(form.purpose, project, boxes, handOvers);
-    if (run != FileRun::Done) project.ProjectDescription = std::move(formerDescription);
-    if (run == FileRun::Failed) {
-        project.ProjectName = std::move(formerName);
-        return false;
-    }
-    if (project.ProjectName == path) {  // an old version has detached the file instead
-        handOvers.ShowTitle(form.Text3);
-    }
-    return true;
+    const bool opens = form.purpose == FilePurpose::Open;
+    FileChange change = opens ? OpenAs(form, project, boxes) : SaveAs(form, project, boxes);
+    if (!change.done) project.ProjectName = std::move(formerName);
+    const bool missing = opens && change.network == NetworkChange::None;
+    if (!change.done || missing) project.ProjectDescription = std::move(formerDescription);
+    return change;
 }
 
 std::filesystem::path NearestFolder(std::filesystem::path folder) {

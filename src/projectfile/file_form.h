@@ -41,12 +41,19 @@ void TypeName(FileForm& form, std::string_view text, MessageBoxes& boxes);
 void ClickFile(FileForm& form, std::string_view name, MessageBoxes& boxes);
 void DoubleClickFile(FileForm& form, std::string_view name);
 
-/// Opens or saves; true when the window is to close. The project takes name and title of the form,
-/// and its description unless the file to open does not exist. Without a name nothing happens; a
-/// file that cannot be written or read, or is malformed, is told in a box and leaves the project as
-/// it was. Either keeps the window open with what was typed.
-bool ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes,
-                     const HandOvers& handOvers);
+enum class NetworkChange { None, Replaced, Emptied };
+
+/// What confirming the form did, for the owner of the windows to show.
+struct FileChange {
+    bool done = false;  ///< the window is to close; else project and window are as they were
+    std::string title;  ///< the project's name as the title shows it from now on
+    NetworkChange network = NetworkChange::None;  ///< table rows and description go with it
+};
+
+/// Opens or saves. The project takes the name of the form, and its description unless the file to
+/// open does not exist. Not done: without a name, and with
+/// a file that cannot be written or read, or is malformed, which is told in a box.
+FileChange ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes);
 
 /// `folder`, or the closest folder above it that exists.
 std::filesystem::path NearestFolder(std::filesystem::path folder);

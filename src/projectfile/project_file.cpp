@@ -19,20 +19,6 @@ bool FileExists(const fs::path& path) {
     return fs::exists(path, error) && !fs::is_directory(path, error);
 }
 
-void LeaveNetwork(Project& project, const HandOvers& handOvers) {
-    if (project.settings.Mode == WorkMode::Graphic) ResetProject(project, handOvers);
-    if (project.settings.Mode == WorkMode::Table) handOvers.ClearTable();
-}
-
-void RefuseOldVersion(Project& project, const HandOvers& handOvers) {
-    if (project.settings.Mode == WorkMode::Table) handOvers.ClearTable();
-    ResetProject(project, handOvers);
-    ClearNetwork(project);
-    project.ProjectName = kNewProject;
-    handOvers.ShowNetwork();
-    handOvers.ShowTitle(project.ProjectName);
-}
-
 /// Tries the content out apart from `project`, on the same grid.
 Status CheckSound(const ProjectContent& content, const Project& project) {
     const auto trial = std::make_unique<Project>();
@@ -60,20 +46,29 @@ SaveOutcome SaveProject(Project& project, const fs::path& path, MessageBoxes& bo
     return SaveOutcome::Saved;
 }
 
-Status ReadProjectText(std::string_view text, Project& project, const HandOvers& handOvers) {
+std::optional<SaveOutcome> SaveToOwnFile(Project& project, MessageBoxes& boxes) {
+    if (project.ProjectName == kNewProject) return std::nullopt;
+    return SaveProject(project, project.ProjectName, boxes);
+}
+
+bool NewProject(Project& project, MessageBoxes& boxes) {
+    if (boxes.Show(kLeaveProject) != Answer::Ok) return false;
+    ResetProject(project);
+    project.ProjectName = kNewProject;
+    return true;
+}
+
+Status ReadProjectText(std::string_view text, Project& project) {
     if (IsBeforeVersion25(text)) return Failure{std::string(kFileTooOld.text)};
     const Result<ProjectContent> content = ParseProject(text, project.GridSize);
     if (!content) return Failure{content.Error()};
     if (Status sound = CheckSound(*content, project); !sound) return sound;
-    LeaveNetwork(project, handOvers);
     ClearNetwork(project);
     PutContent(*content, project);
-    handOvers.ShowNetwork();
     return Done{};
 }
 
-OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& boxes,
-                        const HandOvers& handOvers) {
+OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& boxes) {
     std::error_code error;
     if (!fs::exists(path, error) && !error) {
         boxes.Show(kFileMissing);
@@ -86,10 +81,11 @@ OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& bo
     }
     if (IsBeforeVersion25(*text)) {
         boxes.Show(kFileTooOld);
-        RefuseOldVersion(project, handOvers);
+        ClearNetwork(project);
+        project.ProjectName = kNewProject;
         return OpenOutcome::TooOld;
     }
-    if (const Status read = ReadProjectText(*text, project, handOvers); !read) {
+    if (const Status read = ReadProjectText(*text, project); !read) {
         boxes.Show(ProjectMalformed(read.Error()));
         return OpenOutcome::Malformed;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,7 +27,14 @@ enum class SaveOutcome {
 /// Asks before it replaces an existing file.
 SaveOutcome SaveProject(Project& project, const std::filesystem::path& path, MessageBoxes& boxes);
 
-/// The same without the question, for programs that may not ask.
+/// Saves to the project's own file. Nothing when it has none yet: the file window is then needed.
+std::optional<SaveOutcome> SaveToOwnFile(Project& project, MessageBoxes& boxes);
+
+/// Asks, then empties the network and detaches the file; settings, table rows and description
+/// stay. False when the user wants to keep the project.
+bool NewProject(Project& project, MessageBoxes& boxes);
+
+/// Saves without the question, for programs that may not ask.
 Status WriteProject(Project& project, const std::filesystem::path& path);
 
 enum class OpenOutcome {
@@ -39,11 +47,10 @@ enum class OpenOutcome {
 
 /// Replaces network, table rows and description by the file's content. Everything but success is
 /// told in one box; the settings stay in any case.
-OpenOutcome OpenProject(Project& project, const std::filesystem::path& path, MessageBoxes& boxes,
-                        const HandOvers& handOvers = {});
+OpenOutcome OpenProject(Project& project, const std::filesystem::path& path, MessageBoxes& boxes);
 
 /// The same from a text, for projects of today's version and without boxes. A failure names the
 /// line, or the pipe or cell that does not fit the others, and leaves `project` as it was.
-Status ReadProjectText(std::string_view text, Project& project, const HandOvers& handOvers = {});
+Status ReadProjectText(std::string_view text, Project& project);
 
 }  // namespace idrova

@@ -32,30 +32,27 @@ struct Program {
     std::filesystem::path lastFolder;  ///< where the project file window starts
 
     Project project;
+    std::string titleName = kNewProject;  ///< of the project, as the main window's title shows it
     WorkNetwork work;
     TableTexts table;
-    TableModel tableModel{*this};  ///< of `project` and `table`; holds the edits that can be undone
+    TableModel tableModel{project, table};  ///< holds the edits that can be undone
     TablePlace tablePlace;
     FluidDb fluids;
     ComponentLists components;
     Editor editor;
     ShellState shell;
-    std::string roughnessLabel;            ///< as the command panel shows it
     std::map<WorkMode, Outcome> outcomes;  ///< of the last computation in each mode
     std::string report;                    ///< of the last computation that wrote one
 
-    HandOvers handOvers;
-    /// Shows the settings wherever they are shown: check marks, command panel, status bar. Every
-    /// window that changes a setting calls it.
-    std::function<void()> showSettings = [] {};
-    /// Shows the names of the pumps and of the losses wherever they can be chosen for insertion.
-    /// Every window that changes `components` calls it.
-    std::function<void()> showComponents = [] {};
+    /// Brings every window, check mark, panel and the status bar up to date with what stands here.
+    /// Called once after every change, when all is whole.
+    std::function<void()> changed = [] {};
     /// Moves the keyboard between the child windows and the command panel, there to its first
     /// control or, backwards, to its last.
     std::function<void(bool backwards)> switchFocus = [](bool) {};
-    /// Shows the mode's outcome. Every window that computes calls it.
-    std::function<void()> showOutcome = [] {};
 };
+
+/// Reads the pump and loss databases again, and finds the chosen component in them.
+void RereadComponents(Program& program);
 
 }  // namespace idrova

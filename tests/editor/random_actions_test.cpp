@@ -29,8 +29,6 @@ class RandomUser {
     explicit RandomUser(unsigned seed) : random_(seed) {
         plant.project.settings.FluidDensity = 998.2;
         plant.project.settings.FluidViscosity = 1e-3;
-        handOvers_.ClearDrawing = [this] { ClearDrawing(plant.editor); };
-        handOvers_.ShowNetwork = [this] { RedrawProject(plant.project, plant.editor); };
     }
 
     /// One action; returns its script.
@@ -66,7 +64,8 @@ class RandomUser {
         } else if (action->second == "compute") {
             Compute();
         } else if (action->second == "reset") {
-            ResetProject(plant.project, handOvers_);
+            ResetProject(plant.project);
+            ClearDrawing(plant.editor);
         } else {
             plant.Do(action->second);
         }
@@ -113,12 +112,12 @@ class RandomUser {
         const std::string before = ProjectFileText(plant.project);
         RecordedBoxes yes(Answer::Yes);
         SaveProject(plant.project, folder_ / "plant.iv", yes);
-        OpenProject(plant.project, folder_ / "plant.iv", yes, handOvers_);
+        OpenProject(plant.project, folder_ / "plant.iv", yes);
+        RedrawProject(plant.project, plant.editor);
         EXPECT_EQ(ProjectFileText(plant.project), before);
     }
 
     std::mt19937 random_;
-    HandOvers handOvers_;
     TempFolder folder_;
 };
 

@@ -24,9 +24,7 @@ TEST(Project, StartsEmptyAndResetLeavesAllButTheNetwork) {
     project = SampleProject();
     auto expected = SampleProject();
     project->CurrentPipe = 2;
-    HandOvers handOvers;
-    handOvers.ClearDrawing = [&] { EXPECT_EQ(project->numtubo, 4) << "what was drawn"; };
-    ResetProject(*project, handOvers);
+    ResetProject(*project);
     expected->numtubo = expected->npres = 0;
     for (PointRec& point : expected->Points) point.Pressure = 0;
     expected->PressureUnknown.fill(true);

@@ -152,17 +152,18 @@ TEST(PumpConstants, ComeFromThePumpWithTheSameNameAndCoefficients) {
 
 TEST(PipeSettings, SetTheirValueAndLabel) {
     Settings settings;
-    std::string labels = StartRoughnessLabel(settings);
+    std::string labels = RoughnessLabel("t1", settings.Roughness);
     for (const RoughnessPreset& preset : kRoughnessPresets) {
-        labels += "|" + ChooseRoughness(settings, preset);
+        labels += "|" + RoughnessLabel(preset.item, preset.roughness);
     }
     EXPECT_EQ(labels,
               "zincate steel\t  1.00E-4|zincate steel\t  5.00E-5|stainless stell...  2.00E-5|"
               "rough cast iron...  4.00E-4|partially rusty...  2.00E-3|"
               "strong incrostations  5.00E-3");
-    EXPECT_EQ(ChooseUserRoughness(settings, "-0.001"), std::nullopt);
-    EXPECT_EQ(RoughnessFieldText(settings), ".005");
-    EXPECT_EQ(ChooseUserRoughness(settings, "0.00015 m"), "1.50E-4");
+    EXPECT_FALSE(ChooseUserRoughness(settings, "-0.001"));
+    EXPECT_EQ(RoughnessFieldText(settings), ".0001");
+    EXPECT_TRUE(ChooseUserRoughness(settings, "0.00015 m"));
+    EXPECT_EQ(RoughnessLabel(kUserRoughnessItem, settings.Roughness), "1.50E-4");
     EXPECT_EQ(settings.Roughness, 0.00015);
     ChoosePressureUnit(settings, Unit::MilliBar);
     EXPECT_EQ(1000 * settings.PressureUnitFactor, 101325.0F);

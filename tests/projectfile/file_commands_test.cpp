@@ -6,7 +6,6 @@
 
 #include "projectfile/file_form.h"
 #include "projectfile/messages.h"
-#include "projectfile/project_commands.h"
 #include "projectfile/project_file.h"
 #include "projectfile/unsaved_copy.h"
 #include "support/sample_project.h"
@@ -20,26 +19,19 @@ namespace fs = std::filesystem;
 
 class FileCommands : public testing::Test {
   protected:
-    bool Confirm(FilePurpose purpose, std::string_view name) {
+    FileChange Confirm(FilePurpose purpose, std::string_view name) {
         FileForm form = StartFileForm(purpose, folder.Path(), *project);
         TypeName(form, name, boxes);
         form.Text4 = "typed";
-        return ConfirmFileForm(form, *project, boxes, handOvers);
+        return ConfirmFileForm(form, *project, boxes);
     }
-    /// Name and description of the project, and the hand-overs in the order of their calls.
-    std::string State() {
-        return project->ProjectName + "|" + project->ProjectDescription + "|" +
-               std::exchange(steps, {});
-    }
+    /// Name and description of the project.
+    std::string State() { return project->ProjectName + "|" + project->ProjectDescription; }
     std::string Path(std::string_view name) const { return (folder / name).string(); }
 
     TempFolder folder;
     ScriptedBoxes boxes;
     std::unique_ptr<Project> project = SampleProject();
-    std::string steps;
-    HandOvers handOvers{[this] { steps += "clear "; }, [this] { steps += "reread "; },
-                        [this] { steps += "table "; }, [this] { steps += "show "; },
-                        [this](std::string_view name) { steps += "title:" + std::string(name); }};
 };
 
 TEST_F(FileCommands, NamesAndFiltersHaveForbiddenCharacters) {
@@ -82,12 +74,15 @@ TEST_F(FileCommands, AClickShowsTheDescription) {
 }
 
 TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
-    EXPECT_FALSE(Confirm(FilePurpose::Save, "")) << "no name: the window stays";
+    EXPECT_FALSE(Confirm(FilePurpose::Save, "").done) << "no name: the window stays";
     for (const auto& [name, file] : {std::pair("b.iv", "b.iv"), std::pair("plant", "plant.iv"),
                                      std::pair("plant.IV", "plant.IV.iv")}) {
         project->numins = 50;
-        EXPECT_TRUE(Confirm(FilePurpose::Save, name));
-        EXPECT_EQ(State(), Path(file) + "|typed|title:" + name);
+        const FileChange saved = Confirm(FilePurpose::Save, name);
+        EXPECT_TRUE(saved.done);
+        EXPECT_EQ(saved.title, name);
+        EXPECT_EQ(saved.network, NetworkChange::None);
+        EXPECT_EQ(State(), Path(file) + "|typed");
         EXPECT_EQ(FileBytes(folder / file), SampleWith("two taps, one pump", "typed"));
         EXPECT_EQ(project->numins, 2);
     }
@@ -98,8 +93,7 @@ TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
     project->numins = 50;
     const Project before = *project;
     boxes.Expect(SaveFailed(Path("folder.iv") + " is a folder"));
-    EXPECT_FALSE(Confirm(FilePurpose::Save, "folder")) << "the window keeps what was typed";
-    EXPECT_EQ(steps, "");
+    EXPECT_FALSE(Confirm(FilePurpose::Save, "folder").done) << "the window keeps what was typed";
     boxes.Expect(question, Answer::No).Expect(question, Answer::Yes);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), SaveOutcome::Declined);
     EXPECT_EQ(DescriptionIn(project->ProjectName), "typed");
@@ -120,36 +114,35 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
     PutFile(folder / "huge.iv", "");
     fs::resize_file(folder / "huge.iv", 100'000'000);
     fs::create_directory(folder / "folder.iv");
-    const std::string stays = "mine.iv|two taps, one pump|";
+    const std::string stays = "mine.iv|two taps, one pump";
     const MessageBox missing("File does not exist", "Open file", BoxIcon::Information);
     const MessageBox tooOld("Projects saved before version 2.5.0 can nor be opened", "Open file");
     struct Case {
         std::string name;
         std::optional<MessageBox> box;
         std::string state;
-        WorkMode mode = WorkMode::Graphic;
+        std::string title = {};  ///< empty: the window stays
+        NetworkChange network = NetworkChange::None;
     };
-    const std::string opened = Path("good.iv") + "|two taps, one pump|";
     const std::vector<Case> cases = {
-        {"good", {}, opened + "clear reread show title:good"},
-        {"good", {}, opened + "table show title:good", WorkMode::Table},
+        {"good", {}, Path("good.iv") + "|two taps, one pump", "good", NetworkChange::Replaced},
         {"cut", ProjectMalformed("line 2: the line is missing"), stays},
         {"bent", ProjectMalformed("pipe 4 must " + course), stays},
         {"line", ProjectMalformed("line 1: the file ends inside the line"), stays},
         {"huge", OpenFailed(Path("huge.iv") + " is too large"), stays},
         {"folder", OpenFailed(Path("folder.iv") + " is not a file"), stays},
-        {"none", missing, Path("none.iv") + "|two taps, one pump|title:none"},
-        {"old", tooOld, "New project|typed|clear reread show title:New project"},
-        {"old", tooOld, "New project|typed|table clear reread show title:New project",
-         WorkMode::Table},
+        {"none", missing, Path("none.iv") + "|two taps, one pump", "none"},
+        {"old", tooOld, "New project|typed", "New project", NetworkChange::Emptied},
     };
     for (const Case& c : cases) {
         project = SampleProject();
         project->ProjectName = "mine.iv";
-        project->settings.Mode = c.mode;
         const Project before = *project;
         if (c.box) boxes.Expect(*c.box);
-        EXPECT_EQ(Confirm(FilePurpose::Open, c.name), c.state != stays) << c.name;
+        const FileChange change = Confirm(FilePurpose::Open, c.name);
+        EXPECT_EQ(change.done, c.state != stays) << c.name;
+        EXPECT_EQ(change.title, c.title);
+        EXPECT_EQ(change.network, c.network) << c.name;
         EXPECT_EQ(State(), c.state);
         EXPECT_EQ(*project == before, c.state == stays) << c.name;
         EXPECT_EQ(project->numtubo, c.name == "old" ? 0 : 4);
@@ -161,10 +154,10 @@ TEST_F(FileCommands, ANewProjectForgetsItsFile) {
     const MessageBox question("Do you want to leave current project ?", "New project",
                               BoxIcon::Question, BoxButtons::OkCancel);
     boxes.Expect(question, Answer::Cancel).Expect(question, Answer::Ok);
-    EXPECT_FALSE(NewProject(*project, boxes, handOvers));
-    EXPECT_EQ(State(), "mine.iv|two taps, one pump|");
-    EXPECT_TRUE(NewProject(*project, boxes, handOvers));
-    EXPECT_EQ(State(), "New project|two taps, one pump|clear reread show title:New project");
+    EXPECT_FALSE(NewProject(*project, boxes));
+    EXPECT_EQ(State(), "mine.iv|two taps, one pump");
+    EXPECT_TRUE(NewProject(*project, boxes));
+    EXPECT_EQ(State(), "New project|two taps, one pump");
     EXPECT_EQ(project->numtubo, 0);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), std::nullopt) << "the window is needed";
 }
@@ -178,7 +171,7 @@ TEST_F(FileCommands, WhatIsLeftUnsavedIsKept) {
     const auto again = std::make_unique<Project>();
     EXPECT_TRUE(ReadProjectText(FileBytes(copy), *again));
     EXPECT_EQ(again->numtubo, 4);
-    ASSERT_TRUE(Confirm(FilePurpose::Save, "plant"));
+    ASSERT_TRUE(Confirm(FilePurpose::Save, "plant").done);
     EXPECT_EQ(UnsavedText(*project), std::nullopt) << "its own file holds the same";
     project->Pipes[1].Length += 1;
     const auto second = UnsavedText(*project);

@@ -20,7 +20,8 @@ TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
     for (const QSize size : {QSize(1900, 1050), QSize(900, 1000), QSize(700, 620)}) {
         mdi->resize(size);
         QApplication::processEvents();
-        ResetProject(project, program->handOvers);
+        ResetProject(project);
+        ClearDrawing(program->editor);
         Draw(1, 1, 50, 1);
         Draw(1, 50, 50, 50);
         EXPECT_EQ(CellsOf(project, 1), std::pair(1, 50));

@@ -126,10 +126,10 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     EXPECT_EQ(LinesDrawn(), 1);
     EXPECT_EQ(Shown("Frame3 Text6") + Enabled("Frame3"), "Pipe|");
     project.Pipes[1].Length = 77;
-    mdi->OpenFile(folder / kUnsavedFile);
+    OpenFile(*mdi, folder / kUnsavedFile);
     EXPECT_EQ(LinesDrawn(), 2) << "not what was open just now";
     EXPECT_EQ(FileBytes(folder / "unsaved.iv~"), unsaved);
-    mdi->OpenFile(folder / "saved.iv");
+    OpenFile(*mdi, folder / "saved.iv");
 
     Open("Apri", "FrmFile");
     Child<QWidget>("Command2").setFocus();
@@ -138,14 +138,14 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     PutFile(folder / "broken.iv", "2.6.3\r\nnumtubo\r\nmany\r\n");
     boxes.Expect(ProjectMalformed("line 3: item 1 is not a number"))
         .Expect(kLeaveProject, Answer::Cancel);
-    mdi->OpenFile(folder / "broken.iv");
+    OpenFile(*mdi, folder / "broken.iv");
     Choose("Nuovo");
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
 
     PutFile(folder / "old.iv", "2.4");
     program->table.Set(2, 7, "12");
     boxes.Expect(kFileTooOld);
-    mdi->OpenFile(folder / "old.iv");
+    OpenFile(*mdi, folder / "old.iv");
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
     EXPECT_EQ(LinesDrawn(), 0) << "a refused project leaves an empty drawing";
     EXPECT_EQ(program->table, TableTexts());
@@ -154,7 +154,7 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     Select(5, 5);
     Choose("Tabella");
     EXPECT_EQ(Shown("Frame3"), "Pipe 1");
-    mdi->OpenFile(folder / "saved.iv");
+    OpenFile(*mdi, folder / "saved.iv");
     EXPECT_EQ(Shown("Frame3"), "Pipe") << "opened beside the table, too";
 }
 

@@ -145,7 +145,7 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     Press("&Undo");
     EXPECT_EQ(Text(99, kEndPressure), "2000") << "the table of another unit is another table";
     Put(2, kLength, "11");
-    mdi->ShowNetwork();
+    program->changed();
     Press("&Undo");
     EXPECT_EQ(Text(2, kLength), "10") << "and that is forgotten once only";
 }
@@ -188,9 +188,9 @@ TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {
         Put(2, kNominalSize, "3\"");
         Choose(mode);
         boxes.Expect(ProjectMalformed("line 2: the line is missing"));
-        mdi->OpenFile(folder / "bad.iv");
+        OpenFile(*mdi, folder / "bad.iv");
         EXPECT_EQ(program->table.At(2, kNominalSize), "3\"");
-        mdi->OpenFile(folder / "table.iv");
+        OpenFile(*mdi, folder / "table.iv");
         Open("Tabella", "FrmTable");
         Press("&Undo");
         EXPECT_EQ(Text(2, kStartPoint) + Text(2, kNominalSize), "1") << mode;

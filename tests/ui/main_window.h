@@ -19,6 +19,7 @@
 
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"

@@ -34,7 +34,8 @@ TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     EXPECT_FALSE(mdi->Panel().close());
     EXPECT_TRUE(mdi->Panel().isVisible());
     EXPECT_LT(mdi->height(), mdi->screen()->availableGeometry().height());
-    mdi->ShowTitle("a[*]b");
+    program->titleName = "a[*]b";
+    program->changed();
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a[*][*]b]") << "shown with one star";
     Window("FrmCel")->CloseWindow();
     Choose("p_mbar");

@@ -22,7 +22,8 @@ class RecordWindow : public MainWindow {
         RecordDb<Record> db;
         for (const Record& record : records) db = WithRecord(db, record);
         PutFile(folder / Record::kFile, EncodeRecords(db));
-        program->handOvers.RereadComponents();
+        RereadComponents(*program);
+        program->changed();
     }
     template <typename Record>
     Record LastStored() {

@@ -28,7 +28,7 @@ class Run : public DrawingWindow {
         project.settings.FluidName = "water";
         project.settings.FluidDensity = 998.2;
         project.settings.FluidViscosity = 0.001002;
-        program->showSettings();
+        program->changed();
     }
 
     std::string Stored() { return FileBytes(folder / "out.dat"); }

@@ -21,7 +21,8 @@ class WholeJob : public DrawingWindow {
             std::filesystem::copy_file(std::filesystem::path(IDROVA_DATA) / file, folder / file,
                                        std::filesystem::copy_options::overwrite_existing);
         }
-        program->handOvers.RereadComponents();
+        RereadComponents(*program);
+        program->changed();
         LoadCurrentFluid(project.settings, program->fluids, folder.Path(), boxes);
     }
 

@@ -17,6 +17,14 @@
 
 namespace idrova {
 
+/// What the drawing was last made from.
+struct FrmCel::Shown {
+    Project project;
+    Editor editor;
+};
+
+FrmCel::~FrmCel() = default;
+
 FrmCel::FrmCel(Program& program)
     : ChildWindow("FrmCel", "Idrova - plant drawing"),
       program_(program),
@@ -36,7 +44,7 @@ FrmCel::FrmCel(Program& program)
     setFocusProxy(view_);
     StayOnEscape();
     ConnectView();
-    ShowNetwork();
+    ShowState();
 }
 
 QScrollBar* FrmCel::Bar(const char* name, Qt::Orientation orientation) {
@@ -55,23 +63,30 @@ void FrmCel::ConnectView() {
     view_->abort = [this] { Abort(); };
     view_->turnPump = [this] {
         TurnSelectedPump(program_.project, program_.editor);
-        ShowNetwork();
+        program_.changed();
     };
 }
 
-void FrmCel::ShowNetwork() {
+void FrmCel::ShowState() {
+    const Project& project = program_.project;
     const Editor& editor = program_.editor;
+    if (shown_ == nullptr) {
+        shown_ = std::make_unique<Shown>();
+    } else if (shown_->editor == editor && shown_->project == project) {
+        return;
+    }
+    shown_->project = project;
+    shown_->editor = editor;
     const QSignalBlocker silentX(ScrX);
     const QSignalBlocker silentY(ScrY);
     ScrX->setValue(editor.ScrX);
     ScrY->setValue(editor.ScrY);
-    DrawPlant(program_.project, editor, *scene_);
+    DrawPlant(project, editor, *scene_);
 }
 
 void FrmCel::Img_MouseDown(int place, MouseButton button) {
     CellClick(program_.project, program_.editor, place, button, program_.boxes);
-    ShowNetwork();
-    program_.showSettings();
+    program_.changed();
 }
 
 bool FrmCel::focusNextPrevChild(bool next) {
@@ -81,13 +96,12 @@ bool FrmCel::focusNextPrevChild(bool next) {
 
 void FrmCel::Scrolled() {
     ScrollDrawing(program_.project, program_.editor, ScrX->value(), ScrY->value());
-    ShowNetwork();
+    program_.changed();
 }
 
 void FrmCel::Abort() {
     AbortByKey(program_.editor);
-    ShowNetwork();
-    program_.showSettings();
+    program_.changed();
 }
 
 void FrmCel::ShowPlace(int place) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <memory>
+
 #include "editor/cell_click.h"
 #include "ui/kit/child_window.h"
 
@@ -17,13 +19,17 @@ class FrmCel final : public ChildWindow {
   public:
     explicit FrmCel(Program& program);
 
-    void ShowNetwork() override;
+    ~FrmCel() override;
+
+    void ShowState() override;
 
   protected:
     /// After its last control comes the command panel.
     bool focusNextPrevChild(bool next) override;
 
   private:
+    struct Shown;
+
     QScrollBar* Bar(const char* name, Qt::Orientation orientation);
     void ConnectView();
     void Img_MouseDown(int place, MouseButton button);
@@ -32,6 +38,7 @@ class FrmCel final : public ChildWindow {
     void ShowPlace(int place);
 
     Program& program_;
+    std::unique_ptr<Shown> shown_;  ///< null before the first time
     PlantScene* scene_;
     PlantView* view_;
     QScrollBar* ScrX;

@@ -1,24 +1,145 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/commands.h"
 
+#include "hydraulics/run_settings.h"
+#include "physdata/pipe_settings.h"
+#include "results/report.h"
+#include "results/results_file.h"
+#include "shell/messages.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
+#include "ui/frame/run_commands.h"
+#include "ui/kit/child_windows.h"
+#include "ui/kit/print_text.h"
+#include "ui/kit/start_program.h"
 #include "ui/program.h"
+#include "ui/windows/frm_con.h"
+#include "ui/windows/frm_flu.h"
+#include "ui/windows/frm_logo.h"
+#include "ui/windows/frm_percon.h"
+#include "ui/windows/frm_pmin.h"
+#include "ui/windows/frm_pompa.h"
+#include "ui/windows/frm_rug.h"
+#include "ui/windows/frm_vel.h"
 
 namespace idrova {
 
+namespace {
+
+void SwitchMode(MDI& mdi, WorkMode mode) {
+    Program& program = mdi.State();
+    EnterMode(mode, program.project, program.shell);
+    AbortInsertion(program.editor);
+    if (mode == WorkMode::Graphic) {
+        program.editor.framesEnabled = true;
+        RereadComponents(program);
+    }
+    mdi.OpenModeWindow();
+}
+
+void AttachModes(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    menu.Attach("Grafico", [&mdi] { SwitchMode(mdi, WorkMode::Graphic); });
+    menu.Attach("Tabella", [&mdi] { SwitchMode(mdi, WorkMode::Table); });
+    menu.Attach("sintub", [&mdi] { SwitchMode(mdi, WorkMode::SinglePipe); });
+}
+
+void SwitchPressureUnit(Program& program, Unit unit) {
+    ChoosePressureUnit(program.project.settings, unit);
+    FillTable(program.project, program.table);
+}
+
+void AttachSettings(MenuBar& menu, Program& program) {
+    Settings& settings = program.project.settings;
+    for (const RoughnessPreset& preset : kRoughnessPresets) {
+        menu.Attach(preset.item, [&program, &preset] {
+            program.project.settings.Roughness = preset.roughness;
+            program.shell.roughnessItem = preset.item;
+        });
+    }
+    menu.Attach("Circolare", [&settings] { settings.SectionType = Section::Circular; });
+    menu.Attach("Rettangolare", [&settings] { settings.SectionType = Section::Rectangular; });
+    menu.Attach("p_bar", [&program] { SwitchPressureUnit(program, Unit::Bar); });
+    menu.Attach("p_mbar", [&program] { SwitchPressureUnit(program, Unit::MilliBar); });
+    menu.Attach("Cor1", [&settings] { ChooseIncompressible(settings); });
+    menu.Attach("Cor2",
+                [&program] { ChooseCompressible(program.project.settings, program.boxes); });
+}
+
+void PrintLastResults(MDI& mdi) {
+    Program& program = mdi.State();
+    const Project& project = program.project;
+    const std::string report =
+        program.report.empty()
+            ? ReportText(project.settings, project.ProjectName, program.work, CurrentReportTime())
+            : program.report;
+    PrintReport(report, program.boxes, [&](const std::string& text) {
+        PrintText(text, program.lastFolder, &mdi, program.boxes);
+    });
+}
+
+void AttachResults(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    Program& program = mdi.State();
+    menu.Attach("Stampa", [&mdi] { PrintLastResults(mdi); });
+    menu.Attach("Risultati",
+                [&program] { ShowResults(program.folder, program.boxes, StartWithFile); });
+    menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
+    menu.Attach("Risultatiseq", [&program] {
+        program.project.settings.ResultsInSequence = !program.project.settings.ResultsInSequence;
+    });
+}
+
+template <typename Window>
+void AttachWindow(MDI& mdi, std::string_view item, std::string_view name) {
+    mdi.Menu().Attach(item, [&mdi, name] {
+        mdi.Windows().Open(name, [&mdi] { return new Window(mdi.State()); });
+    });
+}
+
+void AttachDataWindows(MDI& mdi) {
+    AttachWindow<FrmFlu>(mdi, "Fluido", "FrmFlu");
+    AttachWindow<FrmPompa>(mdi, "Pompe", "FrmPompa");
+    AttachWindow<FrmPerCon>(mdi, "PerditeCon", "FrmPerCon");
+    AttachWindow<FrmRug>(mdi, "tt", "FrmRug");
+    AttachWindow<FrmVel>(mdi, "Veloce", "FrmVel");
+    AttachWindow<FrmCon>(mdi, "Editor", "FrmCon");
+    AttachWindow<FrmPMin>(mdi, "PresMini", "FrmPMin");
+    mdi.Menu().Attach("Temperatura", [&mdi] {
+        ChildWindow* window =
+            mdi.Windows().Open("FrmPMin", [&mdi] { return new FrmPMin(mdi.State()); });
+        if (auto* data = dynamic_cast<FrmPMin*>(window)) data->GoToTemperature();
+    });
+}
+
+void AttachHelp(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    Program& program = mdi.State();
+    menu.Attach("Helpslinea", [&program] { program.shell.HintsShown = !program.shell.HintsShown; });
+    menu.Attach("Help", [&program] { program.boxes.Show(kManualNotice); });
+    menu.Attach("Logo", [&mdi] { mdi.Windows().Open("FrmLogo", [] { return new FrmLogo; }); });
+}
+
+}  // namespace
+
 void AttachCommands(MDI& mdi) {
-    mdi.Menu().beforeCommand = [&mdi] { mdi.TakeEdits(); };
-    mdi.Menu().afterCommand = [&mdi] { mdi.ShowSettings(); };
-    mdi.State().showSettings = [&mdi] { mdi.ShowSettings(); };
-    mdi.State().showOutcome = [&mdi] { mdi.ShowOutcome(); };
-    AttachShellCommands(mdi);
-    AttachSettingCommands(mdi);
-    AttachProjectCommands(mdi);
+    Program& program = mdi.State();
+    mdi.Menu().run = [&mdi](const std::function<void()>& command) {
+        mdi.TakeEdits();
+        command();
+        mdi.ShowState();
+    };
+    mdi.Menu().Attach("Esci", [&mdi, &program] {
+        if (program.boxes.Show(kExitQuestion) == Answer::Ok) mdi.close();
+    });
+    AttachFileCommands(mdi);
+    AttachModes(mdi);
+    AttachSettings(mdi.Menu(), program);
     AttachRunCommands(mdi);
-    AttachResultCommands(mdi);
-    AttachDrawing(mdi);
+    AttachResults(mdi);
     AttachDataWindows(mdi);
+    AttachHelp(mdi);
 }
 
 }  // namespace idrova

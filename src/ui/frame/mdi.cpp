@@ -14,12 +14,11 @@
 #include <QUrl>
 
 #include "physdata/fluids.h"
-#include "physdata/pipe_settings.h"
-#include "projectfile/file_form.h"
 #include "projectfile/unsaved_copy.h"
+#include "ui/drawing/frm_cel.h"
 #include "ui/frame/commands.h"
+#include "ui/frame/file_commands.h"
 #include "ui/frame/menu_bar.h"
-#include "ui/frame/mode_windows.h"
 #include "ui/frame/status_line.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
@@ -27,7 +26,9 @@
 #include "ui/kit/qt_text.h"
 #include "ui/panel/frm_com.h"
 #include "ui/program.h"
+#include "ui/table/frm_table.h"
 #include "ui/windows/frm_help.h"
+#include "ui/windows/frm_sin.h"
 
 namespace idrova {
 
@@ -38,9 +39,20 @@ constexpr QSize kFrameAllowance(16, 48);  ///< what a desktop puts round a windo
 
 void LoadStartState(Program& program) {
     InitialiseProject(program.project);
-    program.roughnessLabel = StartRoughnessLabel(program.project.settings);
     LoadCurrentFluid(program.project.settings, program.fluids, program.folder, program.boxes);
-    LoadComponentDatabases(program.components, program.folder, program.boxes);
+    RereadComponents(program);
+}
+
+ChildWindow* MakeModeWindow(WorkMode mode, Program& program) {
+    switch (mode) {
+        case WorkMode::Table:
+            return new FrmTable(program);
+        case WorkMode::SinglePipe:
+            return new FrmSin(program);
+        case WorkMode::Graphic:
+            break;
+    }
+    return new FrmCel(program);
 }
 
 /// The project file in what is being dragged; empty when there is none.
@@ -61,7 +73,7 @@ MDI::MDI(Program& program)
       statusLine_(std::make_unique<StatusLine>(*statusBar(), program.boxes)),
       windows_(new ChildWindows),
       panel_(new FrmCom(program, this)),
-      hints_(new FrmHelp(this)) {
+      hints_(new FrmHelp(program, this)) {
     Named(this, "MDI");
     setAcceptDrops(true);
     // The menu of docks would show the hint window behind the back of its menu item.
@@ -72,41 +84,40 @@ MDI::MDI(Program& program)
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
     LoadStartState(program_);
     AttachCommands(*this);
+    program_.changed = [this] { ShowState(); };
     program_.switchFocus = [this](bool backwards) { SwitchFocus(backwards); };
     connect(new QShortcut(QKeySequence("F4"), this), &QShortcut::activated, this,
             [this] { SwitchFocus(false); });
     // A maximised child window would put its own caption into the title.
     connect(this, &QWidget::windowTitleChanged, this, [this] { setWindowTitle(title_); });
     PlaceOnScreen();
-    ShowTitle(kNewProject);
-    ShowMode();
+    OpenModeWindow();
+    ShowState();
 }
 
 MDI::~MDI() = default;
 
-void MDI::ShowMode() {
-    const std::string_view wanted = ViewOf(program_.project.settings.Mode).window;
+void MDI::OpenModeWindow() {
+    const WorkMode mode = program_.project.settings.Mode;
+    const std::string_view wanted = ViewOf(mode).window;
     for (const std::string_view name : {"FrmCel", "FrmTable", "FrmSin"}) {
         if (name != wanted) windows_->Close(name);
     }
     statusBar()->clearMessage();  // it names a cell of the drawing
-    ShowOutcome();
     windows_->Open(
-        wanted, [&] { return MakeModeWindow(wanted, program_); }, ChildWindows::Place::FillsArea);
-    ShowSettings();
+        wanted, [&] { return MakeModeWindow(mode, program_); }, ChildWindows::Place::FillsArea);
 }
 
-void MDI::ShowSettings() {
-    menu_->ShowChecks(program_.project.settings, program_.shell);
-    panel_->ShowSettings();
-    statusLine_->ShowSettings(program_.project.settings);
-    hints_->ShowHints(HintLines(program_.editor));
-    hints_->setVisible(program_.shell.HintsShown);
-}
-
-void MDI::ShowNetwork() {
-    ChildWindow* window = windows_->Find(ViewOf(program_.project.settings.Mode).window);
-    if (window != nullptr) window->ShowNetwork();
+void MDI::ShowState() {
+    const Settings& settings = program_.project.settings;
+    const auto outcome = program_.outcomes.find(settings.Mode);
+    menu_->ShowChecks(settings, program_.shell);
+    panel_->ShowState();
+    statusLine_->ShowState(settings,
+                           outcome == program_.outcomes.end() ? nullptr : &outcome->second);
+    hints_->ShowState();
+    ShowTitle();
+    if (ChildWindow* window = windows_->Find(ViewOf(settings.Mode).window)) window->ShowState();
 }
 
 void MDI::TakeEdits() {
@@ -121,28 +132,10 @@ void MDI::SwitchFocus(bool backwards) {
     if (frame != nullptr) frame->widget()->setFocus(Qt::TabFocusReason);
 }
 
-void MDI::ShowTitle(std::string_view name) {
+void MDI::ShowTitle() {
     // Qt takes the first pair of brackets round a star for the place of its own mark.
-    title_ = ToQt(WindowTitle(name)).replace("[*]", "[*][*]");
+    title_ = ToQt(WindowTitle(program_.titleName)).replace("[*]", "[*][*]");
     setWindowTitle(title_);
-}
-
-void MDI::ShowOutcome() {
-    const auto found = program_.outcomes.find(program_.project.settings.Mode);
-    if (found == program_.outcomes.end()) {
-        statusLine_->HideOutcome();
-    } else {
-        statusLine_->ShowOutcome(found->second);
-    }
-}
-
-void MDI::OpenFile(const std::filesystem::path& path) {
-    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program_.project);
-    ClickFile(form, path.filename().string(), program_.boxes);
-    const auto unsaved = UnsavedText(program_.project);
-    const bool left = ConfirmFileForm(form, program_.project, program_.boxes, program_.handOvers);
-    if (left) KeepUnsaved(unsaved, program_.folder);
-    program_.lastFolder = path.parent_path();
 }
 
 void MDI::dragEnterEvent(QDragEnterEvent* event) {
@@ -152,7 +145,7 @@ void MDI::dragEnterEvent(QDragEnterEvent* event) {
 void MDI::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
     TakeEdits();
-    OpenFile(DraggedProject(*event->mimeData()));
+    OpenFile(*this, DraggedProject(*event->mimeData()));
 }
 
 void MDI::closeEvent(QCloseEvent* event) {

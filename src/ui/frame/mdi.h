@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QMainWindow>
-#include <filesystem>
 #include <memory>
-#include <string_view>
 
 namespace idrova {
 
@@ -16,7 +14,7 @@ class StatusLine;
 struct Program;
 
 /// The main window: menu bar, area of the child windows, command panel, hint window, status bar.
-/// Shows the state of the program; the commands change it and call back.
+/// Shows the state of the program, which the commands change.
 class MDI : public QMainWindow {
   public:
     /// Initialises the project and makes the first fluid of the database the current one.
@@ -29,27 +27,18 @@ class MDI : public QMainWindow {
     FrmCom& Panel() { return *panel_; }
     FrmHelp& Hints() { return *hints_; }
 
-    /// Opens a project file without asking.
-    void OpenFile(const std::filesystem::path& path);
-
     /// Opens the window of the working mode and closes those of the others.
-    void ShowMode();
+    void OpenModeWindow();
 
-    /// Check marks, panel, hint window and status bar as the state has them.
-    void ShowSettings();
-
-    /// Has the window of the working mode show the network anew.
-    void ShowNetwork();
+    /// Every window, check marks, panel, hint window, status bar and title as the state has them;
+    /// what shows it already is left alone.
+    void ShowState();
 
     /// Moves the keyboard between the child windows and the command panel.
     void SwitchFocus(bool backwards);
 
     /// Has the window of the working mode take what is being typed.
     void TakeEdits();
-
-    /// `name` is the project's name as the title shows it.
-    void ShowTitle(std::string_view name);
-    void ShowOutcome();
 
   protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -58,6 +47,7 @@ class MDI : public QMainWindow {
 
   private:
     void PlaceOnScreen();
+    void ShowTitle();
 
     Program& program_;
     std::unique_ptr<MenuBar> menu_;

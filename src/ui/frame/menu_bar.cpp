@@ -44,11 +44,7 @@ MenuBar::MenuBar(QMenuBar& bar) {
         holder.addAction(action);
         Item& item = items_[entry.name];
         item.action = action;
-        QObject::connect(action, &QAction::triggered, action, [this, &item] {
-            beforeCommand();
-            item.command();
-            afterCommand();
-        });
+        QObject::connect(action, &QAction::triggered, action, [this, &item] { run(item.command); });
     }
 }
 

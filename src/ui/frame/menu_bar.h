@@ -24,12 +24,10 @@ class MenuBar {
 
     void ShowChecks(const Settings& settings, const ShellState& shell);
 
-    /// Called before every command.
-    std::function<void()> beforeCommand = [] {};
-
-    /// Called after every command; shows the check marks as the state has them, since choosing
-    /// a checkable item has already flipped its mark.
-    std::function<void()> afterCommand = [] {};
+    /// Runs the command of a chosen item. Choosing a checkable item has already flipped its mark:
+    /// `ShowChecks` puts it right.
+    std::function<void(const std::function<void()>& command)> run =
+        [](const std::function<void()>& command) { command(); };
 
     MenuBar(const MenuBar&) = delete;
     MenuBar& operator=(const MenuBar&) = delete;

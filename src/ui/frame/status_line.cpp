@@ -53,20 +53,22 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     bar.addPermanentWidget(mode_);
 }
 
-void StatusLine::ShowSettings(const Settings& settings) {
+void StatusLine::ShowState(const Settings& settings, const Outcome* outcome) {
     mode_->setText("Mode: " + ModeText(settings.Mode));
     fluid_->setText(FluidText(settings));
+    if (outcome != nullptr) {
+        ShowOutcome(*outcome);
+    } else {
+        outcomeButton_->hide();
+    }
 }
 
 void StatusLine::ShowOutcome(const Outcome& outcome) {
     outcome_ = outcome;
     outcomeButton_->setText(ToQt(OutcomeLine(outcome)));
-    outcomeButton_->setStyleSheet(IsTrustworthy(outcome.end) ? "" : kNotSettledStyle);
+    const QString style = IsTrustworthy(outcome.end) ? "" : kNotSettledStyle;
+    if (outcomeButton_->styleSheet() != style) outcomeButton_->setStyleSheet(style);
     outcomeButton_->setVisible(!outcomeButton_->text().isEmpty());
-}
-
-void StatusLine::HideOutcome() {
-    outcomeButton_->hide();
 }
 
 void StatusLine::ShowNotes() {

@@ -21,11 +21,11 @@ class StatusLine {
     StatusLine(const StatusLine&) = delete;
     StatusLine& operator=(const StatusLine&) = delete;
 
-    void ShowSettings(const Settings& settings);
-    void ShowOutcome(const Outcome& outcome);
-    void HideOutcome();
+    /// `outcome` is null when nothing has been computed in this mode.
+    void ShowState(const Settings& settings, const Outcome* outcome);
 
   private:
+    void ShowOutcome(const Outcome& outcome);
     void ShowNotes();
 
     MessageBoxes& boxes_;

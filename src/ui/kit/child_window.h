@@ -16,8 +16,8 @@ class ChildWindow : public QWidget {
     /// `name` is the window's name in the system ("FrmFlu").
     ChildWindow(const char* name, const QString& caption);
 
-    /// The network or the table changed as a whole: shows it anew. For the windows of the modes.
-    virtual void ShowNetwork() {}
+    /// Shows what has changed since it was last shown. For the windows of the modes.
+    virtual void ShowState() {}
 
     /// Takes what is being typed as if it had been finished. Called before every command.
     virtual void TakeEdits() {}

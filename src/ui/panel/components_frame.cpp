@@ -59,7 +59,7 @@ void ComponentsFrame::Combo1_Click(int position) {
     const CellKind kind = position == 0 ? CellKind::Pump : CellKind::Loss;
     if (kind == program.editor.componentKind) return;
     ChooseComponentKind(program.editor, program.components, kind);
-    program.showSettings();
+    program.changed();
 }
 
 void ComponentsFrame::Combo3_Click(int position) {
@@ -70,14 +70,13 @@ void ComponentsFrame::Combo3_Click(int position) {
 void ComponentsFrame::Command3_Click() {
     Program& program = context_.program;
     ArmInsertion(program.editor, program.boxes);
-    context_.redraw();
-    program.showSettings();
+    program.changed();
 }
 
 void ComponentsFrame::Command2_Click() {
     Program& program = context_.program;
     TurnSelectedPump(program.project, program.editor);
-    context_.redraw();
+    program.changed();
 }
 
 void ComponentsFrame::Show() {

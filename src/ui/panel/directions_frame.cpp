@@ -54,7 +54,7 @@ QRadioButton* DirectionsFrame::Option(const char* name, PipeEnd end) {
     connect(option, &QRadioButton::toggled, this, [this, end](bool chosen) {
         if (!chosen) return;
         ChooseDirection(context_.program.project, context_.panel, end);
-        context_.show();
+        context_.edited();
     });
     return option;
 }

@@ -16,12 +16,12 @@ FlowFrame::FlowFrame(PanelContext& context)
       Option6(new KnownChoice("Option6",
                               [this](bool known) {
                                   ChooseFlow(context_.program.project, context_.panel, known);
-                                  context_.show();
+                                  context_.edited();
                               })),
       Text12(new NumberBox("Text12",
                            [this](std::string_view text) {
                                TypeKgPerHour(context_.program.project, context_.panel, text);
-                               context_.show();
+                               context_.edited();
                            })),
       Text13(new NumberBox("Text13", [this](std::string_view text) { Text13_Change(text); })),
       Text2(ResultBox("Text2")),
@@ -58,7 +58,7 @@ void FlowFrame::Text13_Change(std::string_view text) {
     if (!TypeCubicMetresPerHour(program.project, context_.panel, text, program.boxes)) {
         Text12->setFocus();
     }
-    context_.show();
+    context_.edited();
 }
 
 }  // namespace idrova

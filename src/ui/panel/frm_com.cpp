@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -17,6 +18,7 @@
 #include "editor/deletion.h"
 #include "editor/messages.h"
 #include "physdata/fluids.h"
+#include "physdata/pipe_settings.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
 #include "ui/kit/qt_text.h"
@@ -41,7 +43,7 @@ QLabel* SettingLabel(const char* name) {
 FrmCom::FrmCom(Program& program, QWidget* parent)
     : QDockWidget("Idrova - Commands", parent),
       program_(program),
-      context_{program, {}, [this] { ShowFrames(); }, [this] { redraw(); }},
+      context_{program, {}, [this] { ShowEdited(); }},
       Frame3(new PipeFrame(context_)),
       Frame4(new PressuresFrame(context_)),
       Frame8(new DirectionsFrame(context_)),
@@ -109,14 +111,20 @@ void FrmCom::AddButtons(QVBoxLayout& column) {
     column.addLayout(form);
 }
 
-void FrmCom::ShowSettings() {
+void FrmCom::ShowState() {
     fluidName_->setText(ToQt(program_.project.settings.FluidName));
     fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project.settings)));
-    roughness_->setText(ToQt(program_.roughnessLabel));
-    context_.panel = ShowPipeData(program_.project);
+    roughness_->setText(
+        ToQt(RoughnessLabel(program_.shell.roughnessItem, program_.project.settings.Roughness)));
+    if (!isEdited_) context_.panel = ShowPipeData(program_.project);
     ShowFrames();
     Frame6->Show();
     ShowEnabling();
+}
+
+void FrmCom::ShowEdited() {
+    const QScopedValueRollback edited(isEdited_, true);
+    program_.changed();
 }
 
 void FrmCom::TakeFocus(bool backwards) {
@@ -135,8 +143,7 @@ void FrmCom::keyPressEvent(QKeyEvent* event) {
     const bool begun = program_.editor.state != InsertState::FirstPoint;
     if (event->key() == Qt::Key_Escape && begun) {
         AbortByKey(program_.editor);
-        redraw();
-        program_.showSettings();
+        program_.changed();
         return;
     }
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -166,13 +173,12 @@ void FrmCom::ShowEnabling() {
 
 void FrmCom::Command4_Click() {
     program_.editor.DataShown = !program_.editor.DataShown;
-    redraw();
+    program_.changed();
 }
 
 void FrmCom::Command9_Click() {
     DeleteSelected(program_.project, program_.editor, program_.boxes);
-    redraw();
-    program_.showSettings();
+    program_.changed();
 }
 
 void FrmCom::Slider1_Change() {

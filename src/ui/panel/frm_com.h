@@ -26,15 +26,13 @@ class FrmCom : public QDockWidget {
     FrmCom(Program& program, QWidget* parent);
 
     /// Everything that the panel shows, as settings, project and editor now stand.
-    void ShowSettings();
+    void ShowState();
 
     /// Gives the keyboard to the first control that takes it or, backwards, to the last.
     void TakeFocus(bool backwards);
 
     /// "Calculate by graphic" was pressed.
     std::function<void()> calculate = [] {};
-    /// The drawing has to be shown anew.
-    std::function<void()> redraw = [] {};
 
   protected:
     void closeEvent(QCloseEvent* event) override;
@@ -45,6 +43,7 @@ class FrmCom : public QDockWidget {
     void AddSettings(QVBoxLayout& column);
     void AddFrames(QVBoxLayout& column);
     void AddButtons(QVBoxLayout& column);
+    void ShowEdited();
     void ShowFrames();
     void ShowEnabling();
     void Command4_Click();
@@ -53,6 +52,7 @@ class FrmCom : public QDockWidget {
 
     Program& program_;
     PanelContext context_;
+    bool isEdited_ = false;  ///< by a frame: the boxes keep what was typed as it was typed
     QLabel* fluidName_ = nullptr;
     QLabel* fluidProperties_ = nullptr;
     QLabel* roughness_ = nullptr;

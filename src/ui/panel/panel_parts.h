@@ -18,9 +18,9 @@ struct Program;
 /// What the frames of the command panel share.
 struct PanelContext {
     Program& program;
-    PipePanel panel;                       ///< what the boxes hold
-    std::function<void()> show;            ///< shows `panel` in every frame
-    std::function<void()> redraw = [] {};  ///< something else than a typed number changed
+    PipePanel panel;  ///< what the boxes hold
+    /// A frame has changed the pipe, and `panel` with it: shows both wherever they are shown.
+    std::function<void()> edited;
 };
 
 /// A box for a typed number.

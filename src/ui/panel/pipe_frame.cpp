@@ -32,7 +32,7 @@ PipeFrame::PipeFrame(PanelContext& context)
     Named(this, "Frame3");
     OnChosen(*Combo2, [this](int position) {
         ChoosePipeSize(context_.program.project, context_.panel, position + 1);
-        context_.show();
+        context_.edited();
     });
     auto* form = new QFormLayout(this);
     form->addRow(Frame7);
@@ -47,11 +47,11 @@ PipeFrame::PipeFrame(PanelContext& context)
 NumberBox* PipeFrame::EditBox(const char* name, const Edit& edit) {
     auto* box = new NumberBox(name, [this, edit](std::string_view text) {
         edit(context_.program.project, context_.panel, text);
-        context_.show();
+        context_.edited();
     });
     connect(box, &QLineEdit::editingFinished, this, [this] {
         LeaveBox(context_.program.project, context_.panel);
-        context_.show();
+        context_.edited();
     });
     return box;
 }

@@ -28,13 +28,11 @@ PressuresFrame::PressuresFrame(PanelContext& context)
 PressuresFrame::PointBoxes PressuresFrame::MakePoint(const Names& names, PipeEnd end) {
     const auto choose = [this, end](bool known) {
         ChoosePressure(context_.program.project, context_.panel, end, known);
-        context_.show();
-        context_.redraw();
+        context_.edited();
     };
     const auto type = [this, end](std::string_view text) {
         TypePressure(context_.program.project, context_.panel, end, text);
-        context_.show();
-        if (context_.program.editor.DataShown) context_.redraw();  // a label shows it
+        context_.edited();
     };
     return {Named(new QGroupBox("P"), names.frame),
             new KnownChoice(names.option, choose),

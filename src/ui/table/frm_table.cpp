@@ -15,7 +15,7 @@ FrmTable::FrmTable(Program& program)
       model_(program.tableModel),
       TxtTab(new TableView(model_, program.tablePlace)) {
     FillTable(program.project, program.table);
-    model_.Refresh();
+    model_.ShowState();
     StayOnEscape();
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
@@ -23,8 +23,8 @@ FrmTable::FrmTable(Program& program)
     setFocusProxy(TxtTab);
 }
 
-void FrmTable::ShowNetwork() {
-    model_.Refresh();
+void FrmTable::ShowState() {
+    model_.ShowState();
 }
 
 void FrmTable::TakeEdits() {

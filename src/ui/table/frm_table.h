@@ -14,7 +14,7 @@ class FrmTable : public ChildWindow {
   public:
     explicit FrmTable(Program& program);
 
-    void ShowNetwork() override;
+    void ShowState() override;
     void TakeEdits() override;
 
   private:

@@ -7,7 +7,6 @@
 
 #include "table/table_edit.h"
 #include "ui/kit/qt_text.h"
-#include "ui/program.h"
 
 namespace idrova {
 
@@ -21,12 +20,12 @@ struct TableState {
     TableTexts texts;
 };
 
-QString HeaderTip(const Program& program, int section) {
+QString HeaderTip(const Settings& settings, int section) {
     QString header = ToQt(kTableColumnList[section].header);
     const bool isPressure =
         section == table_column::kStartPressure || section == table_column::kEndPressure;
     if (!isPressure) return header;
-    return header + (program.project.settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
+    return header + (settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
 }
 
 }  // namespace
@@ -44,8 +43,8 @@ class TableModel::Change : public QUndoCommand {
 
   private:
     void Swap() {
-        std::swap(model_.program_.project.TableRows, other_.rows);
-        std::swap(model_.program_.table, other_.texts);
+        std::swap(model_.project_.TableRows, other_.rows);
+        std::swap(model_.texts_, other_.texts);
         model_.Announce();
     }
 
@@ -54,7 +53,7 @@ class TableModel::Change : public QUndoCommand {
     bool made_ = false;
 };
 
-TableModel::TableModel(Program& program) : program_(program) {
+TableModel::TableModel(Project& project, TableTexts& texts) : project_(project), texts_(texts) {
     undo_.setUndoLimit(kUndoLimit);
 }
 
@@ -76,9 +75,9 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
-            return ToQt(program_.table.At(row, index.column()));
+            return ToQt(texts_.At(row, index.column()));
         case Qt::BackgroundRole:
-            if (!program_.table.IsPainted(row, index.column())) return {};
+            if (!texts_.IsPainted(row, index.column())) return {};
             return QColor(QRgb{kToComputeColour});
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
@@ -93,7 +92,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     }
     if (section < 0 || section >= kTableColumns) return {};
     if (role == Qt::DisplayRole) return ToQt(kTableColumnList[section].header);
-    if (role == Qt::ToolTipRole) return HeaderTip(program_, section);
+    if (role == Qt::ToolTipRole) return HeaderTip(project_.settings, section);
     return {};
 }
 
@@ -106,50 +105,48 @@ Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
 bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) return false;
     Apply("cell", [&] {
-        ChangeCell(program_.project, program_.table, RowOf(index), index.column(),
-                   FromQt(value.toString()));
+        ChangeCell(project_, texts_, RowOf(index), index.column(), FromQt(value.toString()));
     });
     return true;
 }
 
 void TableModel::ChooseSize(const QModelIndex& cell, int position) {
-    Apply("diameter",
-          [&] { ChooseNominalSize(program_.project, program_.table, RowOf(cell), position + 1); });
+    Apply("diameter", [&] { ChooseNominalSize(project_, texts_, RowOf(cell), position + 1); });
 }
 
 std::string TableModel::Copy(const TableBlock& block) const {
-    return CopyBlock(program_.table, block);
+    return CopyBlock(texts_, block);
 }
 
 void TableModel::Paste(const QModelIndex& from, const std::string& text) {
-    Apply("paste",
-          [&] { PasteBlock(program_.project, program_.table, RowOf(from), from.column(), text); });
+    Apply("paste", [&] { PasteBlock(project_, texts_, RowOf(from), from.column(), text); });
 }
 
 void TableModel::Clear(const TableBlock& block) {
-    Apply("delete", [&] { ClearBlock(program_.project, program_.table, block); });
+    Apply("delete", [&] { ClearBlock(project_, texts_, block); });
 }
 
-void TableModel::Refresh() {
-    const float unit = program_.project.settings.PressureUnitFactor;
+void TableModel::ShowState() {
+    const float unit = project_.settings.PressureUnitFactor;
     if (std::exchange(shownUnit_, unit) != unit) undo_.clear();
-    Announce();
+    if (shown_ != texts_) Announce();
 }
 
 void TableModel::StartAnew() {
     undo_.clear();
-    Refresh();
+    ShowState();
 }
 
 void TableModel::Apply(const QString& name, const std::function<void()>& edit) {
-    TableState before{program_.project.TableRows, program_.table};
+    TableState before{project_.TableRows, texts_};
     edit();
-    if (program_.table == before.texts) return;
+    if (texts_ == before.texts) return;
     undo_.push(new Change(*this, name, std::move(before)));
     Announce();
 }
 
 void TableModel::Announce() {
+    shown_ = texts_;
     // One pressure can reach every row.
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }

@@ -10,13 +10,12 @@
 
 namespace idrova {
 
-struct Program;
-
 /// The rows of the table, 2 .. 100, for a Qt view; line 0 of the model shows row 2. Every change
 /// runs the rule of the cells and can be undone for the whole run, whatever windows come and go.
 class TableModel : public QAbstractTableModel {
   public:
-    explicit TableModel(Program& program);
+    /// Both live longer than the model.
+    TableModel(Project& project, TableTexts& texts);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
@@ -32,8 +31,9 @@ class TableModel : public QAbstractTableModel {
     void Paste(const QModelIndex& from, const std::string& text);
     void Clear(const TableBlock& block);
 
-    /// Shows the table again. In another pressure unit nothing can be undone any more.
-    void Refresh();
+    /// Shows what differs from what is shown. In another pressure unit nothing can be undone any
+    /// more.
+    void ShowState();
     /// Shows the table of another project, whose edits start here.
     void StartAnew();
 
@@ -47,7 +47,9 @@ class TableModel : public QAbstractTableModel {
     void Apply(const QString& name, const std::function<void()>& edit);
     void Announce();
 
-    Program& program_;
+    Project& project_;
+    TableTexts& texts_;
+    TableTexts shown_;
     float shownUnit_ = 0;  ///< Pa per unit
     QUndoStack undo_;
 };

@@ -13,7 +13,6 @@
 #include <QSignalBlocker>
 
 #include "projectfile/messages.h"
-#include "projectfile/unsaved_copy.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/drives.h"
 #include "ui/kit/form_parts.h"
@@ -43,9 +42,10 @@ void ShowText(QLineEdit& field, const std::string& text) {
 
 }  // namespace
 
-FrmFile::FrmFile(Program& program, FilePurpose purpose)
+FrmFile::FrmFile(Program& program, FilePurpose purpose, Confirm confirm)
     : ChildWindow("FrmFile", ToQt(FileFormCaption(purpose))),
       program_(program),
+      confirm_(std::move(confirm)),
       form_(StartFileForm(purpose, NearestFolder(program.lastFolder), program.project)),
       Drive1(Named(new QComboBox, "Drive1")),
       Dir1(Named<QListWidget>(new FolderList, "Dir1")),
@@ -201,11 +201,7 @@ void FrmFile::File1_Click(const QString& name) {
 }
 
 void FrmFile::Command1_Click() {
-    const auto unsaved = UnsavedText(program_.project);
-    if (!ConfirmFileForm(form_, program_.project, program_.boxes, program_.handOvers)) return;
-    if (form_.purpose == FilePurpose::Open) KeepUnsaved(unsaved, program_.folder);
-    program_.lastFolder = form_.folder;
-    CloseWindow();
+    if (confirm_(form_)) CloseWindow();
 }
 
 }  // namespace idrova

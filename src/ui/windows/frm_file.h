@@ -3,6 +3,7 @@
 
 #include <QString>
 #include <filesystem>
+#include <functional>
 
 #include "projectfile/file_form.h"
 #include "ui/kit/child_window.h"
@@ -20,8 +21,11 @@ struct Program;
 /// for which.
 class FrmFile : public ChildWindow {
   public:
+    /// Opens or saves as the form says; true when the window is to close.
+    using Confirm = std::function<bool(const FileForm&)>;
+
     /// Starts in the folder last used.
-    FrmFile(Program& program, FilePurpose purpose);
+    FrmFile(Program& program, FilePurpose purpose, Confirm confirm);
 
     FilePurpose Purpose() const { return form_.purpose; }
     /// Reads the lists of folders and files again.
@@ -47,6 +51,7 @@ class FrmFile : public ChildWindow {
     void Command1_Click();
 
     Program& program_;
+    Confirm confirm_;
     FileForm form_;
     QString clicked_;  ///< the file of the list that the form shows
     QComboBox* Drive1;

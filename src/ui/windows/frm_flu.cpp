@@ -133,7 +133,7 @@ void FrmFlu::Command1_Click() {
         return Combo1_Click(meant - 1);
     }
     if (!UseFluid(program_.project, selected_, Fields(), program_.boxes)) return;
-    program_.showSettings();
+    program_.changed();
     TellVolumeFlows(program_.project, program_.boxes);
     CloseWindow();
 }

@@ -6,6 +6,7 @@
 
 #include "ui/kit/controls.h"
 #include "ui/kit/qt_text.h"
+#include "ui/program.h"
 
 namespace idrova {
 
@@ -15,7 +16,8 @@ constexpr std::array<const char*, 4> kNames = {"Label1", "Label2", "Label3", "La
 
 }  // namespace
 
-FrmHelp::FrmHelp(QWidget* parent) : QDockWidget("Idrova - Help", parent) {
+FrmHelp::FrmHelp(Program& program, QWidget* parent)
+    : QDockWidget("Idrova - Help", parent), program_(program) {
     Named(this, "FrmHelp");
     setAllowedAreas(Qt::BottomDockWidgetArea | Qt::TopDockWidgetArea);
     setFeatures(DockWidgetClosable);
@@ -35,13 +37,16 @@ FrmHelp::FrmHelp(QWidget* parent) : QDockWidget("Idrova - Help", parent) {
     setWidget(content);
 }
 
-void FrmHelp::ShowHints(const std::array<std::string_view, 4>& lines) {
+void FrmHelp::ShowState() {
+    const auto lines = HintLines(program_.editor);
     for (std::size_t i = 0; i < lines_.size(); ++i) lines_[i]->setText(ToQt(lines[i]));
+    setVisible(program_.shell.HintsShown);
 }
 
 void FrmHelp::closeEvent(QCloseEvent* event) {
     QDockWidget::closeEvent(event);
-    closedByUser();
+    program_.shell.HintsShown = false;
+    program_.changed();
 }
 
 }  // namespace idrova

@@ -3,28 +3,27 @@
 
 #include <QDockWidget>
 #include <array>
-#include <functional>
-#include <string_view>
 
 class QLabel;
 
 namespace idrova {
 
+struct Program;
+
 /// The hint window below the drawing: four lines, of which the second and the fourth say what the
 /// actions of the first and the third do.
 class FrmHelp : public QDockWidget {
   public:
-    explicit FrmHelp(QWidget* parent);
+    FrmHelp(Program& program, QWidget* parent);
 
-    void ShowHints(const std::array<std::string_view, 4>& lines);
-
-    /// Called when the user closes the window by its frame.
-    std::function<void()> closedByUser = [] {};
+    void ShowState();
 
   protected:
+    /// The user closes it by its frame.
     void closeEvent(QCloseEvent* event) override;
 
   private:
+    Program& program_;
     std::array<QLabel*, 4> lines_{};
 };
 

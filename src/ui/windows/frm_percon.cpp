@@ -7,6 +7,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "editor/component_insertion.h"
 #include "physdata/component_commands.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
@@ -108,7 +109,8 @@ void FrmPerCon::Command2_Click() {
         SaveLoss(program_.components, Fields(), program_.folder, program_.boxes);
     if (outcome == EditOutcome::Refused) return;
     Load();
-    program_.showComponents();
+    RefreshComponentChoice(program_.editor, program_.components);
+    program_.changed();
 }
 
 void FrmPerCon::Command3_Click() {
@@ -117,7 +119,8 @@ void FrmPerCon::Command3_Click() {
         DeleteLoss(program_.components, slot, program_.folder, program_.boxes);
     if (outcome != EditOutcome::Done) return;
     Load();
-    program_.showComponents();
+    RefreshComponentChoice(program_.editor, program_.components);
+    program_.changed();
 }
 
 }  // namespace idrova

@@ -40,7 +40,7 @@ void FrmPMin::Command1_Click() {
     SetCalculationData(
         program_.project.settings, shown_,
         {.basePressure = FromQt(Text1->text()), .temperature = FromQt(Text2->text())});
-    program_.showSettings();
+    program_.changed();
     CloseWindow();
 }
 

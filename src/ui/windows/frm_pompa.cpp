@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "editor/component_insertion.h"
 #include "physdata/component_commands.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
@@ -112,7 +113,8 @@ void FrmPompa::Command2_Click() {
     const PumpDb& pumps = program_.components.pumps;
     Combo1->Refill(RecordNames(pumps), pumps.count - 1);
     ShowCurve(pumps[pumps.count]);
-    program_.showComponents();
+    RefreshComponentChoice(program_.editor, program_.components);
+    program_.changed();
 }
 
 void FrmPompa::Command3_Click() {
@@ -123,7 +125,8 @@ void FrmPompa::Command3_Click() {
         return;
     }
     Combo1->Refill(RecordNames(pumps));
-    program_.showComponents();
+    RefreshComponentChoice(program_.editor, program_.components);
+    program_.changed();
 }
 
 }  // namespace idrova

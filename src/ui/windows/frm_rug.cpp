@@ -27,15 +27,13 @@ FrmRug::FrmRug(Program& program)
 }
 
 void FrmRug::Command1_Click() {
-    const auto label = ChooseUserRoughness(program_.project.settings, FromQt(Text1->text()));
-    if (!label) {
+    if (!ChooseUserRoughness(program_.project.settings, FromQt(Text1->text()))) {
         Text1->selectAll();
         Text1->setFocus();
         return;
     }
-    program_.roughnessLabel = *label;
     program_.shell.roughnessItem = kUserRoughnessItem;
-    program_.showSettings();
+    program_.changed();
     CloseWindow();
 }
 

@@ -198,7 +198,7 @@ void FrmSin::Recompute() {
         RunSinglePipe(pipe_, program_.project.settings, program_.work,
                       {.boxes = program_.boxes, .writeReport = writeReport});
     program_.outcomes[WorkMode::SinglePipe] = result.outcome;
-    program_.showOutcome();
+    program_.changed();
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }
 

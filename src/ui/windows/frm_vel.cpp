@@ -53,17 +53,17 @@ void FrmVel::AddSetting(FieldGrid& rows, const QString& caption, QLineEdit* fiel
 
 void FrmVel::Command1_Click() {
     SetAllFlowRates(program_.project, FromQt(Text1->text()), program_.boxes);
-    program_.showSettings();
+    program_.changed();
 }
 
 void FrmVel::Command2_Click() {
     SetAllLengths(program_.project, FromQt(Text2->text()), program_.boxes);
-    program_.showSettings();
+    program_.changed();
 }
 
 void FrmVel::Command3_Click() {
     SetAllDiameters(program_.project, FromQt(Text3->text()), program_.boxes);
-    program_.showSettings();
+    program_.changed();
 }
 
 void FrmVel::Combo2_Click(int position) {

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frame/run_commands.h"
+
 #include <optional>
 
 #include "hydraulics/run_settings.h"
 #include "shell/run_command.h"
-#include "ui/frame/commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/panel/frm_com.h"
@@ -33,9 +34,7 @@ void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
     program.outcomes[program.project.settings.Mode] = Compute(mdi);
-    mdi.ShowOutcome();
-    mdi.ShowNetwork();
-    mdi.ShowSettings();
+    mdi.ShowState();
 }
 
 }  // namespace

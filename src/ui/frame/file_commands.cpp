@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frame/file_commands.h"
+
+#include <QStatusBar>
+
+#include "physdata/pump_constants.h"
+#include "projectfile/file_form.h"
+#include "projectfile/project_file.h"
+#include "projectfile/unsaved_copy.h"
+#include "ui/frame/mdi.h"
+#include "ui/frame/menu_bar.h"
+#include "ui/frame/messages.h"
+#include "ui/kit/child_windows.h"
+#include "ui/program.h"
+#include "ui/windows/frm_file.h"
+
+namespace idrova {
+
+namespace {
+
+/// The editor is made again from the network that was put in place, and the windows that belong to
+/// it are opened and closed.
+void TakeDrawing(MDI& mdi) {
+    Program& program = mdi.State();
+    CompletePumpConstants(program.project, program.components.pumps);
+    RedrawProject(program.project, program.editor);
+    program.outcomes.erase(WorkMode::Graphic);
+    mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
+    const std::string_view window = ViewOf(program.project.settings.Mode).window;
+    if (mdi.Windows().Find(window) == nullptr) mdi.OpenModeWindow();
+}
+
+/// The same, and the table texts.
+void TakeNetwork(MDI& mdi, NetworkChange change) {
+    Program& program = mdi.State();
+    const bool isDrawn = program.project.settings.Mode == WorkMode::Graphic;
+    if (isDrawn || change == NetworkChange::Emptied) RereadComponents(program);
+    program.table = TableTexts();
+    FillTable(program.project, program.table);
+    program.tableModel.StartAnew();
+    program.outcomes.erase(WorkMode::Table);
+    TakeDrawing(mdi);
+    const bool isTable = program.project.numtubo == 0 && CountTableRows(program.project) > 0;
+    if (isTable && isDrawn) mdi.statusBar()->showMessage(kProjectIsTable);
+}
+
+/// True when the file window is to close.
+bool Confirm(MDI& mdi, const FileForm& form) {
+    Program& program = mdi.State();
+    const auto unsaved = UnsavedText(program.project);
+    const FileChange change = ConfirmFileForm(form, program.project, program.boxes);
+    if (!change.done) return false;
+    program.titleName = change.title;
+    program.lastFolder = form.folder;
+    if (change.network != NetworkChange::None) TakeNetwork(mdi, change.network);
+    if (form.purpose == FilePurpose::Open) KeepUnsaved(unsaved, program.folder);
+    mdi.ShowState();
+    return true;
+}
+
+void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
+    auto* open = dynamic_cast<FrmFile*>(mdi.Windows().Find("FrmFile"));
+    if (open != nullptr && open->Purpose() != purpose) {
+        open->CloseWindow();
+    } else if (open != nullptr) {
+        open->ShowFolder();
+    }
+    mdi.Windows().Open("FrmFile", [&mdi, purpose] {
+        return new FrmFile(mdi.State(), purpose,
+                           [&mdi](const FileForm& form) { return Confirm(mdi, form); });
+    });
+}
+
+void Save(MDI& mdi) {
+    Program& program = mdi.State();
+    if (!SaveToOwnFile(program.project, program.boxes)) ShowFileWindow(mdi, FilePurpose::Save);
+}
+
+/// A new project keeps the rows of the table, so its texts and its edits stay as well.
+void New(MDI& mdi) {
+    Program& program = mdi.State();
+    const auto unsaved = UnsavedText(program.project);
+    if (!NewProject(program.project, program.boxes)) return;
+    program.titleName = program.project.ProjectName;
+    RereadComponents(program);
+    TakeDrawing(mdi);
+    KeepUnsaved(unsaved, program.folder);
+}
+
+}  // namespace
+
+void AttachFileCommands(MDI& mdi) {
+    MenuBar& menu = mdi.Menu();
+    menu.Attach("Nuovo", [&mdi] { New(mdi); });
+    menu.Attach("Apri", [&mdi] { ShowFileWindow(mdi, FilePurpose::Open); });
+    menu.Attach("Salva", [&mdi] { Save(mdi); });
+    menu.Attach("Salva2", [&mdi] { ShowFileWindow(mdi, FilePurpose::Save); });
+}
+
+void OpenFile(MDI& mdi, const std::filesystem::path& path) {
+    Program& program = mdi.State();
+    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program.project);
+    ClickFile(form, path.filename().string(), program.boxes);
+    Confirm(mdi, form);
+    program.lastFolder = path.parent_path();
+}
+
+}  // namespace idrova

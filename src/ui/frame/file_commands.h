@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+namespace idrova {
+
+class MDI;
+
+/// New, open and save.
+void AttachFileCommands(MDI& mdi);
+
+/// Opens a project file without asking.
+void OpenFile(MDI& mdi, const std::filesystem::path& path);
+
+}  // namespace idrova
