@@ -48,6 +48,18 @@ std::string IconName(BoxIcon icon) {
     return "";
 }
 
+Json NoteList(const std::vector<Note>& notes) {
+    Json list = Json::array();
+    for (const Note& note : notes) {
+        Json item = {{"text", note.text}};
+        if (note.on == NoteOn::Pipe) item["pipe"] = note.number;
+        if (note.on == NoteOn::Point) item["point"] = note.number;
+        if (note.on == NoteOn::Cell) item["cell"] = note.number;
+        list.push_back(item);
+    }
+    return list;
+}
+
 Json MessageList(const std::vector<MessageBox>& messages) {
     Json list = Json::array();
     for (const MessageBox& box : messages) {
@@ -106,7 +118,7 @@ std::string JsonText(const Settings& settings, const RunRecord& run) {
                  {"passes", outcome.passes},
                  {"residual", outcome.residual},
                  {"worst_pipe", outcome.worstPipe},
-                 {"notes", outcome.notes},
+                 {"notes", NoteList(outcome.notes)},
                  {"messages", MessageList(run.messages)},
                  {"pipes", Json::array()},
                  {"points", Json::array()},

@@ -102,7 +102,7 @@ class ProjectRun {
         if (outcome.end != RunEnd::Settled && outcome.end != RunEnd::Refused) {
             err_ << OutcomeLine(outcome) << '\n';
         }
-        for (const std::string& note : outcome.notes) err_ << note << '\n';
+        for (const Note& note : outcome.notes) err_ << note.text << '\n';
     }
 
     bool Save() {

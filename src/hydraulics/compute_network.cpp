@@ -9,6 +9,7 @@
 #include "hydraulics/first_stage.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/run_checks.h"
+#include "hydraulics/run_notes.h"
 #include "hydraulics/run_results.h"
 #include "hydraulics/solve_network.h"
 
@@ -112,9 +113,12 @@ Outcome ComputeNetwork(const Settings& settings, WorkNetwork& work, const RunOpt
     if (plan.Order() == 0) return Ended(RunEnd::Empty);
     if (auto refusal = CheckSystem(settings, plan, work)) return Ended(RunEnd::Refused, refusal);
 
+    const auto started = std::chrono::steady_clock::now();
     Progress progress(options);
     StageResult result = Solve(settings, plan, work, options, progress);
     Outcome outcome;
+    outcome.seconds =
+        std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
     outcome.passes = result.passes;
     outcome.end = progress.Stopped() ? RunEnd::Stopped : EndOf(result);
     if (outcome.end == RunEnd::Stopped || outcome.end == RunEnd::NotFinite) return outcome;

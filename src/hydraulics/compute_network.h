@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "hydraulics/note.h"
 #include "hydraulics/refusal.h"
 #include "hydraulics/work_network.h"
 #include "model/settings.h"
@@ -27,16 +28,20 @@ enum class RunEnd {
 /// What became of a run.
 struct Outcome {
     RunEnd end = RunEnd::Refused;
-    std::array<int, 2> passes{};     ///< of the first and of the closing stage; 0 when not run
-    double residual = 0;             ///< summed relative residual of the last pass
-    double worstResidual = 0;        ///< the largest residual of an unsettled pipe
-    int worstPipe = 0;               ///< its number; 0 when every pipe has settled
-    std::optional<Refusal> refusal;  ///< of a run that the engine has refused
-    std::vector<std::string> notes;  ///< what the user should know, in plain words
+    std::array<int, 2> passes{};       ///< of the first and of the closing stage; 0 when not run
+    double residual = 0;               ///< summed relative residual of the last pass
+    double worstResidual = 0;          ///< the largest residual of an unsettled pipe
+    int worstPipe = 0;                 ///< its number; 0 when every pipe has settled
+    std::optional<Refusal> refusal{};  ///< of a run that the engine has refused
+    std::vector<Note> notes{};         ///< what the user should know
+    double seconds = 0;                ///< that the run took
 };
 
-/// The outcome in one line, for the status bar.
+/// The outcome in a few words, for the status bar.
 std::string OutcomeLine(const Outcome& outcome);
+
+/// How long it took: "12 + 3 passes, 1.4 ms"; empty when nothing was solved.
+std::string EffortText(const Outcome& outcome);
 
 /// The two bars of the progress window, each 0 .. 100.
 struct RunProgress {

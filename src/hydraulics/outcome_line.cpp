@@ -1,20 +1,21 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <cmath>
+
 #include "base/number_text.h"
 #include "hydraulics/compute_network.h"
-#include "hydraulics/run_results.h"
+#include "hydraulics/run_notes.h"
 
 namespace idrova {
 namespace {
 
-std::string Passes(const Outcome& outcome) {
-    std::string text = GeneralText(outcome.passes[0]);
-    if (outcome.passes[1] != 0) text += " + " + GeneralText(outcome.passes[1]);
-    return text + (text == "1" ? " pass" : " passes");
-}
-
 std::string WorstPipe(const Outcome& outcome) {
     if (outcome.worstPipe == 0) return "";
     return ": pipe " + GeneralText(outcome.worstPipe) + ", " + PercentText(outcome.worstResidual);
+}
+
+std::string NoteCount(std::size_t notes) {
+    if (notes == 0) return "";
+    return ", " + GeneralText(static_cast<int>(notes)) + (notes == 1 ? " note" : " notes");
 }
 
 }  // namespace
@@ -26,17 +27,25 @@ std::string OutcomeLine(const Outcome& outcome) {
         case RunEnd::Empty:
             return "Nothing to compute";
         case RunEnd::Stopped:
-            return "Stopped after " + Passes(outcome);
+            return "Stopped";
         case RunEnd::Settled:
-            return "Computed in " + Passes(outcome);
+            return "Computed" + NoteCount(outcome.notes.size());
         case RunEnd::Unsettled:
-            return "Not settled after " + Passes(outcome) + WorstPipe(outcome);
+            return "Not settled" + WorstPipe(outcome);
         case RunEnd::Singular:
-            return "The equations have no single solution (" + Passes(outcome) + ")";
+            return "The equations have no single solution";
         case RunEnd::NotFinite:
-            return "No finite solution after " + Passes(outcome);
+            return "No finite solution";
     }
     return "";
+}
+
+std::string EffortText(const Outcome& outcome) {
+    if (outcome.passes[0] + outcome.passes[1] == 0) return "";
+    std::string text = GeneralText(outcome.passes[0]);
+    if (outcome.passes[1] != 0) text += " + " + GeneralText(outcome.passes[1]);
+    text += text == "1" ? " pass, " : " passes, ";
+    return text + GeneralText(std::round(outcome.seconds * 1e4) / 10) + " ms";
 }
 
 }  // namespace idrova

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
 #include <vector>
 
-#include "hydraulics/first_stage.h"
 #include "hydraulics/network_plan.h"
+#include "hydraulics/stage_result.h"
 #include "hydraulics/work_network.h"
 #include "model/settings.h"
 
@@ -20,14 +19,6 @@ void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const W
 
 /// Flows and pressures into the working network, each component's flow into its record.
 void StoreResults(const NetworkPlan& plan, WorkNetwork& work, const StageResult& result);
-
-/// What the user should know of the data and the solution, a sentence each. To be called before
-/// the results replace the given values.
-std::vector<std::string> ResultNotes(const Settings& settings, const NetworkPlan& plan,
-                                     const WorkNetwork& work, const StageResult& result);
-
-/// A share in percent: "3 %", below one percent with two decimals: "0.04 %".
-std::string PercentText(double share);
 
 /// True when a pump's stored flow is within the range of its curve, its limits included.
 bool IsInRange(const CellRec& pump);

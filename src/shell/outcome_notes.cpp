@@ -9,9 +9,18 @@ bool IsTrustworthy(RunEnd end) {
     return end == RunEnd::Settled || end == RunEnd::Empty;
 }
 
+OutcomeView ShowOutcome(const Outcome& outcome) {
+    OutcomeView view{OutcomeLine(outcome), EffortText(outcome)};
+    if (!view.tip.empty()) view.tip += ". ";
+    view.tip += "A click shows all notes on the last computation";
+    if (!outcome.notes.empty()) view.ground = OutcomeGround::Noted;
+    if (!IsTrustworthy(outcome.end)) view.ground = OutcomeGround::Faulty;
+    return view;
+}
+
 MessageBox OutcomeNotes(const Outcome& outcome) {
     std::string text = OutcomeLine(outcome);
-    for (const std::string& note : outcome.notes) text += "\n" + note;
+    for (const Note& note : outcome.notes) text += "\n" + note.text;
     return {text, "Computation",
             IsTrustworthy(outcome.end) ? BoxIcon::Information : BoxIcon::Exclamation};
 }

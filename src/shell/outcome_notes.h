@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string>
+
 #include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 
@@ -8,6 +10,18 @@ namespace idrova {
 
 /// False when the results shown are no solution, or when there are none.
 bool IsTrustworthy(RunEnd end);
+
+/// The ground that the status bar gives an outcome.
+enum class OutcomeGround { Plain, Noted, Faulty };
+
+/// What the status bar shows of an outcome.
+struct OutcomeView {
+    std::string text;
+    std::string tip;
+    OutcomeGround ground = OutcomeGround::Plain;
+};
+
+OutcomeView ShowOutcome(const Outcome& outcome);
 
 /// The outcome of a computation with all its notes, one to a line.
 MessageBox OutcomeNotes(const Outcome& outcome);

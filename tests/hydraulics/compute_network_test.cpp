@@ -102,7 +102,7 @@ TEST(ComputeNetwork, WorkingPointOfALine) {
             },
             1e-6, 1000);
         EXPECT_EQ(run.outcome.end, RunEnd::Settled);
-        EXPECT_THAT(run.outcome.notes, IsEmpty());
+        EXPECT_THAT(run.Notes(), IsEmpty());
         for (const int pipe : {1, 2}) EXPECT_NEAR(run.Flow(pipe), sign * expected, 1e-6 * expected);
         EXPECT_EQ(run.work->WorkComponents[0].record.Result, run.work->WorkPipes[1].FlowRate);
         const double rise = run.Pressure(3) - run.Pressure(2);
@@ -134,7 +134,7 @@ TEST(ComputeNetwork, LoopClosesAsByHand) {
                        Drop(*network, 2, q - 2) - Drop(*network, 7, 4);
     EXPECT_NEAR(run.Pressure(6), end, 5);
     EXPECT_EQ(run.outcome.end, RunEnd::Settled);
-    EXPECT_THAT(run.outcome.notes,
+    EXPECT_THAT(run.Notes(),
                 ElementsAre("Pipe 6 has a negative flow given, which was taken as positive"));
 }
 
@@ -254,7 +254,7 @@ TEST(ComputeNetwork, LossesOpposeTheFlowHoweverTheyAreDrawn) {
             EXPECT_NEAR(run.Flow(1), reversed ? -q : q, 1e-6 * q) << k;
             EXPECT_TRUE(k != 3 || std::abs(q - 9.3) < 0.05);
             EXPECT_EQ(run.outcome.end, RunEnd::Settled);
-            EXPECT_THAT(run.outcome.notes, IsEmpty());
+            EXPECT_THAT(run.Notes(), IsEmpty());
         }
     }
 }
@@ -266,7 +266,7 @@ TEST(ComputeNetwork, AFixedDropHoldsTheFlowWhereLessDrivesIt) {
     EXPECT_EQ(run.outcome.end, RunEnd::Settled);
     EXPECT_GT(run.Flow(1), 0);
     EXPECT_LT(run.Flow(1), 0.01 * 50 * 1e-3 * area / 0.0538);
-    EXPECT_THAT(run.outcome.notes, ElementsAre(testing::HasSubstr("205 holds the flow still")));
+    EXPECT_THAT(run.Notes(), ElementsAre(testing::HasSubstr("205 holds the flow still")));
 }
 
 TEST(ComputeNetwork, PumpPushedBackwardsHasItsHighestRise) {
@@ -276,7 +276,7 @@ TEST(ComputeNetwork, PumpPushedBackwardsHasItsHighestRise) {
     EXPECT_EQ(run.outcome.end, RunEnd::Settled);
     EXPECT_NEAR(run.Flow(1), -q, 1e-6 * q);
     EXPECT_NEAR(run.Pressure(3) - run.Pressure(2), 50000, 0.1);
-    EXPECT_THAT(run.outcome.notes, ElementsAre("The pump in cell 205 runs backwards"));
+    EXPECT_THAT(run.Notes(), ElementsAre("The pump in cell 205 runs backwards"));
 }
 
 /// Oil of 0.2 Pa s: three pipes in series with two of them side by side, and a loop.
@@ -362,7 +362,7 @@ TEST(ComputeNetwork, MissingLevelIsTold) {
     for (int i = 1; i <= 3; ++i) loose.AddPipe(i, i % 3 + 1);
     const NetworkRun run(loose);
     EXPECT_EQ(run.outcome.end, RunEnd::Singular);
-    EXPECT_THAT(run.outcome.notes,
+    EXPECT_THAT(run.Notes(),
                 ElementsAre("No pressure is given in the part of the network that holds pipe 1"));
 }
 

@@ -140,10 +140,49 @@ TEST(RunMessages, PumpsOutOfRangeAreListed) {
 
 TEST(RunNotes, TellWhatNoPlantCanHave) {
     NetworkBuilder network = LoopedNetwork(2, 1);
-    EXPECT_THAT(NetworkRun(network).outcome.notes, testing::IsEmpty());
+    EXPECT_THAT(NetworkRun(network).Notes(), testing::IsEmpty());
     network->settings.BasePressure = -1e9F;
-    EXPECT_THAT(NetworkRun(network).outcome.notes,
+    EXPECT_THAT(NetworkRun(network).Notes(),
                 testing::ElementsAre(testing::HasSubstr("would be below a vacuum")));
+}
+
+TEST(RunNotes, NameTheirPlace) {
+    const struct {
+        std::function<void(NetworkBuilder&)> spoil;
+        Note note;
+    } cases[] = {
+        {[](auto& n) { n->Pipes[1].Z2 = 7; },
+         {"The pipes at point 2 give it different heights, 7 m to 8 m", NoteOn::Point, 2}},
+        {[](auto& n) { n->settings.Roughness = 0.006; },
+         {"The roughness is above a twentieth of the diameter of pipe 2", NoteOn::Pipe, 2}},
+        {[](auto& n) { n.SetFlow(2, -1), n->PressureUnknown[3] = true; },
+         {"Pipe 2 has a negative flow given, which was taken as positive", NoteOn::Pipe, 2}},
+        {[](auto& n) { n->settings.BasePressure = -2.5e5F, n.SetPressure(3, 1e5F); },
+         {"The pressure in point 3 would be below a vacuum", NoteOn::Point, 3}},
+    };
+    for (const auto& c : cases) {
+        NetworkBuilder network(3);
+        network.AddPipe(1, 2, 100, .13F);
+        network.AddPipe(2, 3, 100, .11F);
+        network->Pipes[1].Z2 = network->Pipes[2].Z1 = 8;
+        network.SetPressure(1, 3e5F);
+        network.SetPressure(3, 2e5F);
+        EXPECT_THAT(NetworkRun(network).outcome.notes, testing::IsEmpty());
+        c.spoil(network);
+        EXPECT_THAT(NetworkRun(network).outcome.notes, testing::ElementsAre(c.note));
+    }
+}
+
+TEST(RunNotes, PumpOutOfItsRange) {
+    NetworkBuilder network = PumpedPipe();
+    network.SetFlow(1, 1);
+    CellRec& pump = network->Cells[network->Points[2].Cell];
+    pump.Param2 = 1e5F;
+    pump.MinFlow = 1.5F;
+    const Note note{"The pump in cell 205 works out of its range", NoteOn::Cell, 205};
+    EXPECT_THAT(NetworkRun(network).outcome.notes, testing::ElementsAre(note));
+    pump.MinFlow = .5F;
+    EXPECT_THAT(NetworkRun(network).outcome.notes, testing::IsEmpty());
 }
 
 TEST(RunSettings, CalculationDataAreReadAndShown) {

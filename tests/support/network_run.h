@@ -2,6 +2,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "hydraulics/compute_network.h"
 #include "support/networks.h"
@@ -34,6 +36,11 @@ struct NetworkRun {
         outcome = ComputeNetwork(network->settings, *work, {.seed = seed});
     }
 
+    std::vector<std::string> Notes() const {
+        std::vector<std::string> texts;
+        for (const Note& note : outcome.notes) texts.push_back(note.text);
+        return texts;
+    }
     double Flow(int pipe) const { return work->WorkPipes[pipe].FlowRate; }
     double Pressure(int point) const { return work->WorkPoints[point].Pressure; }
 

@@ -14,8 +14,11 @@ namespace idrova {
 
 namespace {
 
-constexpr const char* kNotSettledStyle =
-    "QToolButton { background-color: #b3261e; color: white; font-weight: bold; padding: 2px 6px; }";
+/// By `OutcomeGround`.
+constexpr const char* kGrounds[] = {
+    "", "QToolButton { background-color: #ffbf00; color: black; padding: 2px 6px; }",
+    "QToolButton { background-color: #b3261e; color: white; font-weight: bold; padding: 2px 6px; "
+    "}"};
 
 QString ModeText(WorkMode mode) {
     switch (mode) {
@@ -44,7 +47,6 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     fluid_->setTextFormat(Qt::PlainText);
     for (QLabel* label : {fluid_, mode_}) label->setContentsMargins(8, 0, 8, 0);
     outcomeButton_->setAutoRaise(true);
-    outcomeButton_->setToolTip("Show all notes on the last computation");
     outcomeButton_->hide();
     QObject::connect(outcomeButton_, &QToolButton::clicked, outcomeButton_,
                      [this] { ShowNotes(); });
@@ -65,8 +67,10 @@ void StatusLine::ShowState(const Settings& settings, const Outcome* outcome) {
 
 void StatusLine::ShowOutcome(const Outcome& outcome) {
     outcome_ = outcome;
-    outcomeButton_->setText(ToQt(OutcomeLine(outcome)));
-    const QString style = IsTrustworthy(outcome.end) ? "" : kNotSettledStyle;
+    const OutcomeView view = idrova::ShowOutcome(outcome);
+    outcomeButton_->setText(ToQt(view.text));
+    outcomeButton_->setToolTip(ToQt(view.tip));
+    const QString style = kGrounds[static_cast<int>(view.ground)];
     if (outcomeButton_->styleSheet() != style) outcomeButton_->setStyleSheet(style);
     outcomeButton_->setVisible(!outcomeButton_->text().isEmpty());
 }
