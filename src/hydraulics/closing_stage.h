@@ -11,9 +11,8 @@ namespace idrova {
 /// Where Newton's method ended on all laws at once.
 struct ClosingStage {
     int passes = 0;
-    double misfit = 0;      ///< root of the summed squares of the laws, Pa; infinite when the
-                            ///< solution is not finite
-    bool singular = false;  ///< the laws' tangents have no single solution
+    double misfit = 0;  ///< root of the summed squares of the laws, Pa; infinite when the solution
+                        ///< is not finite
     Solution solution;
 };
 

@@ -12,6 +12,7 @@ namespace {
 constexpr double kRegimeThreshold = 5000;
 constexpr int kMaxFrictionPasses = 1000;
 constexpr double kFrictionTolerance = 1e-5;
+constexpr double kPerLog = 4 / std::numbers::ln10;  ///< 4 log10(x) over ln(x)
 
 double ExplicitArgument(double reynolds, double relativeRoughness) {
     return 10 / reynolds + 0.2 * relativeRoughness;
@@ -28,12 +29,13 @@ double ExplicitFactor(double reynolds, double relativeRoughness) {
 double ColebrookFactor(double reynolds, double relativeRoughness) {
     // The natural logarithm only sets where the iteration starts; it converges all the same.
     double f = InverseSquare(3.8 * std::log(ExplicitArgument(reynolds, relativeRoughness)));
+    const double rough = 2 * relativeRoughness;
+    const double smooth = 9.35 / reynolds;
     for (int pass = 1; pass <= kMaxFrictionPasses; ++pass) {
-        const double argument = 2 * relativeRoughness + 9.35 / (reynolds * std::sqrt(f));
-        const double next = InverseSquare(3.48 - 4 * Log10(argument));
-        const double change = std::abs(f - next) / f;
+        const double next = InverseSquare(3.48 - kPerLog * std::log(rough + smooth / std::sqrt(f)));
+        const bool settled = std::abs(f - next) < kFrictionTolerance * f;
         f = (f + next) / 2;
-        if (change < kFrictionTolerance) return f;
+        if (settled) return f;
     }
     return ExplicitFactor(reynolds, relativeRoughness);
 }

@@ -5,19 +5,11 @@
 #include <utility>
 
 #include "hydraulics/closing_stage.h"
-#include "hydraulics/loose_part.h"
 #include "hydraulics/solution_check.h"
+#include "hydraulics/unique_solution.h"
 
 namespace idrova {
 namespace {
-
-/// A pipe whose flow and both pressures are given leaves another value open.
-bool HasOverdeterminedPipe(const WorkNetwork& work) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (IsOverdetermined(work, i)) return true;
-    }
-    return false;
-}
 
 /// Solving only reproduces what is given to its last digits.
 void KeepGivenValues(const NetworkPlan& plan, const WorkNetwork& work, Solution& solution) {
@@ -50,7 +42,7 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
                          const FlowGuesses& start, const PassReport& report) {
     FirstStage first = RunFirstStage(settings, plan, work, start, report);
     StageResult result;
-    const bool singular = PipeWithoutGivenPressure(plan, work) != 0 || HasOverdeterminedPipe(work);
+    const bool unique = HasUniqueSolution(settings, plan, work);
     int passes = 0;
     bool closed = false;
     double misfit = 0;
@@ -61,12 +53,11 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
         closed = true;
         misfit = closing.misfit;
         result = Checked(settings, plan, work, std::move(closing.solution));
-        result.singular = closing.singular;
     };
-    if (!singular && first.settled) close(first.solution);
-    if (!singular && !result.settled) close(PlainStart(settings, plan, work));
+    if (unique && first.settled) close(first.solution);
+    if (unique && !result.settled) close(PlainStart(settings, plan, work));
     if (!closed) result = Checked(settings, plan, work, std::move(first.solution));
-    result.singular = result.singular || singular;
+    result.singular = !unique;
     result.passes = {first.passes, passes};
     return result;
 }

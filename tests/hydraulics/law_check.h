@@ -128,9 +128,10 @@ class LawCheck {
         const double misfit = toB * (Pressure(a.first) - Pressure(b.first)) - fall;
         // A steep curve shows the rounding of the flow.
         const double rounding = 3e-7 * (std::abs(fall) + std::abs(cell.Param1) * flow * flow);
-        const bool steep = cell.Kind == CellKind::Loss && cell.Param2 != 0;
-        Hold("component ", number, misfit,
-             PressureTolerance() + rounding + (steep ? 1e-6 * std::abs(cell.Param2) : 0));
+        const bool fixedDrop = cell.Kind == CellKind::Loss && cell.Param2 != 0;
+        // The little flow at which it holds may have been taken for none.
+        const double steep = fixedDrop ? (flow == 0 ? 1 : 1e-6) * std::abs(cell.Param2) : 0;
+        Hold("component ", number, misfit, PressureTolerance() + rounding + steep);
     }
 
     static double Rise(const CellRec& pump, double flow) {

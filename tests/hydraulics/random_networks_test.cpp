@@ -6,7 +6,9 @@
 #include <random>
 #include <string>
 
+#include "hydraulics/closing_stage.h"
 #include "hydraulics/law_check.h"
+#include "hydraulics/solve_network.h"
 #include "support/network_run.h"
 
 namespace idrova {
@@ -14,15 +16,14 @@ namespace {
 
 using testing::IsEmpty;
 
-constexpr double kWater = 0.001;  ///< Pa s
+constexpr double kGas = 0;  ///< in the place of a liquid's viscosity
 
 /// A plant drawn at random: a tree, loops, parallel pipes, heights, pumps and losses; at each loose
-/// end a pressure or a flow is given. Now and then the given values stand anywhere, so that the
-/// system may be singular.
+/// end a pressure or a flow is given, of a liquid of some viscosity in Pa s or of air. Every eighth
+/// has the given values anywhere, so that the system may be singular.
 class RandomNetwork {
   public:
-    RandomNetwork(std::uint32_t seed, double viscosity) : random_(seed) {
-        gas_ = Chance(4) && viscosity == kWater;
+    RandomNetwork(std::uint32_t seed, double viscosity) : random_(seed), gas_(viscosity == kGas) {
         network->settings.FluidViscosity = viscosity;
         level_ = gas_ || Chance(2);
         vertical_ = Chance(2);
@@ -31,7 +32,7 @@ class RandomNetwork {
         for (int i = 1; i <= points; ++i) AddPoint(i);
         for (int i = 2; i <= points; ++i) Connect(Whole(1, i - 1), i);
         for (int i = Whole(0, points / 2); i > 0; --i) Connect(Whole(1, points), Whole(1, points));
-        const bool anywhere = Chance(8);
+        const bool anywhere = seed % 8 == 0;
         for (int i = 1; i <= network->numtubo; ++i) {
             const PipeRec ends = network->Pipes[i];
             for (const int end : {ends.StartPoint, ends.EndPoint}) {
@@ -72,9 +73,12 @@ class RandomNetwork {
         cell.Direction = static_cast<Delivery>(vertical_ ? Whole(1, 2) * 2 : Whole(0, 1) * 2 + 1);
         if (cell.Kind == CellKind::Pump) {
             cell.Param1 = -Real(0, 5000);
+            cell.Param2 = Chance(2) ? Real(-1e4, 1e4) : 0;
             cell.PumpConstant = Real(1e4, 5e5);
+        } else if (Chance(4)) {
+            cell.Param2 = std::pow(10.0F, Real(0, 5));
         } else {
-            (Chance(4) ? cell.Param2 : cell.Param1) = Real(0, 20);
+            cell.Param1 = Real(0, 20);
         }
     }
 
@@ -103,36 +107,56 @@ class RandomNetwork {
     std::map<int, std::int16_t> height_;
 };
 
-/// What the flows of two runs differ by, of the largest.
-double Apart(const NetworkRun& run, const NetworkRun& other) {
-    double largest = 0;
-    double apart = 0;
-    for (int i = 1; i <= run.work->WorkPipeCount; ++i) {
-        largest = std::max(largest, std::abs(run.Flow(i)));
-        apart = std::max(apart, std::abs(run.Flow(i) - other.Flow(i)));
-    }
-    return apart / std::max(largest, 1e-30);
+/// Holds the solutions from both ways into the closing stage against each other, before anything
+/// is rounded: flows by the largest flow, pressures by the largest difference of two.
+void ExpectOneSolution(const NetworkBuilder& drawn) {
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*drawn, *work);
+    const NetworkPlan plan = PlanNetwork(*work);
+    FlowGuesses guesses{};
+    guesses.fill(3);
+    const auto noReport = [](int, double) {};
+    const Solution solution =
+        SolveNetwork(drawn->settings, plan, *work, guesses, noReport).solution;
+    const ClosingStage other =
+        RunClosingStage(drawn->settings, plan, *work, PlainStart(drawn->settings, plan, *work));
+    const auto expectSame = [&](const auto& unknowns, bool byDifference) {
+        double low = byDifference ? 1e30 : 0;
+        double high = 0;
+        double apart = 0;
+        for (const int unknown : unknowns) {
+            if (unknown == 0) continue;
+            const double value = solution.values[unknown];
+            low = std::min(low, value);
+            high = std::max(high, value);
+            apart = std::max(apart, std::abs(value - other.solution.values[unknown]));
+        }
+        EXPECT_LE(apart, 1e-7 * (high - low) + 1e-9) << "the start can be seen";
+    };
+    expectSame(plan.flowUnknown, false);
+    expectSame(plan.pressureUnknown, true);
 }
 
 TEST(RandomNetworks, EndWithTheOneSolutionOrSayWhyNot) {
     std::map<RunEnd, int> ends;
-    for (const double viscosity : {kWater, 0.01, 0.05, 0.2, 1.0}) {
-        for (std::uint32_t seed = 1; seed <= 200; ++seed) {
-            SCOPED_TRACE(testing::Message() << "seed " << seed << ", " << viscosity << " Pa s");
-            RandomNetwork drawn(seed, viscosity);
+    for (const double viscosity : {kGas, 0.001, 0.01, 0.05, 0.2, 1.0}) {
+        for (std::uint32_t seed = 1; seed <= 202; ++seed) {
+            // The last two have bends that only a very small share of a step takes.
+            const std::uint32_t drawing = seed == 201 ? 390 : seed == 202 ? 1402 : seed;
+            SCOPED_TRACE(testing::Message() << "seed " << drawing << ", " << viscosity << " Pa s");
+            const RandomNetwork drawn(drawing, viscosity);
             const NetworkRun run(drawn.network, seed);
             const RunEnd end = run.outcome.end;
             ++ends[end];
+            EXPECT_TRUE(viscosity == kGas || end != RunEnd::Unsettled);
             if (end != RunEnd::Settled) continue;
             EXPECT_THAT(LawCheck(*drawn.network, *run.work).Faults(), IsEmpty());
-            RandomNetwork same(seed, viscosity);
-            const NetworkRun other(same.network, seed + 1000);
-            EXPECT_LE(Apart(run, other), 2e-7) << "the start values can be seen";
+            ExpectOneSolution(drawn.network);
         }
     }
-    EXPECT_GT(ends[RunEnd::Settled], 840);
+    EXPECT_GT(ends[RunEnd::Settled], 980);
     EXPECT_GT(ends[RunEnd::Singular], 100);
-    EXPECT_LE(ends[RunEnd::Unsettled], 2) << "gases that would fall below a vacuum";
+    EXPECT_LE(ends[RunEnd::Unsettled], 20) << "gases that would fall below a vacuum";
 }
 
 }  // namespace

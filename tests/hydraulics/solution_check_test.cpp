@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/solution_check.h"
+
+#include <gtest/gtest.h>
+
+#include "hydraulics/run_results.h"
+#include "hydraulics/solve_network.h"
+#include "hydraulics/unique_solution.h"
+#include "support/network_run.h"
+
+namespace idrova {
+namespace {
+
+/// A network with its solution, which a test then bends.
+struct Solved {
+    explicit Solved(const NetworkBuilder& network) : settings(network->settings) {
+        CopyNetwork(*network, *work);
+        plan = PlanNetwork(*work);
+        FlowGuesses guesses{};
+        guesses.fill(1);
+        result = SolveNetwork(settings, plan, *work, guesses, [](int, double) {});
+    }
+
+    double Pressure(int point) const { return result.Pressure(plan, point); }
+
+    StageResult Check() const {
+        StageResult checked;
+        checked.solution = result.solution;
+        CheckSolution(settings, plan, *work, checked);
+        return checked;
+    }
+
+    Settings settings;
+    std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
+    NetworkPlan plan;
+    StageResult result;
+};
+
+TEST(SolutionCheck, FindsAJunctionOutOfBalance) {
+    Solved solved(LoopedNetwork(3, 2));
+    ASSERT_TRUE(solved.Check().settled);
+    const double largest = 1;  // what both consumers take together
+    const double flow = solved.result.Flow(solved.plan, 1);
+    for (const double share : {-3e-9, -3e-10, 3e-10, 3e-9}) {
+        solved.result.SetFlow(solved.plan, 1, flow + share * largest);
+        const bool holds = std::abs(share) < 1e-9;
+        EXPECT_EQ(solved.Check().balanced, holds) << share;
+        EXPECT_EQ(solved.Check().settled, holds) << share;
+        EXPECT_TRUE(solved.Check().pipes[1].settled);
+    }
+}
+
+/// A valve between two pipes that lose 1 bar, 3 bar above nothing: 0.4 Pa is what they may be off.
+TEST(SolutionCheck, FindsAComponentAndAPipeThatAreOff) {
+    NetworkBuilder network = CutPipe(CellKind::Loss);
+    network->Cells[network->Points[2].Cell].Param2 = 20000;
+    network.SetPressure(1, 3e5F);
+    network.SetPressure(4, 2e5F);
+    Solved solved(network);
+    ASSERT_TRUE(solved.Check().settled);
+    const double drop = solved.Pressure(3) - solved.Pressure(4);
+    const double tolerance = 1e-6 * drop + 1e-9 * 3e5;
+    const Solution solution = solved.result.solution;
+    for (const double share : {0.5, 5.0}) {
+        const bool holds = share < 1;
+        solved.result.solution = solution;
+        for (const int point : {1, 2}) {  // pipe 1 goes along
+            solved.result.solution.values[solved.plan.pressureUnknown[point]] += share * tolerance;
+        }
+        StageResult checked = solved.Check();
+        EXPECT_EQ(checked.settled, holds);
+        EXPECT_EQ(checked.unsettledComponents.empty(), holds);
+        EXPECT_TRUE(checked.pipes[1].settled);
+        solved.result.solution.values[solved.plan.pressureUnknown[2]] -= share * tolerance;
+        checked = solved.Check();
+        EXPECT_EQ(checked.settled, holds);
+        EXPECT_EQ(checked.pipes[1].settled, holds);
+    }
+}
+
+/// A pipe without flow, its ends level by their heads but 10 m apart in height, beside another one
+/// from 3 to 2 bar.
+TEST(ZeroFlows, AreCleanedUpByHeadAndFlow) {
+    NetworkBuilder network(4);
+    network->Pipes[network.AddPipe(1, 2)].Z1 = 10;
+    network.AddPipe(3, 4);
+    network.SetPressure(1, 2e5F);
+    network.SetPressure(2, 2e5F + 98100);
+    network.SetPressure(3, 3e5F);
+    network.SetPressure(4, 2e5F);
+    Solved solved(network);
+    const double largest = solved.result.Flow(solved.plan, 2);
+    const auto cleanedUp = [&](double flow, double headShare, bool known = false) {
+        StageResult result = solved.result;
+        result.SetFlow(solved.plan, 1, flow);
+        result.solution.values[solved.plan.pressureUnknown[2]] += headShare * 298100;
+        solved.work->WorkFlowUnknown[1] = !known;
+        CleanUpZeroFlows(solved.settings, solved.plan, *solved.work, result);
+        EXPECT_EQ(result.Flow(solved.plan, 2), largest);
+        return result.Flow(solved.plan, 1) == 0;
+    };
+    EXPECT_TRUE(cleanedUp(0.5e-8 * largest, 0));
+    EXPECT_TRUE(cleanedUp(-0.5e-8 * largest, 0.5e-5));
+    EXPECT_FALSE(cleanedUp(5e-8 * largest, 0));
+    EXPECT_FALSE(cleanedUp(-5e-8 * largest, 0));
+    EXPECT_FALSE(cleanedUp(0.5e-8 * largest, 3e-5));
+    EXPECT_FALSE(cleanedUp(0.5e-8 * largest, -3e-5));
+    EXPECT_FALSE(cleanedUp(0.5e-8 * largest, 0, true));
+}
+
+/// Three pipes round and a branch to them.
+NetworkBuilder Loop() {
+    NetworkBuilder network(4);
+    for (int i = 1; i <= 3; ++i) network.AddPipe(i, i % 3 + 1, 1, 0.3F);
+    network.AddPipe(4, 1);
+    return network;
+}
+
+bool IsUnique(const NetworkBuilder& network) {
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*network, *work);
+    return HasUniqueSolution(network->settings, PlanNetwork(*work), *work);
+}
+
+TEST(UniqueSolution, IsSeenFromWhatIsJoinedAndGiven) {
+    NetworkBuilder network = Loop();
+    network.SetPressure(4, 2e5F);
+    EXPECT_TRUE(IsUnique(network));
+    network = Loop();
+    network.SetFlow(4, 0);  // no pressure has a level
+    EXPECT_FALSE(IsUnique(network));
+    for (const int end : {4, 2}) {
+        network = Loop();
+        network.AddPipe(2, network.AddPoint(9, 9));
+        network.AddPipe(3, network.AddPoint(9, 8));
+        network.SetPressure(4, 2e5F);
+        network.SetFlow(5, 1);
+        network.SetPressure(end == 4 ? 6 : end, 1e5F);
+        // A flow that was given twice leaves the open end beyond point 3 without any.
+        if (end == 2) network.SetFlow(4, 1);
+        EXPECT_EQ(IsUnique(network), end == 4);
+    }
+}
+
+/// Air behind a fixed drop that holds it still: next to the pipes round, that drop resists 10^16
+/// times as much, and the network has one solution all the same.
+TEST(UniqueSolution, DoesNotDependOnHowUnlikeTheResistancesAre) {
+    NetworkBuilder network = CutPipe(CellKind::Loss);
+    network->Cells[network->Points[2].Cell].Param2 = 1e5F;
+    MakeAir(*network);
+    for (const int row : {3, 7}) network.AddPoint(8, row);
+    network.AddPipe(4, 5, 0.1F, 0.5F);
+    network.AddPipe(5, 6, 0.1F, 0.5F);
+    network.AddPipe(6, 4, 0.1F, 0.5F);
+    network.SetPressure(1, 2e5F);
+    const NetworkRun run(network);
+    EXPECT_EQ(run.outcome.end, RunEnd::Settled);
+    for (int i = 1; i <= 5; ++i) EXPECT_EQ(run.Flow(i), 0);
+}
+
+}  // namespace
+}  // namespace idrova
