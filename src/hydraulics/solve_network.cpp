@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hydraulics/solve_network.h"
 
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -54,8 +55,11 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
         misfit = closing.misfit;
         result = Checked(settings, plan, work, std::move(closing.solution));
     };
-    if (unique && first.settled) close(first.solution);
-    if (unique && !result.settled) close(PlainStart(settings, plan, work));
+    std::array starts = {first.solution, PlainStart(settings, plan, work)};
+    if (!first.settled) std::swap(starts[0], starts[1]);
+    for (const Solution& from : starts) {
+        if (unique && !result.settled) close(from);
+    }
     if (!closed) result = Checked(settings, plan, work, std::move(first.solution));
     result.singular = !unique;
     result.passes = {first.passes, passes};

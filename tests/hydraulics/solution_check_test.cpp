@@ -129,6 +129,14 @@ TEST(UniqueSolution, IsSeenFromWhatIsJoinedAndGiven) {
     network = Loop();
     network.SetFlow(4, 0);  // no pressure has a level
     EXPECT_FALSE(IsUnique(network));
+    for (int side = 3; side <= 7; ++side) {  // the same, where the pivots leave rounding
+        network = LoopedNetwork(side, 2);
+        const int source = side * side + 1;
+        EXPECT_TRUE(IsUnique(network));
+        network->PressureUnknown[source] = true;
+        network.SetFlow(2 * side * (side - 1) + 1, 1);
+        EXPECT_FALSE(IsUnique(network));
+    }
     for (const int end : {4, 2}) {
         network = Loop();
         network.AddPipe(2, network.AddPoint(9, 9));
