@@ -108,7 +108,7 @@ class Studio {
 
     void Compute() {
         Press("Command1");
-        const Outcome& outcome = program_->outcomes[program_->project.settings.Mode];
+        const Outcome& outcome = program_->records[program_->project.settings.Mode].outcome;
         if (outcome.end != RunEnd::Settled) throw std::runtime_error("not settled");
     }
 
@@ -266,7 +266,7 @@ int main(int argc, char* argv[]) {
         std::cerr << "take_pictures DATA OUTPUT\n";
         return 2;
     }
-    idrova::SetDecimalPoint();
+    idrova::PrepareInput();
     QApplication::setWindowIcon(idrova::LogoIcon());
     try {
         for (const auto take :

@@ -12,7 +12,10 @@ namespace idrova {
 bool IsTrustworthy(RunEnd end);
 
 /// The ground that the status bar gives an outcome.
-enum class OutcomeGround { Plain, Noted, Faulty };
+enum class OutcomeGround { Plain, Noted, Faulty, Old };
+
+/// Whether results still belong to what they were computed from.
+enum class ResultAge { Current, OutOfDate };
 
 /// What the status bar shows of an outcome.
 struct OutcomeView {
@@ -21,7 +24,7 @@ struct OutcomeView {
     OutcomeGround ground = OutcomeGround::Plain;
 };
 
-OutcomeView ShowOutcome(const Outcome& outcome);
+OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age);
 
 /// The outcome of a computation with all its notes, one to a line.
 MessageBox OutcomeNotes(const Outcome& outcome);

@@ -9,11 +9,11 @@
 
 #include "base/message_boxes.h"
 #include "editor/editor_state.h"
-#include "hydraulics/compute_network.h"
 #include "hydraulics/work_network.h"
 #include "model/project.h"
 #include "physdata/component_lists.h"
 #include "physdata/fluids.h"
+#include "results/run_record.h"
 #include "shell/shell_state.h"
 #include "table/table_columns.h"
 #include "table/table_texts.h"
@@ -41,8 +41,8 @@ struct Program {
     ComponentLists components;
     Editor editor;
     ShellState shell;
-    std::map<WorkMode, Outcome> outcomes;  ///< of the last computation in each mode
-    std::string report;                    ///< of the last computation that wrote one
+    std::map<WorkMode, RunRecord> records;  ///< of the last computation in each mode
+    std::string report;                     ///< of the last computation that wrote one
 
     /// Brings every window, check mark, panel and the status bar up to date with what stands here.
     /// Called once after every change, when all is whole.

@@ -41,11 +41,15 @@ TEST(OutcomeNotes, WordsAndGroundTellWhetherToTrust) {
         {{.end = RunEnd::Empty}, "Nothing to compute", "", OutcomeGround::Plain},
     };
     for (const auto& c : cases) {
-        const OutcomeView view = ShowOutcome(c.outcome);
+        const OutcomeView view = ShowOutcome(c.outcome, ResultAge::Current);
         EXPECT_EQ(view.text, c.text);
         EXPECT_EQ(view.ground, c.ground) << c.text;
         EXPECT_EQ(EffortText(c.outcome), c.effort);
         EXPECT_TRUE(view.tip.starts_with(c.effort));
+        const OutcomeView old = ShowOutcome(c.outcome, ResultAge::OutOfDate);
+        EXPECT_EQ(old.text, "Changed since the computation");
+        EXPECT_EQ(old.ground, OutcomeGround::Old);
+        EXPECT_TRUE(old.tip.starts_with(c.text));
     }
     const MessageBox all = OutcomeNotes(cases[2].outcome);
     EXPECT_EQ(all, MessageBox("Computed, 2 notes\nMind the step\nMind the step", "Computation",

@@ -48,6 +48,11 @@ TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
                 testing::ContainsRegex("^[0-9]+ \\+ [0-9]+ passes, "));
     EXPECT_FALSE(IsMarked());
     EXPECT_EQ(mdi->findChild<QWidget*>("FrmAva"), nullptr);
+    Do("Text6=120");
+    EXPECT_EQ(outcome.text(), "Changed since the computation");
+    EXPECT_TRUE(IsMarked());
+    Do("Text6=100");
+    EXPECT_EQ(outcome.text(), "Computed") << "as it was computed";
     const std::string first = Stored();
     EXPECT_NE(first.find("RESULTS CALCULATION"), std::string::npos);
     EXPECT_EQ(program->report, first) << "what is printed is what is stored";

@@ -81,7 +81,7 @@ TEST_F(WholeJob, DrawsDescribesComputesAndReports) {
     ASSERT_EQ(project.npres, 10);
 
     Do("Command1");
-    const Outcome& outcome = program->outcomes[WorkMode::Graphic];
+    const Outcome& outcome = program->records[WorkMode::Graphic].outcome;
     EXPECT_EQ(outcome.end, RunEnd::Settled) << OutcomeLine(outcome);
     const std::vector<std::string> report = Words(FileBytes(folder / "out.dat"));
     ASSERT_GT(report.size(), 100U);

@@ -24,7 +24,7 @@ void TakeDrawing(MDI& mdi) {
     Program& program = mdi.State();
     CompletePumpConstants(program.project, program.components.pumps);
     RedrawProject(program.project, program.editor);
-    program.outcomes.erase(WorkMode::Graphic);
+    program.records.erase(WorkMode::Graphic);
     mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
     const std::string_view window = ViewOf(program.project.settings.Mode).window;
     if (mdi.Windows().Find(window) == nullptr) mdi.OpenModeWindow();
@@ -38,7 +38,7 @@ void TakeNetwork(MDI& mdi, NetworkChange change) {
     program.table = TableTexts();
     FillTable(program.project, program.table);
     program.tableModel.StartAnew();
-    program.outcomes.erase(WorkMode::Table);
+    program.records.erase(WorkMode::Table);
     TakeDrawing(mdi);
     const bool isTable = program.project.numtubo == 0 && CountTableRows(program.project) > 0;
     if (isTable && isDrawn) mdi.statusBar()->showMessage(kProjectIsTable);

@@ -110,14 +110,21 @@ void MDI::OpenModeWindow() {
 
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
-    const auto outcome = program_.outcomes.find(settings.Mode);
     menu_->ShowChecks(settings, program_.shell);
     panel_->ShowState();
-    statusLine_->ShowState(settings,
-                           outcome == program_.outcomes.end() ? nullptr : &outcome->second);
+    statusLine_->ShowSettings(settings);
+    ShowOutcome();
     hints_->ShowState();
     ShowTitle();
     if (ChildWindow* window = windows_->Find(ViewOf(settings.Mode).window)) window->ShowState();
+}
+
+void MDI::ShowOutcome() {
+    const auto record = program_.records.find(program_.project.settings.Mode);
+    if (record == program_.records.end()) return statusLine_->HideOutcome();
+    const RunRecord& run = record->second;
+    const bool current = run.inputs == InputsOf(program_.project);
+    statusLine_->ShowOutcome(run.outcome, current ? ResultAge::Current : ResultAge::OutOfDate);
 }
 
 void MDI::TakeEdits() {

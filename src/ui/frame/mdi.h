@@ -47,6 +47,7 @@ class MDI : public QMainWindow {
 
   private:
     void PlaceOnScreen();
+    void ShowOutcome();
     void ShowTitle();
 
     Program& program_;

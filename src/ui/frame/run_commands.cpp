@@ -2,6 +2,7 @@
 #include "ui/frame/run_commands.h"
 
 #include <optional>
+#include <utility>
 
 #include "hydraulics/run_settings.h"
 #include "shell/run_command.h"
@@ -33,7 +34,10 @@ Outcome Compute(MDI& mdi) {
 void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
-    program.outcomes[program.project.settings.Mode] = Compute(mdi);
+    // A base pressure that the run has offered counts from the next one.
+    RunRecord record{InputsOf(program.project), {}};
+    record.outcome = Compute(mdi);
+    program.records[program.project.settings.Mode] = std::move(record);
     mdi.ShowState();
 }
 

@@ -18,7 +18,8 @@ namespace {
 constexpr const char* kGrounds[] = {
     "", "QToolButton { background-color: #ffbf00; color: black; padding: 2px 6px; }",
     "QToolButton { background-color: #b3261e; color: white; font-weight: bold; padding: 2px 6px; "
-    "}"};
+    "}",
+    "QToolButton { background-color: #b0b0b0; color: black; padding: 2px 6px; }"};
 
 QString ModeText(WorkMode mode) {
     switch (mode) {
@@ -55,19 +56,18 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     bar.addPermanentWidget(mode_);
 }
 
-void StatusLine::ShowState(const Settings& settings, const Outcome* outcome) {
+void StatusLine::ShowSettings(const Settings& settings) {
     mode_->setText("Mode: " + ModeText(settings.Mode));
     fluid_->setText(FluidText(settings));
-    if (outcome != nullptr) {
-        ShowOutcome(*outcome);
-    } else {
-        outcomeButton_->hide();
-    }
 }
 
-void StatusLine::ShowOutcome(const Outcome& outcome) {
+void StatusLine::HideOutcome() {
+    outcomeButton_->hide();
+}
+
+void StatusLine::ShowOutcome(const Outcome& outcome, ResultAge age) {
     outcome_ = outcome;
-    const OutcomeView view = idrova::ShowOutcome(outcome);
+    const OutcomeView view = idrova::ShowOutcome(outcome, age);
     outcomeButton_->setText(ToQt(view.text));
     outcomeButton_->setToolTip(ToQt(view.tip));
     const QString style = kGrounds[static_cast<int>(view.ground)];

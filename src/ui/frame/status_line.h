@@ -6,6 +6,7 @@
 #include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 #include "model/settings.h"
+#include "shell/outcome_notes.h"
 
 class QLabel;
 class QStatusBar;
@@ -21,11 +22,12 @@ class StatusLine {
     StatusLine(const StatusLine&) = delete;
     StatusLine& operator=(const StatusLine&) = delete;
 
-    /// `outcome` is null when nothing has been computed in this mode.
-    void ShowState(const Settings& settings, const Outcome* outcome);
+    void ShowSettings(const Settings& settings);
+    void ShowOutcome(const Outcome& outcome, ResultAge age);
+    /// Nothing has been computed in this mode.
+    void HideOutcome();
 
   private:
-    void ShowOutcome(const Outcome& outcome);
     void ShowNotes();
 
     MessageBoxes& boxes_;

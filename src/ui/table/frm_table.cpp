@@ -17,6 +17,7 @@ FrmTable::FrmTable(Program& program)
     FillTable(program.project, program.table);
     model_.ShowState();
     StayOnEscape();
+    connect(&model_, &TableModel::dataChanged, this, [&program] { program.changed(); });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(TxtTab);

@@ -197,7 +197,7 @@ void FrmSin::Recompute() {
     const SinglePipeResult result =
         RunSinglePipe(pipe_, program_.project.settings, program_.work,
                       {.boxes = program_.boxes, .writeReport = writeReport});
-    program_.outcomes[WorkMode::SinglePipe] = result.outcome;
+    program_.records[WorkMode::SinglePipe] = {InputsOf(program_.project), result.outcome};
     program_.changed();
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }

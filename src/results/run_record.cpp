@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/run_record.h"
+
+#include <cmath>
+
+namespace idrova {
+namespace {
+
+Settings InputsOf(const Settings& settings) {
+    Settings inputs;
+    inputs.Mode = settings.Mode;
+    if (settings.Mode != WorkMode::SinglePipe) inputs.SectionType = settings.SectionType;
+    inputs.Roughness = settings.Roughness;
+    inputs.EquationType = settings.EquationType;
+    inputs.FluidDensity = settings.FluidDensity;
+    inputs.FluidViscosity = settings.FluidViscosity;
+    if (settings.EquationType == Equation::Incompressible) return inputs;
+    inputs.FluidCompressibility = settings.FluidCompressibility;
+    inputs.FluidTemperature = settings.FluidTemperature;
+    inputs.BasePressure = settings.BasePressure;
+    return inputs;
+}
+
+RunInputs::Pipe InputsOf(const Project& project, int number) {
+    PipeRec pipe = project.Pipes[number];
+    const bool unknown = project.FlowUnknown[number];
+    if (project.settings.SectionType == Section::Circular) pipe.OuterSize = 0;
+    // The reference end tells the direction of a given flow; of others the sign of the result.
+    if (unknown) pipe.FlowFromPoint = 0;
+    pipe.FlowRate = unknown ? 0 : std::abs(pipe.FlowRate);
+    return {number, pipe, unknown};
+}
+
+void AddDrawing(const Project& project, RunInputs& inputs) {
+    for (int i = 1; i <= project.numtubo; ++i) {
+        if (project.Pipes[i].IsDrawn()) inputs.pipes.push_back(InputsOf(project, i));
+    }
+    for (int i = 1; i <= project.npres; ++i) {
+        const PointRec& point = project.Points[i];
+        if (!point.IsDrawn()) continue;
+        const bool unknown = project.PressureUnknown[i];
+        inputs.points.push_back({i, point.Cell, unknown ? 0 : point.Pressure, unknown});
+    }
+    for (int cell = 1; cell <= project.CellCount(); ++cell) {
+        if (!project.Cells[cell].IsComponent()) continue;
+        CellRec record = project.Cells[cell];
+        record.Result = 0;
+        record.Name.clear();
+        inputs.components.push_back({cell, record});
+    }
+}
+
+}  // namespace
+
+RunInputs InputsOf(const Project& project) {
+    RunInputs inputs;
+    inputs.settings = InputsOf(project.settings);
+    if (project.settings.Mode == WorkMode::Graphic) AddDrawing(project, inputs);
+    if (project.settings.Mode == WorkMode::Table) {
+        inputs.rows.assign(project.TableRows.begin(), project.TableRows.end());
+    }
+    return inputs;
+}
+
+}  // namespace idrova

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/run_record.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "support/networks.h"
+
+namespace idrova {
+namespace {
+
+TEST(RunRecord, ResultsAreOutOfDateWhenWhatTheyDependOnDiffers) {
+    using Change = std::function<void(Project&)>;
+    const struct {
+        Change change;
+        bool outOfDate;
+        const char* what;
+    } cases[] = {
+        {[](auto& p) { p.Pipes[2].FlowRate = -3; }, false, "a computed flow"},
+        {[](auto& p) { p.Pipes[2].FlowFromPoint = 3; }, false, "its reference end"},
+        {[](auto& p) { p.Points[2].Pressure = 5; }, false, "a computed pressure"},
+        {[](auto& p) { p.Cells[7].Result = 5, p.Cells[7].Name = "Other"; }, false, "a result"},
+        {[](auto& p) { p.settings.BasePressure = 5; }, false, "a liquid's base pressure"},
+        {[](auto& p) { p.settings.FluidTemperature = 5; }, false, "a liquid's temperature"},
+        {[](auto& p) { p.settings.PressureUnit = Unit::MilliBar; }, false, "the unit"},
+        {[](auto& p) { p.settings.FluidName = "Wine"; }, false, "the name"},
+        {[](auto& p) { p.Pipes[1].OuterSize = 1; }, false, "the outer diameter"},
+        {[](auto& p) { p.TableRows[2].RowLength = 1; }, false, "the table"},
+        {[](auto& p) { p.Pipes[1].FlowRate = 3; }, true, "a given flow"},
+        {[](auto& p) { p.Pipes[1].FlowFromPoint = 2; }, true, "its direction"},
+        {[](auto& p) { p.FlowUnknown[2] = false; }, true, "which flows are given"},
+        {[](auto& p) { p.Points[1].Pressure = 5; }, true, "a given pressure"},
+        {[](auto& p) { p.PressureUnknown[2] = false; }, true, "which pressures are given"},
+        {[](auto& p) { p.Pipes[1].Z2 = 5; }, true, "a height"},
+        {[](auto& p) { p.Pipes[2].Length = 5; }, true, "a length"},
+        {[](auto& p) { p.Pipes[2].X1 = kDeleted; }, true, "a pipe deleted"},
+        {[](auto& p) { p.Cells[7].Param1 = 5; }, true, "a component"},
+        {[](auto& p) { p.Cells[7].Placed = false; }, true, "a component deleted"},
+        {[](auto& p) { p.settings.FluidDensity = 5; }, true, "the density"},
+        {[](auto& p) { p.settings.FluidViscosity = 5; }, true, "the viscosity"},
+        {[](auto& p) { p.settings.Roughness = 5; }, true, "the roughness"},
+        {[](auto& p) { p.settings.SectionType = Section::Rectangular; }, true, "the section"},
+        {[](auto& p) { p.settings.EquationType = Equation::Compressible; }, true, "the equation"},
+        {[](auto& p) { p.settings.Mode = WorkMode::Table; }, true, "the mode"},
+    };
+    for (const auto& c : cases) {
+        NetworkBuilder network(3);
+        network.SetFlow(network.AddPipe(1, 2), 1);
+        network.AddPipe(2, 3);
+        network.SetPressure(1, 1e5F);
+        network->Cells[7] = {.Name = "Pump", .Kind = CellKind::Pump, .Param1 = -1, .Placed = true};
+        const RunInputs before = InputsOf(*network);
+        c.change(*network);
+        EXPECT_EQ(InputsOf(*network) != before, c.outOfDate) << c.what;
+    }
+}
+
+TEST(RunRecord, AGasDependsOnTemperatureAndBasePressureATableOnItsRows) {
+    NetworkBuilder network;
+    Project& project = *network;
+    project.settings.EquationType = Equation::Compressible;
+    project.settings.Mode = WorkMode::Table;
+    const RunInputs before = InputsOf(project);
+    project.settings.BasePressure = 5;
+    EXPECT_NE(InputsOf(project), before);
+    project.settings.BasePressure = 0;
+    project.settings.FluidTemperature = 5;
+    EXPECT_NE(InputsOf(project), before);
+    project.settings.FluidTemperature = 0;
+    EXPECT_EQ(InputsOf(project), before);
+    project.TableRows[2].P1Given = true;
+    EXPECT_NE(InputsOf(project), before);
+}
+
+}  // namespace
+}  // namespace idrova
