@@ -33,28 +33,29 @@ QComboBox* List(const char* name, const QString& accessibleName) {
 ComponentsFrame::ComponentsFrame(PanelContext& context)
     : QGroupBox("Components"),
       context_(context),
-      Combo1(List("Combo1", "Kind of component")),
-      Combo3(List("Combo3", "Component")),
-      Command3(CommandButton("Command3", "Insert component", [this] { Command3_Click(); })),
-      Command2(CommandButton("Command2", "Roate pump", [this] { Command2_Click(); })),
-      Timer1(Named(new QTimer(this), "Timer1")) {
+      kinds_(List("Combo1", "Kind of component")),
+      names_(List("Combo3", "Component")),
+      insertButton_(CommandButton("Command3", "Insert component", [this] { Insert(); })),
+      turnButton_(CommandButton("Command2", "Roate pump", [this] { TurnPump(); })),
+      blinkTimer_(Named(new QTimer(this), "Timer1")) {
     Named(this, "Frame6");
-    Combo1->addItems({"Pump", "Concentrated loss      "});
-    OnChosen(*Combo1, [this](int position) { Combo1_Click(position); });
-    OnChosen(*Combo3, [this](int position) { Combo3_Click(position); });
-    Command3->setStatusTip("Then click the cell of a pipe");
-    Command2->setStatusTip("The selected pump delivers the other way round (R)");
-    Command2->setVisible(false);
-    Timer1->setInterval(kBlink);
-    connect(Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
+    kinds_->addItems({"Pump", "Concentrated loss      "});
+    OnChosen(*kinds_, [this](int position) { ChooseKind(position); });
+    OnChosen(*names_, [this](int position) { ChooseName(position); });
+    insertButton_->setStatusTip("Then click the cell of a pipe");
+    turnButton_->setStatusTip("The selected pump delivers the other way round (R)");
+    turnButton_->setVisible(false);
+    blinkTimer_->setInterval(kBlink);
+    connect(blinkTimer_, &QTimer::timeout, this, [this] { Blink(); });
     setLayout(new QVBoxLayout);
-    for (QWidget* control : {static_cast<QWidget*>(Combo1), static_cast<QWidget*>(Combo3),
-                             static_cast<QWidget*>(Command3), static_cast<QWidget*>(Command2)}) {
+    for (QWidget* control :
+         {static_cast<QWidget*>(kinds_), static_cast<QWidget*>(names_),
+          static_cast<QWidget*>(insertButton_), static_cast<QWidget*>(turnButton_)}) {
         layout()->addWidget(control);
     }
 }
 
-void ComponentsFrame::Combo1_Click(int position) {
+void ComponentsFrame::ChooseKind(int position) {
     Program& program = context_.program;
     const CellKind kind = position == 0 ? CellKind::Pump : CellKind::Loss;
     if (kind == program.editor.componentKind) return;
@@ -62,18 +63,18 @@ void ComponentsFrame::Combo1_Click(int position) {
     program.changed();
 }
 
-void ComponentsFrame::Combo3_Click(int position) {
+void ComponentsFrame::ChooseName(int position) {
     Program& program = context_.program;
     ChooseComponentAt(program.editor, program.components, position);
 }
 
-void ComponentsFrame::Command3_Click() {
+void ComponentsFrame::Insert() {
     Program& program = context_.program;
     ArmInsertion(program.editor, program.boxes);
     program.changed();
 }
 
-void ComponentsFrame::Command2_Click() {
+void ComponentsFrame::TurnPump() {
     Program& program = context_.program;
     TurnSelectedPump(program.project, program.editor);
     program.changed();
@@ -83,35 +84,35 @@ void ComponentsFrame::Show() {
     const Program& program = context_.program;
     ShowChoice();
     const CellRec& selected = program.project.Cells[program.editor.selectedComponent];
-    Command2->setVisible(selected.Placed && selected.Kind == CellKind::Pump);
+    turnButton_->setVisible(selected.Placed && selected.Kind == CellKind::Pump);
     if (!IsArmed(program.editor)) {
-        Timer1->stop();
+        blinkTimer_->stop();
         SetLit(false);
-    } else if (!Timer1->isActive()) {
-        Timer1->start();
+    } else if (!blinkTimer_->isActive()) {
+        blinkTimer_->start();
     }
 }
 
 void ComponentsFrame::ShowChoice() {
     const Editor& editor = context_.program.editor;
-    const QSignalBlocker silentKind(Combo1);
-    const QSignalBlocker silentNames(Combo3);
-    Combo1->setCurrentIndex(editor.componentKind == CellKind::Pump ? 0 : 1);
-    Combo3->clear();
+    const QSignalBlocker silentKind(kinds_);
+    const QSignalBlocker silentNames(names_);
+    kinds_->setCurrentIndex(editor.componentKind == CellKind::Pump ? 0 : 1);
+    names_->clear();
     for (const std::string& name :
          ComponentNames(context_.program.components, editor.componentKind)) {
-        Combo3->addItem(ToQt(name));
+        names_->addItem(ToQt(name));
     }
-    Combo3->setCurrentIndex(editor.componentPosition);
+    names_->setCurrentIndex(editor.componentPosition);
 }
 
-void ComponentsFrame::Timer1_Timer() {
+void ComponentsFrame::Blink() {
     SetLit(!lit_);
 }
 
 void ComponentsFrame::SetLit(bool lit) {
     lit_ = lit;
-    Command3->setStyleSheet(lit ? "background-color: #ffff00; color: black" : "");
+    insertButton_->setStyleSheet(lit ? "background-color: #ffff00; color: black" : "");
 }
 
 }  // namespace idrova

@@ -19,20 +19,20 @@ class ComponentsFrame : public QGroupBox {
     void Show();
 
   private:
-    void Combo1_Click(int position);
-    void Combo3_Click(int position);
-    void Command3_Click();
-    void Command2_Click();
+    void ChooseKind(int position);
+    void ChooseName(int position);
+    void Insert();
+    void TurnPump();
     void ShowChoice();
-    void Timer1_Timer();
+    void Blink();
     void SetLit(bool lit);
 
     PanelContext& context_;
-    QComboBox* Combo1;
-    QComboBox* Combo3;
-    QPushButton* Command3;
-    QPushButton* Command2;
-    QTimer* Timer1;  ///< blinks "Insert component" while it is armed
+    QComboBox* kinds_;
+    QComboBox* names_;
+    QPushButton* insertButton_;
+    QPushButton* turnButton_;
+    QTimer* blinkTimer_;  ///< blinks "Insert component" while it is armed
     bool lit_ = false;
 };
 

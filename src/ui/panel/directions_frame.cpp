@@ -39,14 +39,14 @@ void DirectionArrow::paintEvent(QPaintEvent* /*event*/) {
 DirectionsFrame::DirectionsFrame(PanelContext& context)
     : QGroupBox("Directions"),
       context_(context),
-      Option3(Option("Option3", PipeEnd::Start)),
-      Option4(Option("Option4", PipeEnd::End)),
+      fromStart_(Option("Option3", PipeEnd::Start)),
+      fromEnd_(Option("Option4", PipeEnd::End)),
       arrow_(new DirectionArrow) {
     Named(this, "Frame8");
     auto* row = new QHBoxLayout(this);
-    row->addWidget(Option3);
+    row->addWidget(fromStart_);
     row->addWidget(arrow_, 1);
-    row->addWidget(Option4);
+    row->addWidget(fromEnd_);
 }
 
 QRadioButton* DirectionsFrame::Option(const char* name, PipeEnd end) {
@@ -61,10 +61,10 @@ QRadioButton* DirectionsFrame::Option(const char* name, PipeEnd end) {
 
 void DirectionsFrame::Show() {
     const PipePanel& panel = context_.panel;
-    const std::array silent{QSignalBlocker(Option3), QSignalBlocker(Option4)};
-    Option3->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.start.caption));
-    Option4->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.end.caption));
-    (panel.end.reference ? Option4 : Option3)->setChecked(true);
+    const std::array silent{QSignalBlocker(fromStart_), QSignalBlocker(fromEnd_)};
+    fromStart_->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.start.caption));
+    fromEnd_->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.end.caption));
+    (panel.end.reference ? fromEnd_ : fromStart_)->setChecked(true);
     arrow_->Show(panel.end.reference);
 }
 

@@ -35,8 +35,8 @@ class DirectionsFrame : public QGroupBox {
     QRadioButton* Option(const char* name, PipeEnd end);
 
     PanelContext& context_;
-    QRadioButton* Option3;
-    QRadioButton* Option4;
+    QRadioButton* fromStart_;
+    QRadioButton* fromEnd_;
     DirectionArrow* arrow_;
 };
 

@@ -15,14 +15,14 @@ class FlowFrame : public QGroupBox {
     void Show();
 
   private:
-    void Text13_Change(std::string_view text);
+    void TypeVolumeFlow(std::string_view text);
 
     PanelContext& context_;
-    KnownChoice* Option6;
-    NumberBox* Text12;
-    NumberBox* Text13;
-    NumberBox* Text2;
-    NumberBox* Text3;
+    KnownChoice* choice_;
+    NumberBox* flowGiven_;
+    NumberBox* volumeFlowGiven_;
+    NumberBox* flowComputed_;
+    NumberBox* volumeFlowComputed_;
 };
 
 }  // namespace idrova

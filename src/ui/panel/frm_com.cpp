@@ -44,10 +44,10 @@ FrmCom::FrmCom(Program& program, QWidget* parent)
     : QDockWidget("Idrova - Commands", parent),
       program_(program),
       context_{program, {}, [this] { ShowEdited(); }},
-      Frame3(new PipeFrame(context_)),
-      Frame4(new PressuresFrame(context_)),
-      Frame8(new DirectionsFrame(context_)),
-      Frame6(new ComponentsFrame(context_)) {
+      pipeFrame_(new PipeFrame(context_)),
+      pressuresFrame_(new PressuresFrame(context_)),
+      directionsFrame_(new DirectionsFrame(context_)),
+      componentsFrame_(new ComponentsFrame(context_)) {
     Named(this, "FrmCom");
     setAllowedAreas(Qt::RightDockWidgetArea | Qt::LeftDockWidgetArea);
     setFeatures(DockWidgetMovable);
@@ -87,27 +87,27 @@ void FrmCom::AddSettings(QVBoxLayout& column) {
 }
 
 void FrmCom::AddFrames(QVBoxLayout& column) {
-    column.addWidget(Frame3);
-    column.addWidget(Frame4);
-    column.addWidget(Frame8);
-    column.addWidget(Frame6);
+    column.addWidget(pipeFrame_);
+    column.addWidget(pressuresFrame_);
+    column.addWidget(directionsFrame_);
+    column.addWidget(componentsFrame_);
 }
 
 void FrmCom::AddButtons(QVBoxLayout& column) {
-    Command9 =
-        CommandButton("Command9", "Delete pipes and components", [this] { Command9_Click(); });
-    Command4 = CommandButton("Command4", "Show/hidden data", [this] { Command4_Click(); });
-    Command1 = CommandButton("Command1", "Calculate by graphic", [this] { calculate(); });
-    Command1->setShortcut(QKeySequence("F5"));
-    Command1->setStatusTip("Compute the network of the drawing or of the table (F5)");
-    for (QPushButton* button : {Command9, Command4, Command1}) column.addWidget(button);
-    Slider1 = Named(new QSlider(Qt::Horizontal), "Slider1");
-    Slider1->setRange(150, 450);
-    Slider1->setValue(program_.project.Grid.CellWidth);
-    Slider1->setTracking(false);
-    connect(Slider1, &QSlider::valueChanged, this, [this] { Slider1_Change(); });
+    deleteButton_ = CommandButton("Command9", "Delete pipes and components", [this] { Delete(); });
+    dataButton_ = CommandButton("Command4", "Show/hidden data", [this] { SwitchData(); });
+    calculateButton_ = CommandButton("Command1", "Calculate by graphic", [this] { calculate(); });
+    calculateButton_->setShortcut(QKeySequence("F5"));
+    calculateButton_->setStatusTip("Compute the network of the drawing or of the table (F5)");
+    for (QPushButton* button : {deleteButton_, dataButton_, calculateButton_})
+        column.addWidget(button);
+    gridSlider_ = Named(new QSlider(Qt::Horizontal), "Slider1");
+    gridSlider_->setRange(150, 450);
+    gridSlider_->setValue(program_.project.Grid.CellWidth);
+    gridSlider_->setTracking(false);
+    connect(gridSlider_, &QSlider::valueChanged, this, [this] { RefuseGridDimension(); });
     auto* form = new QFormLayout;
-    form->addRow(LabelFor(Slider1, "Grid dimension"), Slider1);
+    form->addRow(LabelFor(gridSlider_, "Grid dimension"), gridSlider_);
     column.addLayout(form);
 }
 
@@ -118,7 +118,7 @@ void FrmCom::ShowState() {
         ToQt(RoughnessLabel(program_.shell.roughnessItem, program_.project.settings.Roughness)));
     if (!isEdited_) context_.panel = ShowPipeData(program_.project);
     ShowFrames();
-    Frame6->Show();
+    componentsFrame_->Show();
     ShowEnabling();
 }
 
@@ -153,37 +153,39 @@ void FrmCom::keyPressEvent(QKeyEvent* event) {
 }
 
 void FrmCom::ShowFrames() {
-    Frame3->Show();
-    Frame4->Show();
-    Frame8->Show();
+    pipeFrame_->Show();
+    pressuresFrame_->Show();
+    directionsFrame_->Show();
 }
 
 void FrmCom::ShowEnabling() {
     const ModeView view = ViewOf(program_.project.settings.Mode);
     const bool frames = view.drawingTools && program_.editor.framesEnabled;
-    for (QGroupBox* frame : {static_cast<QGroupBox*>(Frame3), static_cast<QGroupBox*>(Frame4),
-                             static_cast<QGroupBox*>(Frame8)}) {
+    for (QGroupBox* frame :
+         {static_cast<QGroupBox*>(pipeFrame_), static_cast<QGroupBox*>(pressuresFrame_),
+          static_cast<QGroupBox*>(directionsFrame_)}) {
         frame->setEnabled(frames && context_.panel.pipe != 0);
     }
-    Frame6->setEnabled(view.drawingTools && MayPlaceComponents(program_.project, program_.editor));
-    Command4->setEnabled(view.drawingTools);
-    Command9->setEnabled(view.drawingTools);
-    Command1->setEnabled(view.calculate);
+    componentsFrame_->setEnabled(view.drawingTools &&
+                                 MayPlaceComponents(program_.project, program_.editor));
+    dataButton_->setEnabled(view.drawingTools);
+    deleteButton_->setEnabled(view.drawingTools);
+    calculateButton_->setEnabled(view.calculate);
 }
 
-void FrmCom::Command4_Click() {
+void FrmCom::SwitchData() {
     program_.editor.DataShown = !program_.editor.DataShown;
     program_.changed();
 }
 
-void FrmCom::Command9_Click() {
+void FrmCom::Delete() {
     DeleteSelected(program_.project, program_.editor, program_.boxes);
     program_.changed();
 }
 
-void FrmCom::Slider1_Change() {
-    const QSignalBlocker silent(Slider1);
-    Slider1->setValue(program_.project.Grid.CellWidth);
+void FrmCom::RefuseGridDimension() {
+    const QSignalBlocker silent(gridSlider_);
+    gridSlider_->setValue(program_.project.Grid.CellWidth);
     program_.boxes.Show(kFixedGridDimension);
 }
 

@@ -46,9 +46,9 @@ class FrmCom : public QDockWidget {
     void ShowEdited();
     void ShowFrames();
     void ShowEnabling();
-    void Command4_Click();
-    void Command9_Click();
-    void Slider1_Change();
+    void SwitchData();
+    void Delete();
+    void RefuseGridDimension();
 
     Program& program_;
     PanelContext context_;
@@ -56,14 +56,14 @@ class FrmCom : public QDockWidget {
     QLabel* fluidName_ = nullptr;
     QLabel* fluidProperties_ = nullptr;
     QLabel* roughness_ = nullptr;
-    PipeFrame* Frame3;
-    PressuresFrame* Frame4;
-    DirectionsFrame* Frame8;
-    ComponentsFrame* Frame6;
-    QPushButton* Command1 = nullptr;
-    QPushButton* Command4 = nullptr;
-    QPushButton* Command9 = nullptr;
-    QSlider* Slider1 = nullptr;
+    PipeFrame* pipeFrame_;
+    PressuresFrame* pressuresFrame_;
+    DirectionsFrame* directionsFrame_;
+    ComponentsFrame* componentsFrame_;
+    QPushButton* calculateButton_ = nullptr;
+    QPushButton* dataButton_ = nullptr;
+    QPushButton* deleteButton_ = nullptr;
+    QSlider* gridSlider_ = nullptr;
 };
 
 }  // namespace idrova

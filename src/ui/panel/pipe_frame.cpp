@@ -17,31 +17,31 @@ namespace idrova {
 PipeFrame::PipeFrame(PanelContext& context)
     : QGroupBox("Pipe"),
       context_(context),
-      Frame7(new FlowFrame(context)),
-      Text6(EditBox("Text6", TypeLength)),
-      Combo2(SizeList("Combo2")),
-      Text7(EditBox("Text7", TypeInnerSize)),
-      Text8(EditBox("Text8", TypeOuterSize)),
-      Text5(HeightBox("Text5", PipeEnd::Start)),
-      Text11(HeightBox("Text11", PipeEnd::End)),
-      nominalLabel_(Named(LabelFor(Combo2, "Diameter \""), "LabelNominal")),
-      firstSideLabel_(Named(LabelFor(Text7, "Diameter [mm]"), "LabelSideA")),
-      secondSideLabel_(Named(LabelFor(Text8, "b [mm]"), "LabelSideB")),
-      startHeightLabel_(LabelFor(Text5, "Z1 [m]")),
-      endHeightLabel_(LabelFor(Text11, "Z2 [m]")) {
+      flowFrame_(new FlowFrame(context)),
+      length_(EditBox("Text6", TypeLength)),
+      sizes_(SizeList("Combo2")),
+      innerSize_(EditBox("Text7", TypeInnerSize)),
+      outerSize_(EditBox("Text8", TypeOuterSize)),
+      startHeight_(HeightBox("Text5", PipeEnd::Start)),
+      endHeight_(HeightBox("Text11", PipeEnd::End)),
+      nominalLabel_(Named(LabelFor(sizes_, "Diameter \""), "LabelNominal")),
+      firstSideLabel_(Named(LabelFor(innerSize_, "Diameter [mm]"), "LabelSideA")),
+      secondSideLabel_(Named(LabelFor(outerSize_, "b [mm]"), "LabelSideB")),
+      startHeightLabel_(LabelFor(startHeight_, "Z1 [m]")),
+      endHeightLabel_(LabelFor(endHeight_, "Z2 [m]")) {
     Named(this, "Frame3");
-    OnChosen(*Combo2, [this](int position) {
+    OnChosen(*sizes_, [this](int position) {
         ChoosePipeSize(context_.program.project, context_.panel, position + 1);
         context_.edited();
     });
     auto* form = new QFormLayout(this);
-    form->addRow(Frame7);
-    form->addRow(LabelFor(Text6, "Lenght [m]"), Text6);
-    form->addRow(nominalLabel_, Combo2);
-    form->addRow(firstSideLabel_, Text7);
-    form->addRow(secondSideLabel_, Text8);
-    form->addRow(startHeightLabel_, Text5);
-    form->addRow(endHeightLabel_, Text11);
+    form->addRow(flowFrame_);
+    form->addRow(LabelFor(length_, "Lenght [m]"), length_);
+    form->addRow(nominalLabel_, sizes_);
+    form->addRow(firstSideLabel_, innerSize_);
+    form->addRow(secondSideLabel_, outerSize_);
+    form->addRow(startHeightLabel_, startHeight_);
+    form->addRow(endHeightLabel_, endHeight_);
 }
 
 NumberBox* PipeFrame::EditBox(const char* name, const Edit& edit) {
@@ -65,27 +65,27 @@ NumberBox* PipeFrame::HeightBox(const char* name, PipeEnd end) {
 void PipeFrame::Show() {
     const PipePanel& panel = context_.panel;
     setTitle(ToQt(panel.caption));
-    Frame7->Show();
-    Text6->Show(panel.length);
-    Text7->Show(panel.innerSize);
-    Text8->Show(panel.outerSize);
-    Text5->Show(panel.start.height);
-    Text11->Show(panel.end.height);
+    flowFrame_->Show();
+    length_->Show(panel.length);
+    innerSize_->Show(panel.innerSize);
+    outerSize_->Show(panel.outerSize);
+    startHeight_->Show(panel.start.height);
+    endHeight_->Show(panel.end.height);
     if (panel.pipe != 0) {
         startHeightLabel_->setText(ToQt(panel.start.heightLabel));
         endHeightLabel_->setText(ToQt(panel.end.heightLabel));
     }
-    const QSignalBlocker silent(Combo2);
-    Combo2->setCurrentIndex(panel.nominalSize - 1);
+    const QSignalBlocker silent(sizes_);
+    sizes_->setCurrentIndex(panel.nominalSize - 1);
     ShowSection();
 }
 
 void PipeFrame::ShowSection() {
     const SectionDisplay& display = context_.panel.section;
-    Combo2->setVisible(display.nominalSizes);
+    sizes_->setVisible(display.nominalSizes);
     nominalLabel_->setVisible(display.nominalSizes);
     firstSideLabel_->setText(ToQt(display.firstSideLabel));
-    Text8->setVisible(display.secondSide);
+    outerSize_->setVisible(display.secondSide);
     secondSideLabel_->setVisible(display.secondSide);
     secondSideLabel_->setText(ToQt(display.secondSideLabel));
 }

@@ -28,13 +28,13 @@ class PipeFrame : public QGroupBox {
     void ShowSection();
 
     PanelContext& context_;
-    FlowFrame* Frame7;
-    NumberBox* Text6;
-    QComboBox* Combo2;
-    NumberBox* Text7;
-    NumberBox* Text8;
-    NumberBox* Text5;
-    NumberBox* Text11;
+    FlowFrame* flowFrame_;
+    NumberBox* length_;
+    QComboBox* sizes_;
+    NumberBox* innerSize_;
+    NumberBox* outerSize_;
+    NumberBox* startHeight_;
+    NumberBox* endHeight_;
     QLabel* nominalLabel_;
     QLabel* firstSideLabel_;
     QLabel* secondSideLabel_;

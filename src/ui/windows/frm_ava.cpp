@@ -30,24 +30,24 @@ QRect CentredOnScreen(const QWidget& parent, QSize size) {
 
 FrmAva::FrmAva(QWidget* mainWindow)
     : QFrame(mainWindow),
-      ProgressBar1(Named(new QProgressBar, "ProgressBar1")),
-      ProgressBar2(Named(new QProgressBar, "ProgressBar2")) {
+      closeness_(Named(new QProgressBar, "ProgressBar1")),
+      passes_(Named(new QProgressBar, "ProgressBar2")) {
     Named(this, "FrmAva");
     setFrameStyle(QFrame::Panel | QFrame::Raised);
     setLineWidth(2);
     setAutoFillBackground(true);
     auto* form = new QFormLayout(this);
     form->setContentsMargins(16, 16, 16, 16);
-    form->addRow(LabelFor(ProgressBar1, "Closeness"), ProgressBar1);
-    form->addRow(LabelFor(ProgressBar2, "Passes"), ProgressBar2);
+    form->addRow(LabelFor(closeness_, "Closeness"), closeness_);
+    form->addRow(LabelFor(passes_, "Passes"), passes_);
     setGeometry(CentredOnScreen(*mainWindow, {kWidth, sizeHint().height()}));
     raise();
     show();
 }
 
 void FrmAva::ShowProgress(double closeness, double passes) {
-    ProgressBar1->setValue(static_cast<int>(std::lround(closeness)));
-    ProgressBar2->setValue(static_cast<int>(std::lround(passes)));
+    closeness_->setValue(static_cast<int>(std::lround(closeness)));
+    passes_->setValue(static_cast<int>(std::lround(passes)));
     repaint();
 }
 

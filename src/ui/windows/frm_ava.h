@@ -18,8 +18,8 @@ class FrmAva : public QFrame {
     void ShowProgress(double closeness, double passes);
 
   private:
-    QProgressBar* ProgressBar1;
-    QProgressBar* ProgressBar2;
+    QProgressBar* closeness_;
+    QProgressBar* passes_;
 };
 
 }  // namespace idrova

@@ -17,23 +17,23 @@ namespace idrova {
 FrmCon::FrmCon(Program& program)
     : ChildWindow("FrmCon", "Idrova - Configuration"),
       program_(program),
-      Combo1(new NameList("Combo1")) {
-    QPushButton* save = CommandButton("Command1", "Save", [this] { Command1_Click(); });
+      editor_(new NameList("Combo1")) {
+    QPushButton* save = CommandButton("Command1", "Save", [this] { Save(); });
     QPushButton* leave = CommandButton("Command2", "Exit", [this] { CloseWindow(); });
     SetDefaultButton(save);
-    Combo1->setMinimumContentsLength(44);
+    editor_->setMinimumContentsLength(44);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(Named(LabelFor(Combo1, "Text editor"), "Label1"));
-    column->addWidget(Combo1);
+    column->addWidget(Named(LabelFor(editor_, "Text editor"), "Label1"));
+    column->addWidget(editor_);
     column->addStretch(1);
     column->addLayout(ButtonRow({save, leave}));
-    Combo1->Refill(EditorSuggestions());
-    Combo1->setEditText(ToQt(EditorBoxText(program_.folder)));
-    setFocusProxy(Combo1);
+    editor_->Refill(EditorSuggestions());
+    editor_->setEditText(ToQt(EditorBoxText(program_.folder)));
+    setFocusProxy(editor_);
 }
 
-void FrmCon::Command1_Click() {
-    if (SaveEditor(program_.folder, Combo1->Text(), program_.boxes)) CloseWindow();
+void FrmCon::Save() {
+    if (SaveEditor(program_.folder, editor_->Text(), program_.boxes)) CloseWindow();
 }
 
 }  // namespace idrova

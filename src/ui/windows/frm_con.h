@@ -14,10 +14,10 @@ class FrmCon : public ChildWindow {
     explicit FrmCon(Program& program);
 
   private:
-    void Command1_Click();
+    void Save();
 
     Program& program_;
-    NameList* Combo1;
+    NameList* editor_;
 };
 
 }  // namespace idrova

@@ -36,26 +36,26 @@ class FrmFlu : public ChildWindow {
     /// Makes `slot` the chosen one (0 for none) in a list of all names. Leaves the fields alone.
     void ListNames(int slot);
 
-    void Combo1_Click(int position);
-    void Text1_Click();
-    void Text6_Change();
-    void Command1_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Command4_Click();
+    void Choose(int position);
+    void DensityClicked();
+    void ViscosityChanged();
+    void Use();
+    void Save();
+    void Delete();
+    void SaveAs();
 
     Program& program_;
     FluidFields opened_;  ///< the fluid in use when the window opened
     int selected_ = 0;    ///< slot of the fluid last chosen, 0 for none
-    NameList* Combo1;
-    QLabel* Label8;
-    QLineEdit* Text1;
-    QLineEdit* Text6;
-    QLabel* Label9;
-    QLineEdit* Text5;
-    QLineEdit* Text3;
-    QLineEdit* Text4;
-    QCheckBox* Check1;
+    NameList* names_;
+    QLabel* number_;
+    QLineEdit* density_;
+    QLineEdit* viscosity_;
+    QLabel* kinematicViscosity_;
+    QLineEdit* compressibility_;
+    QLineEdit* specificHeat_;
+    QLineEdit* conductivity_;
+    QCheckBox* predefined_;
 };
 
 }  // namespace idrova

@@ -23,9 +23,9 @@ constexpr int kPictureSide = 160;
 }  // namespace
 
 FrmLogo::FrmLogo() : ChildWindow("FrmLogo", "Idrova"), content_(MakeContent()) {
-    Named(&Timer1, "Timer1");
-    connect(&Timer1, &QTimer::timeout, this, [this] { OpenFurther(); });
-    Timer1.start(kTickMilliseconds);
+    Named(&growTimer_, "Timer1");
+    connect(&growTimer_, &QTimer::timeout, this, [this] { OpenFurther(); });
+    growTimer_.start(kTickMilliseconds);
 }
 
 QWidget* FrmLogo::MakeContent() {
@@ -59,7 +59,7 @@ void FrmLogo::OpenFurther() {
     centred.moveCenter(centre);
     frame.move(centred.topLeft());
     if (next != full) return;
-    Timer1.stop();
+    growTimer_.stop();
     frame.setFixedSize(full);
 }
 

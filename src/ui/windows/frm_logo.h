@@ -23,7 +23,7 @@ class FrmLogo : public ChildWindow {
     QWidget* MakeContent();
     void OpenFurther();
 
-    QTimer Timer1;
+    QTimer growTimer_;
     QSizeF reached_;    ///< of the frame so far
     QWidget* content_;  ///< at its full size from the start; the window uncovers it
 };

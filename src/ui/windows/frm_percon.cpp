@@ -20,73 +20,73 @@ namespace idrova {
 FrmPerCon::FrmPerCon(Program& program)
     : ChildWindow("FrmPerCon", "Idrova - Concentrated drop"),
       program_(program),
-      Combo1(new NameList("Combo1")),
-      Option1{Named(new QRadioButton("Coefficient"), "Option1_0"),
-              Named(new QRadioButton("Loss"), "Option1_1")},
-      Text1(TextField("Text1")),
-      Text2(TextField("Text2")),
-      Label2(ValueLabel("Label2")) {
+      names_(new NameList("Combo1")),
+      options_{Named(new QRadioButton("Coefficient"), "Option1_0"),
+               Named(new QRadioButton("Loss"), "Option1_1")},
+      coefficient_(TextField("Text1")),
+      fixedDrop_(TextField("Text2")),
+      milliBar_(ValueLabel("Label2")) {
     auto* column = new QVBoxLayout(this);
     column->addLayout(Rows());
     column->addStretch(1);
     column->addLayout(Buttons());
     Connect();
     Load();
-    setFocusProxy(Combo1);
+    setFocusProxy(names_);
 }
 
 QGridLayout* FrmPerCon::Rows() {
-    Text1->setAccessibleName("Coefficient");
-    Text2->setAccessibleName("Loss [Pa]");
+    coefficient_->setAccessibleName("Coefficient");
+    fixedDrop_->setAccessibleName("Loss [Pa]");
     auto* rows = new FieldGrid;
-    rows->AddField("Name", Combo1);
-    rows->AddControl(Option1[0], Text1, PlainLabel({}));
-    rows->AddControl(Option1[1], Text2, Named(PlainLabel("[Pa]"), "Label1"));
-    rows->AddControl(PlainLabel({}), Label2, Named(PlainLabel("[mbar]"), "Label3"));
+    rows->AddField("Name", names_);
+    rows->AddControl(options_[0], coefficient_, PlainLabel({}));
+    rows->AddControl(options_[1], fixedDrop_, Named(PlainLabel("[Pa]"), "Label1"));
+    rows->AddControl(PlainLabel({}), milliBar_, Named(PlainLabel("[mbar]"), "Label3"));
     return rows;
 }
 
 QBoxLayout* FrmPerCon::Buttons() {
-    QPushButton* save = CommandButton("Command2", "Save", [this] { Command2_Click(); });
-    QPushButton* remove = CommandButton("Command3", "Delete", [this] { Command3_Click(); });
+    QPushButton* save = CommandButton("Command2", "Save", [this] { Save(); });
+    QPushButton* remove = CommandButton("Command3", "Delete", [this] { Delete(); });
     SetDefaultButton(save);
     return ButtonRow({save, remove});
 }
 
 void FrmPerCon::Connect() {
-    OnChosen(*Combo1, [this](int position) { Combo1_Click(position); });
+    OnChosen(*names_, [this](int position) { Choose(position); });
     for (const LossOption option : {LossOption::Coefficient, LossOption::FixedDrop}) {
-        QRadioButton* button = Option1[static_cast<int>(option)];
+        QRadioButton* button = options_[static_cast<int>(option)];
         connect(button, &QRadioButton::toggled, this, [this, option](bool on) {
-            if (on) Option1_Click(option);
+            if (on) ChooseOption(option);
         });
         // Typing into a field chooses its option: a value in the other one would be forgotten.
-        QLineEdit* field = option == LossOption::Coefficient ? Text1 : Text2;
+        QLineEdit* field = option == LossOption::Coefficient ? coefficient_ : fixedDrop_;
         connect(field, &QLineEdit::textEdited, button, [button] { button->setChecked(true); });
     }
-    connect(Text2, &QLineEdit::textChanged, this, [this] { Text2_Change(); });
+    connect(fixedDrop_, &QLineEdit::textChanged, this, [this] { ShowMilliBar(); });
 }
 
 LossFields FrmPerCon::Fields() const {
-    return {.name = Combo1->Text(),
-            .coefficient = FromQt(Text1->text()),
-            .fixedDrop = FromQt(Text2->text()),
-            .option = Option1[1]->isChecked() ? LossOption::FixedDrop : LossOption::Coefficient};
+    return {.name = names_->Text(),
+            .coefficient = FromQt(coefficient_->text()),
+            .fixedDrop = FromQt(fixedDrop_->text()),
+            .option = options_[1]->isChecked() ? LossOption::FixedDrop : LossOption::Coefficient};
 }
 
 void FrmPerCon::Show(const LossFields& fields) {
-    Option1[static_cast<int>(fields.option)]->setChecked(true);
-    Text1->setText(ToQt(fields.coefficient));
-    Text2->setText(ToQt(fields.fixedDrop));
+    options_[static_cast<int>(fields.option)]->setChecked(true);
+    coefficient_->setText(ToQt(fields.coefficient));
+    fixedDrop_->setText(ToQt(fields.fixedDrop));
 }
 
 void FrmPerCon::Load() {
-    Combo1->Refill(RecordNames(program_.components.losses));
+    names_->Refill(RecordNames(program_.components.losses));
     Show({});
-    Label2->clear();  // emptying a field has filled it
+    milliBar_->clear();  // emptying a field has filled it
 }
 
-void FrmPerCon::Combo1_Click(int position) {
+void FrmPerCon::Choose(int position) {
     const LossDb& losses = program_.components.losses;
     if (!losses.Holds(position + 1)) return;
     LossFields fields = Fields();
@@ -94,17 +94,17 @@ void FrmPerCon::Combo1_Click(int position) {
     Show(fields);
 }
 
-void FrmPerCon::Option1_Click(LossOption option) {
+void FrmPerCon::ChooseOption(LossOption option) {
     LossFields fields = Fields();
     SelectOption(fields, option);
     Show(fields);
 }
 
-void FrmPerCon::Text2_Change() {
-    Label2->setText(ToQt(MilliBarLabel(Fields())));
+void FrmPerCon::ShowMilliBar() {
+    milliBar_->setText(ToQt(MilliBarLabel(Fields())));
 }
 
-void FrmPerCon::Command2_Click() {
+void FrmPerCon::Save() {
     const EditOutcome outcome =
         SaveLoss(program_.components, Fields(), program_.folder, program_.boxes);
     if (outcome == EditOutcome::Refused) return;
@@ -113,8 +113,8 @@ void FrmPerCon::Command2_Click() {
     program_.changed();
 }
 
-void FrmPerCon::Command3_Click() {
-    const int slot = ChosenSlot(program_.components.losses, Combo1->currentIndex(), Combo1->Text());
+void FrmPerCon::Delete() {
+    const int slot = ChosenSlot(program_.components.losses, names_->currentIndex(), names_->Text());
     const EditOutcome outcome =
         DeleteLoss(program_.components, slot, program_.folder, program_.boxes);
     if (outcome != EditOutcome::Done) return;

@@ -32,18 +32,18 @@ class FrmPerCon : public ChildWindow {
     /// As a window that has just been opened.
     void Load();
 
-    void Combo1_Click(int position);
-    void Option1_Click(LossOption option);
-    void Text2_Change();
-    void Command2_Click();
-    void Command3_Click();
+    void Choose(int position);
+    void ChooseOption(LossOption option);
+    void ShowMilliBar();
+    void Save();
+    void Delete();
 
     Program& program_;
-    NameList* Combo1;
-    std::array<QRadioButton*, 2> Option1;
-    QLineEdit* Text1;
-    QLineEdit* Text2;
-    QLabel* Label2;
+    NameList* names_;
+    std::array<QRadioButton*, 2> options_;
+    QLineEdit* coefficient_;
+    QLineEdit* fixedDrop_;
+    QLabel* milliBar_;
 };
 
 }  // namespace idrova

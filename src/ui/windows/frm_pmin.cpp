@@ -16,30 +16,30 @@ FrmPMin::FrmPMin(Program& program)
     : ChildWindow("FrmPMin", "Idrova - calculation data"),
       program_(program),
       shown_(ShowCalculationData(program.project.settings)),
-      Text1(TextField("Text1")),
-      Text2(TextField("Text2")) {
-    QPushButton* confirm = CommandButton("Command1", "OK", [this] { Command1_Click(); });
+      basePressure_(TextField("Text1")),
+      temperature_(TextField("Text2")) {
+    QPushButton* confirm = CommandButton("Command1", "OK", [this] { Confirm(); });
     SetDefaultButton(confirm);
     auto* rows = new FieldGrid;
-    rows->AddField("Base pressure", Text1, "[bar]");
-    rows->AddField("Fluid temperature", Text2, "[°C]", "Only for compressible fluids");
+    rows->AddField("Base pressure", basePressure_, "[bar]");
+    rows->AddField("Fluid temperature", temperature_, "[°C]", "Only for compressible fluids");
     auto* column = new QVBoxLayout(this);
     column->addLayout(rows);
     column->addStretch(1);
     column->addLayout(ButtonRow({confirm}));
-    Text1->setText(ToQt(shown_.basePressure));
-    Text2->setText(ToQt(shown_.temperature));
-    setFocusProxy(Text1);
+    basePressure_->setText(ToQt(shown_.basePressure));
+    temperature_->setText(ToQt(shown_.temperature));
+    setFocusProxy(basePressure_);
 }
 
 void FrmPMin::GoToTemperature() {
-    Text2->setFocus();
+    temperature_->setFocus();
 }
 
-void FrmPMin::Command1_Click() {
-    SetCalculationData(
-        program_.project.settings, shown_,
-        {.basePressure = FromQt(Text1->text()), .temperature = FromQt(Text2->text())});
+void FrmPMin::Confirm() {
+    SetCalculationData(program_.project.settings, shown_,
+                       {.basePressure = FromQt(basePressure_->text()),
+                        .temperature = FromQt(temperature_->text())});
     program_.changed();
     CloseWindow();
 }

@@ -18,12 +18,12 @@ class FrmPMin : public ChildWindow {
     void GoToTemperature();
 
   private:
-    void Command1_Click();
+    void Confirm();
 
     Program& program_;
     const CalculationData shown_;
-    QLineEdit* Text1;
-    QLineEdit* Text2;
+    QLineEdit* basePressure_;
+    QLineEdit* temperature_;
 };
 
 }  // namespace idrova

@@ -20,24 +20,24 @@ namespace idrova {
 FrmPompa::FrmPompa(Program& program)
     : ChildWindow("FrmPompa", "Idrova - Pump"),
       program_(program),
-      Combo1(new NameList("Combo1")),
-      Text1(TextField("Text1")),
-      Text2(TextField("Text2")),
-      Text3(TextField("Text3")),
-      Text4(TextField("Text4")),
-      Label6(ValueLabel("Label6")),
-      Label8(ValueLabel("Label8")),
-      Label11(ValueLabel("Label11")),
-      Text6(TextField("Text6")),
-      Text5(ComputedField("Text5")),
-      MSChart1(new PumpPlot("MSChart1")) {
+      names_(new NameList("Combo1")),
+      maxPrevalence_(TextField("Text1")),
+      minFlow_(TextField("Text2")),
+      minPrevalence_(TextField("Text3")),
+      maxFlow_(TextField("Text4")),
+      coefficientA_(ValueLabel("Label6")),
+      coefficientB_(ValueLabel("Label8")),
+      coefficientC_(ValueLabel("Label11")),
+      flowAt_(TextField("Text6")),
+      prevalenceAt_(ComputedField("Text5")),
+      chart_(new PumpPlot("MSChart1")) {
     auto* row = new QHBoxLayout(this);
     row->addLayout(Data());
-    row->addWidget(MSChart1, 1);
-    OnChosen(*Combo1, [this](int position) { Combo1_Click(position); });
-    connect(Text6, &QLineEdit::textChanged, this, [this] { Text6_Change(); });
-    Combo1->Refill(RecordNames(program_.components.pumps));
-    setFocusProxy(Combo1);
+    row->addWidget(chart_, 1);
+    OnChosen(*names_, [this](int position) { Choose(position); });
+    connect(flowAt_, &QLineEdit::textChanged, this, [this] { Evaluate(); });
+    names_->Refill(RecordNames(program_.components.pumps));
+    setFocusProxy(names_);
 }
 
 QBoxLayout* FrmPompa::Data() {
@@ -50,81 +50,81 @@ QBoxLayout* FrmPompa::Data() {
 
 QGridLayout* FrmPompa::Rows() {
     auto* rows = new FieldGrid;
-    rows->AddField("Name", Combo1);
-    rows->AddField("Max prevalence", Text1, "[m]");
-    rows->AddField("Min flow rate", Text2, "[kg/h]");
-    rows->AddField("Min prevalence", Text3, "[m]");
-    rows->AddField("Max flow rate", Text4, "[kg/h]");
-    rows->AddValue("a", Label6);
-    rows->AddValue("b", Label8);
-    rows->AddValue("c", Label11);
-    rows->AddField("Flow rate [kg/h]", Text6);
-    rows->AddField("Prevalence", Text5, "[m]");
+    rows->AddField("Name", names_);
+    rows->AddField("Max prevalence", maxPrevalence_, "[m]");
+    rows->AddField("Min flow rate", minFlow_, "[kg/h]");
+    rows->AddField("Min prevalence", minPrevalence_, "[m]");
+    rows->AddField("Max flow rate", maxFlow_, "[kg/h]");
+    rows->AddValue("a", coefficientA_);
+    rows->AddValue("b", coefficientB_);
+    rows->AddValue("c", coefficientC_);
+    rows->AddField("Flow rate [kg/h]", flowAt_);
+    rows->AddField("Prevalence", prevalenceAt_, "[m]");
     return rows;
 }
 
 QBoxLayout* FrmPompa::Buttons() {
-    QPushButton* save = CommandButton("Command2", "Save", [this] { Command2_Click(); });
-    QPushButton* remove = CommandButton("Command3", "Delete", [this] { Command3_Click(); });
+    QPushButton* save = CommandButton("Command2", "Save", [this] { Save(); });
+    QPushButton* remove = CommandButton("Command3", "Delete", [this] { Delete(); });
     SetDefaultButton(save);
-    KeepReturnIn(Text6);  // the flow rate to evaluate is no datum of the pump to save
+    KeepReturnIn(flowAt_);  // the flow rate to evaluate is no datum of the pump to save
     return ButtonRow({save, remove});
 }
 
 PumpFields FrmPompa::Fields() const {
-    return {.name = Combo1->Text(),
-            .maxPrevalence = FromQt(Text1->text()),
-            .minFlow = FromQt(Text2->text()),
-            .minPrevalence = FromQt(Text3->text()),
-            .maxFlow = FromQt(Text4->text())};
+    return {.name = names_->Text(),
+            .maxPrevalence = FromQt(maxPrevalence_->text()),
+            .minFlow = FromQt(minFlow_->text()),
+            .minPrevalence = FromQt(minPrevalence_->text()),
+            .maxFlow = FromQt(maxFlow_->text())};
 }
 
 void FrmPompa::ShowCurve(const PumpRecord& pump) {
     curve_ = CurveOf(pump).value_or(curve_);
     const CurveLabels labels = LabelsOf(curve_);
-    Label6->setText(ToQt(labels.a));
-    Label8->setText(ToQt(labels.b));
-    Label11->setText(ToQt(labels.c));
-    if (const auto chart = ChartOf(pump)) MSChart1->ShowChart(*chart);
-    if (!Text6->text().isEmpty()) Text6_Change();
+    coefficientA_->setText(ToQt(labels.a));
+    coefficientB_->setText(ToQt(labels.b));
+    coefficientC_->setText(ToQt(labels.c));
+    if (const auto chart = ChartOf(pump)) chart_->ShowChart(*chart);
+    if (!flowAt_->text().isEmpty()) Evaluate();
 }
 
-void FrmPompa::Combo1_Click(int position) {
+void FrmPompa::Choose(int position) {
     const PumpDb& pumps = program_.components.pumps;
     if (!pumps.Holds(position + 1)) return;
     const PumpRecord& pump = pumps[position + 1];
     const PumpFields shown = ShowPump(pump);
-    Text1->setText(ToQt(shown.maxPrevalence));
-    Text2->setText(ToQt(shown.minFlow));
-    Text3->setText(ToQt(shown.minPrevalence));
-    Text4->setText(ToQt(shown.maxFlow));
+    maxPrevalence_->setText(ToQt(shown.maxPrevalence));
+    minFlow_->setText(ToQt(shown.minFlow));
+    minPrevalence_->setText(ToQt(shown.minPrevalence));
+    maxFlow_->setText(ToQt(shown.maxFlow));
     ShowCurve(pump);
 }
 
-void FrmPompa::Text6_Change() {
-    Text5->setText(ToQt(PrevalenceText(curve_, FromQt(Text6->text()))));
+void FrmPompa::Evaluate() {
+    prevalenceAt_->setText(ToQt(PrevalenceText(curve_, FromQt(flowAt_->text()))));
 }
 
-void FrmPompa::Command2_Click() {
+void FrmPompa::Save() {
     if (SavePump(program_.components, Fields(), program_.folder, program_.boxes) !=
         EditOutcome::Done) {
         return;
     }
     const PumpDb& pumps = program_.components.pumps;
-    Combo1->Refill(RecordNames(pumps), pumps.count - 1);
+    names_->Refill(RecordNames(pumps), pumps.count - 1);
     ShowCurve(pumps[pumps.count]);
     RefreshComponentChoice(program_.editor, program_.components);
     program_.changed();
 }
 
-void FrmPompa::Command3_Click() {
+void FrmPompa::Delete() {
     const PumpDb& pumps = program_.components.pumps;
-    const int slot = ChosenSlot(pumps, Combo1->currentIndex(), Combo1->Text());
+    const int slot = ChosenSlot(pumps, names_->currentIndex(), names_->Text());
     if (DeletePump(program_.components, slot, program_.folder, program_.boxes) !=
         EditOutcome::Done) {
         return;
     }
-    Combo1->Refill(RecordNames(pumps));
+    names_->Refill(RecordNames(pumps));
     RefreshComponentChoice(program_.editor, program_.components);
     program_.changed();
 }

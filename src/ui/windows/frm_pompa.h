@@ -29,24 +29,24 @@ class FrmPompa : public ChildWindow {
     PumpFields Fields() const;
     void ShowCurve(const PumpRecord& pump);
 
-    void Combo1_Click(int position);
-    void Text6_Change();
-    void Command2_Click();
-    void Command3_Click();
+    void Choose(int position);
+    void Evaluate();
+    void Save();
+    void Delete();
 
     Program& program_;
     PumpCurve curve_;  ///< of the pump last shown that has one
-    NameList* Combo1;
-    QLineEdit* Text1;
-    QLineEdit* Text2;
-    QLineEdit* Text3;
-    QLineEdit* Text4;
-    QLabel* Label6;
-    QLabel* Label8;
-    QLabel* Label11;
-    QLineEdit* Text6;
-    QLineEdit* Text5;
-    PumpPlot* MSChart1;
+    NameList* names_;
+    QLineEdit* maxPrevalence_;
+    QLineEdit* minFlow_;
+    QLineEdit* minPrevalence_;
+    QLineEdit* maxFlow_;
+    QLabel* coefficientA_;
+    QLabel* coefficientB_;
+    QLabel* coefficientC_;
+    QLineEdit* flowAt_;
+    QLineEdit* prevalenceAt_;
+    PumpPlot* chart_;
 };
 
 }  // namespace idrova

@@ -13,23 +13,25 @@
 namespace idrova {
 
 FrmRug::FrmRug(Program& program)
-    : ChildWindow("FrmRug", "Idrova - roughness"), program_(program), Text1(TextField("Text1")) {
-    QPushButton* confirm = CommandButton("Command1", "OK", [this] { Command1_Click(); });
+    : ChildWindow("FrmRug", "Idrova - roughness"),
+      program_(program),
+      roughness_(TextField("Text1")) {
+    QPushButton* confirm = CommandButton("Command1", "OK", [this] { Confirm(); });
     SetDefaultButton(confirm);
     auto* rows = new FieldGrid;
-    rows->AddField("Roughness[m]", Text1);
+    rows->AddField("Roughness[m]", roughness_);
     auto* column = new QVBoxLayout(this);
     column->addLayout(rows);
     column->addStretch(1);
     column->addLayout(ButtonRow({confirm}));
-    Text1->setText(ToQt(RoughnessFieldText(program_.project.settings)));
-    setFocusProxy(Text1);
+    roughness_->setText(ToQt(RoughnessFieldText(program_.project.settings)));
+    setFocusProxy(roughness_);
 }
 
-void FrmRug::Command1_Click() {
-    if (!ChooseUserRoughness(program_.project.settings, FromQt(Text1->text()))) {
-        Text1->selectAll();
-        Text1->setFocus();
+void FrmRug::Confirm() {
+    if (!ChooseUserRoughness(program_.project.settings, FromQt(roughness_->text()))) {
+        roughness_->selectAll();
+        roughness_->setFocus();
         return;
     }
     program_.shell.roughnessItem = kUserRoughnessItem;

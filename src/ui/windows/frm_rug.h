@@ -15,10 +15,10 @@ class FrmRug : public ChildWindow {
     explicit FrmRug(Program& program);
 
   private:
-    void Command1_Click();
+    void Confirm();
 
     Program& program_;
-    QLineEdit* Text1;
+    QLineEdit* roughness_;
 };
 
 }  // namespace idrova

@@ -70,10 +70,10 @@ void Colour(QWidget& box, QRgb colour) {
 FrmSin::FrmSin(Program& program)
     : ChildWindow("FrmSin", "Idrova - Single pip calculation"),
       program_(program),
-      Combo2(SizeList("Combo2")),
-      Command9(CommandButton("Command9", "Directions", [this] { Command9_Click(); })),
+      sizes_(SizeList("Combo2")),
+      turnButton_(CommandButton("Command9", "Directions", [this] { Turn(); })),
       arrow_(new FlowArrow),
-      Timer1(Named(new QTimer(this), "Timer1")) {
+      directionTimer_(Named(new QTimer(this), "Timer1")) {
     StayOnEscape();
     auto* form = new QWidget;
     form->setMaximumWidth(kFormWidth);
@@ -95,13 +95,13 @@ FrmSin::FrmSin(Program& program)
     for (int i = 0; i < kPipeQuantities; ++i) {
         const auto quantity = static_cast<PipeQuantity>(i);
         connect(controls_[i].unknown, &QRadioButton::toggled, this, [this, quantity](bool chosen) {
-            if (chosen) OptInc_Click(quantity);
+            if (chosen) ChooseUnknown(quantity);
         });
     }
     Of(pipe_.unknown).unknown->setChecked(true);
-    connect(Timer1, &QTimer::timeout, this, [this] { Timer1_Timer(); });
-    Timer1->start(kDirectionInterval);
-    Timer1_Timer();
+    connect(directionTimer_, &QTimer::timeout, this, [this] { ShowDirection(); });
+    directionTimer_->start(kDirectionInterval);
+    ShowDirection();
     setFocusProxy(Of(PipeQuantity::PressureAt1).box);
 }
 
@@ -111,8 +111,7 @@ void FrmSin::AddQuantity(QGridLayout& grid, int row, PipeQuantity quantity, cons
     Controls& controls = Of(quantity);
     controls.box = TextField(names.box);
     controls.box->setAccessibleName(what);
-    connect(controls.box, &QLineEdit::textChanged, this,
-            [this, quantity] { Text_Change(quantity); });
+    connect(controls.box, &QLineEdit::textChanged, this, [this, quantity] { TakeTyped(quantity); });
     if (!point.isEmpty()) grid.addWidget(PlainLabel(point), row, kPoint);
     grid.addWidget(LabelFor(controls.box, names.caption), row, kCaption);
     grid.addWidget(controls.box, row, kBox);
@@ -135,30 +134,30 @@ QToolButton* FrmSin::Arrow(PipeQuantity quantity, int steps, const QString& what
     button->setAccessibleName(what);
     button->setToolTip(what);
     connect(button, &QToolButton::clicked, this,
-            [this, quantity, steps] { Arrow_Click(quantity, steps); });
+            [this, quantity, steps] { Step(quantity, steps); });
     return button;
 }
 
 void FrmSin::AddDiameterList(QGridLayout& grid, int row) {
-    OnChosen(*Combo2, [this](int position) { Combo2_Click(position); });
-    grid.addWidget(LabelFor(Combo2, "diameter \""), row, kCaption);
-    grid.addWidget(Combo2, row, kBox);
+    OnChosen(*sizes_, [this](int position) { ChooseSize(position); });
+    grid.addWidget(LabelFor(sizes_, "diameter \""), row, kCaption);
+    grid.addWidget(sizes_, row, kBox);
 }
 
 void FrmSin::AddDirection(QGridLayout& grid, int row) {
     grid.addWidget(arrow_, row, kCaption, 1, 2);
-    grid.addWidget(Command9, row, kMore, 1, kUnknown - kMore + 1);
+    grid.addWidget(turnButton_, row, kMore, 1, kUnknown - kMore + 1);
 }
 
-void FrmSin::Text_Change(PipeQuantity quantity) {
+void FrmSin::TakeTyped(PipeQuantity quantity) {
     if (TypeQuantity(pipe_, quantity, FromQt(Of(quantity).box->text()))) Recompute();
 }
 
-void FrmSin::Arrow_Click(PipeQuantity quantity, int steps) {
+void FrmSin::Step(PipeQuantity quantity, int steps) {
     Of(quantity).box->setText(ToQt(SteppedText(pipe_, quantity, steps)));
 }
 
-void FrmSin::OptInc_Click(PipeQuantity quantity) {
+void FrmSin::ChooseUnknown(PipeQuantity quantity) {
     pipe_.unknown = quantity;
     for (const PipeQuantity stepped : kSteppedQuantities) {
         const bool known = stepped != quantity;
@@ -168,27 +167,27 @@ void FrmSin::OptInc_Click(PipeQuantity quantity) {
         controls.box->setEnabled(known);
         Colour(*controls.box, known ? kKnownColour : kUnknownColour);
     }
-    Timer1_Timer();
+    ShowDirection();
 }
 
-void FrmSin::Combo2_Click(int position) {
+void FrmSin::ChooseSize(int position) {
     Of(PipeQuantity::Diameter).box->setText(ToQt(InnerDiameterText(position + 1)));
 }
 
-void FrmSin::Command9_Click() {
+void FrmSin::Turn() {
     TurnDirection(pipe_);
     Recompute();
 }
 
-void FrmSin::Timer1_Timer() {
+void FrmSin::ShowDirection() {
     const DirectionView view = FollowPressures(pipe_);
-    Command9->setEnabled(view.mayTurn);
+    turnButton_->setEnabled(view.mayTurn);
     arrow_->Show(view);
 }
 
 void FrmSin::Recompute() {
     // The sign of the flow that is shown belongs to the arrow that is shown.
-    Timer1_Timer();
+    ShowDirection();
     // Such a run ends within one keystroke: a progress window would only flicker.
     const auto write = ReportWriter(program_.project, program_.folder, program_.report);
     const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {

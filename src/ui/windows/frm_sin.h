@@ -39,12 +39,12 @@ class FrmSin : public ChildWindow {
     QToolButton* Arrow(PipeQuantity quantity, int steps, const QString& what);
     Controls& Of(PipeQuantity quantity) { return controls_[static_cast<int>(quantity)]; }
 
-    void Text_Change(PipeQuantity quantity);
-    void Arrow_Click(PipeQuantity quantity, int steps);
-    void OptInc_Click(PipeQuantity quantity);
-    void Combo2_Click(int position);
-    void Command9_Click();
-    void Timer1_Timer();
+    void TakeTyped(PipeQuantity quantity);
+    void Step(PipeQuantity quantity, int steps);
+    void ChooseUnknown(PipeQuantity quantity);
+    void ChooseSize(int position);
+    void Turn();
+    void ShowDirection();
     void Recompute();
     /// The failure to write a report, unless the last one failed too: told once, not with every
     /// key.
@@ -53,10 +53,10 @@ class FrmSin : public ChildWindow {
     Program& program_;
     SinglePipe pipe_;
     std::array<Controls, kPipeQuantities> controls_;
-    QComboBox* Combo2;
-    QPushButton* Command9;
+    QComboBox* sizes_;
+    QPushButton* turnButton_;
     FlowArrow* arrow_;
-    QTimer* Timer1;
+    QTimer* directionTimer_;
     bool reportFailed_ = false;
 };
 

@@ -20,25 +20,25 @@ namespace idrova {
 FrmVel::FrmVel(Program& program)
     : ChildWindow("FrmVel", "Idrova - fast data"),
       program_(program),
-      Text1(TextField("Text1")),
-      Text2(TextField("Text2")),
-      Combo2(SizeList("Combo2")),
-      Text3(TextField("Text3")) {
+      flow_(TextField("Text1")),
+      length_(TextField("Text2")),
+      sizes_(SizeList("Combo2")),
+      diameter_(TextField("Text3")) {
     auto* column = new QVBoxLayout(this);
     column->addLayout(Rows());
     column->addStretch(1);
-    OnChosen(*Combo2, [this](int position) { Combo2_Click(position); });
-    connect(Text2, &QLineEdit::textChanged, this, [this] { Text2_Change(); });
-    setFocusProxy(Text1);
+    OnChosen(*sizes_, [this](int position) { ChooseSize(position); });
+    connect(length_, &QLineEdit::textChanged, this, [this] { TidyLength(); });
+    setFocusProxy(flow_);
 }
 
 QGridLayout* FrmVel::Rows() {
     auto* rows = new FieldGrid;
     rows->AddHeading(Named(PlainLabel("set to all pipes"), "Label3"));
-    AddSetting(*rows, "Flow rate [kg/h]", Text1, "Command1", [this] { Command1_Click(); });
-    AddSetting(*rows, "Lenght [m]", Text2, "Command2", [this] { Command2_Click(); });
-    rows->AddField("Diameter \"", Combo2);
-    AddSetting(*rows, "Diameter [mm]", Text3, "Command3", [this] { Command3_Click(); });
+    AddSetting(*rows, "Flow rate [kg/h]", flow_, "Command1", [this] { SetFlowRates(); });
+    AddSetting(*rows, "Lenght [m]", length_, "Command2", [this] { SetLengths(); });
+    rows->AddField("Diameter \"", sizes_);
+    AddSetting(*rows, "Diameter [mm]", diameter_, "Command3", [this] { SetDiameters(); });
     return rows;
 }
 
@@ -51,29 +51,29 @@ void FrmVel::AddSetting(FieldGrid& rows, const QString& caption, QLineEdit* fiel
     connect(field, &QLineEdit::returnPressed, setter, &QPushButton::click);
 }
 
-void FrmVel::Command1_Click() {
-    SetAllFlowRates(program_.project, FromQt(Text1->text()), program_.boxes);
+void FrmVel::SetFlowRates() {
+    SetAllFlowRates(program_.project, FromQt(flow_->text()), program_.boxes);
     program_.changed();
 }
 
-void FrmVel::Command2_Click() {
-    SetAllLengths(program_.project, FromQt(Text2->text()), program_.boxes);
+void FrmVel::SetLengths() {
+    SetAllLengths(program_.project, FromQt(length_->text()), program_.boxes);
     program_.changed();
 }
 
-void FrmVel::Command3_Click() {
-    SetAllDiameters(program_.project, FromQt(Text3->text()), program_.boxes);
+void FrmVel::SetDiameters() {
+    SetAllDiameters(program_.project, FromQt(diameter_->text()), program_.boxes);
     program_.changed();
 }
 
-void FrmVel::Combo2_Click(int position) {
-    Text3->setText(ToQt(InnerDiameterText(position + 1)));
+void FrmVel::ChooseSize(int position) {
+    diameter_->setText(ToQt(InnerDiameterText(position + 1)));
 }
 
-void FrmVel::Text2_Change() {
-    const QString text = ToQt(FastLengthText(FromQt(Text2->text())));
+void FrmVel::TidyLength() {
+    const QString text = ToQt(FastLengthText(FromQt(length_->text())));
     // The same text put again would take the cursor to its end and forget what can be undone.
-    if (text != Text2->text()) Text2->setText(text);
+    if (text != length_->text()) length_->setText(text);
 }
 
 }  // namespace idrova

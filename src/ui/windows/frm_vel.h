@@ -25,17 +25,17 @@ class FrmVel : public ChildWindow {
     static void AddSetting(FieldGrid& rows, const QString& caption, QLineEdit* field,
                            const char* button, const std::function<void()>& set);
 
-    void Command1_Click();
-    void Command2_Click();
-    void Command3_Click();
-    void Combo2_Click(int position);
-    void Text2_Change();
+    void SetFlowRates();
+    void SetLengths();
+    void SetDiameters();
+    void ChooseSize(int position);
+    void TidyLength();
 
     Program& program_;
-    QLineEdit* Text1;
-    QLineEdit* Text2;
-    QComboBox* Combo2;
-    QLineEdit* Text3;
+    QLineEdit* flow_;
+    QLineEdit* length_;
+    QComboBox* sizes_;
+    QLineEdit* diameter_;
 };
 
 }  // namespace idrova

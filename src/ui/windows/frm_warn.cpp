@@ -34,10 +34,10 @@ FrmWarn::FrmWarn(int milliseconds, std::function<void()> ended)
         column->addWidget(line);
     }
     move(screen()->availableGeometry().center() - rect().center());
-    Named(&Timer1, "Timer1");
-    Timer1.setSingleShot(true);
-    connect(&Timer1, &QTimer::timeout, this, [this] { End(); });
-    Timer1.start(milliseconds);
+    Named(&endTimer_, "Timer1");
+    endTimer_.setSingleShot(true);
+    connect(&endTimer_, &QTimer::timeout, this, [this] { End(); });
+    endTimer_.start(milliseconds);
     show();
     activateWindow();
 }
@@ -52,7 +52,7 @@ void FrmWarn::keyPressEvent(QKeyEvent* /*event*/) {
 
 void FrmWarn::End() {
     if (!ended_) return;
-    Timer1.stop();
+    endTimer_.stop();
     hide();
     deleteLater();
     std::exchange(ended_, nullptr)();

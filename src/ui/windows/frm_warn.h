@@ -20,7 +20,7 @@ class FrmWarn : public QWidget {
   private:
     void End();
 
-    QTimer Timer1;
+    QTimer endTimer_;
     std::function<void()> ended_;
 };
 
