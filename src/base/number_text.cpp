@@ -163,6 +163,16 @@ std::string FormatDecimal(Number value, std::string_view pattern) {
     return exponent ? ExponentPattern(decimal, pattern) : DigitPattern(decimal, pattern);
 }
 
+std::string PlainForm(double value, std::chars_format form, int precision) {
+    if (!std::isfinite(value)) return "";
+    std::array<char, 400> buffer;  // holds the largest double with its decimals
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, form, precision);
+    std::string text(buffer.data(), end.ptr);
+    const bool isZero = text.find_first_of("123456789") == std::string::npos;
+    return isZero && text.front() == '-' ? text.substr(1) : text;
+}
+
 bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
@@ -221,6 +231,15 @@ std::string FormatNumber(double value, std::string_view pattern) {
 
 std::string FormatNumber(float value, std::string_view pattern) {
     return FormatDecimal(value, pattern);
+}
+
+std::string PlainText(double value) {
+    constexpr int kSingleDigits = 7;
+    return PlainForm(value, std::chars_format::general, kSingleDigits);
+}
+
+std::string FixedText(double value, int decimals) {
+    return PlainForm(value, std::chars_format::fixed, decimals);
 }
 
 double ReadNumber(std::string_view text) {

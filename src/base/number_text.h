@@ -34,6 +34,12 @@ std::string FormatNumber(double value, std::string_view pattern);
 /// The same on the shortest decimal text of a single (0.285F counts as .285 exactly).
 std::string FormatNumber(float value, std::string_view pattern);
 
+/// As other programs and people read numbers today: a zero before the point, "0.05". `PlainText`
+/// has up to 7 significant digits ("1.5e-05"), `FixedText` always the given decimals ("0.050").
+/// Never a negative zero; empty for a value that is not finite.
+std::string PlainText(double value);
+std::string FixedText(double value, int decimals);
+
 /// The longest leading decimal number of `text`, blanks before it skipped, exponent allowed.
 /// 0 when there is none or when it is out of a double's range.
 double ReadNumber(std::string_view text);

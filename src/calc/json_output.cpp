@@ -112,19 +112,19 @@ Json PumpList(const WorkNetwork& results) {
 
 }  // namespace
 
-std::string JsonText(const Settings& settings, const RunRecord& run) {
+std::string JsonText(const RunRecord& run, const std::vector<MessageBox>& messages) {
     const Outcome& outcome = run.outcome;
     Json json = {{"outcome", OutcomeName(outcome.end)},
                  {"passes", outcome.passes},
                  {"residual", outcome.residual},
                  {"worst_pipe", outcome.worstPipe},
                  {"notes", NoteList(outcome.notes)},
-                 {"messages", MessageList(run.messages)},
+                 {"messages", MessageList(messages)},
                  {"pipes", Json::array()},
                  {"points", Json::array()},
                  {"pumps", Json::array()}};
-    if (run.results != nullptr) {
-        json["pipes"] = PipeList(*run.results, settings);
+    if (run.results) {
+        json["pipes"] = PipeList(*run.results, run.settings);
         json["points"] = PointList(*run.results);
         json["pumps"] = PumpList(*run.results);
     }

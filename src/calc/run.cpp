@@ -29,11 +29,12 @@ class ProjectRun {
 
     ExitStatus Do() {
         if (!Prepare()) return ExitStatus::WrongUse;
-        const Outcome outcome = Compute();
-        PrintNotes(outcome);
+        Compute();
+        PrintNotes(run_.outcome);
         const bool saved = Save();
-        const bool printed = Print(outcome);
-        return saved && printed && !reportFailed_ ? StatusOf(outcome.end) : ExitStatus::WrongUse;
+        const bool printed = Print();
+        return saved && printed && !reportFailed_ ? StatusOf(run_.outcome.end)
+                                                  : ExitStatus::WrongUse;
     }
 
   private:
@@ -82,19 +83,18 @@ class ProjectRun {
         return true;
     }
 
-    Outcome Compute() {
+    void Compute() {
         const bool gas = options_.equation == Equation::Compressible;
-        if (gas && !ChooseCompressible(project_->settings, boxes_)) return {};
+        if (gas && !ChooseCompressible(project_->settings, boxes_)) return;
         TableTexts texts;
         FillTable(*project_, texts);
         const auto write = ReportWriter(*project_, options_.data, report_);
         const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
-            results_ = std::make_unique<WorkNetwork>(work);
             Status written = options_.noReport ? Done{} : write(settings, work);
             reportFailed_ = !written;
             return written;
         };
-        return RunNetwork(*project_, texts, *work_,
+        run_ = RunNetwork(*project_, texts, *work_,
                           {.boxes = boxes_, .writeReport = writeReport, .seed = options_.seed});
     }
 
@@ -106,15 +106,15 @@ class ProjectRun {
     }
 
     bool Save() {
-        if (options_.save.empty() || !results_) return true;
+        if (options_.save.empty() || !run_.results) return true;
         const Status saved = WriteProject(*project_, options_.save);
         if (!saved) boxes_.Show({saved.Error(), kSaveTitle});
         return static_cast<bool>(saved);
     }
 
-    bool Print(const Outcome& outcome) {
+    bool Print() {
         if (options_.json) {
-            out_ << JsonText(project_->settings, {outcome, boxes_.Shown(), results_.get()});
+            out_ << JsonText(run_, boxes_.Shown());
         } else {
             out_ << report_;
         }
@@ -145,7 +145,7 @@ class ProjectRun {
     PrintedBoxes boxes_;
     std::unique_ptr<Project> project_ = std::make_unique<Project>();
     std::unique_ptr<WorkNetwork> work_ = std::make_unique<WorkNetwork>();
-    std::unique_ptr<WorkNetwork> results_;  ///< as reported, without the base pressure
+    RunRecord run_;
     std::string report_;
     bool reportFailed_ = false;
 };

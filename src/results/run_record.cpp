@@ -62,4 +62,15 @@ RunInputs InputsOf(const Project& project) {
     return inputs;
 }
 
+void TurnFlowsWith(const Project& project, RunRecord& record) {
+    if (!record.results || record.settings.Mode != WorkMode::Graphic) return;
+    for (int i = 1; i <= record.results->WorkPipeCount; ++i) {
+        PipeRec& pipe = record.results->WorkPipes[i];
+        const int from = project.Pipes[i].FlowFromPoint;
+        if (!pipe.IsDrawn() || from == pipe.FlowFromPoint || !pipe.IsEnd(from)) continue;
+        pipe.FlowFromPoint = project.Pipes[i].FlowFromPoint;
+        pipe.FlowRate = -pipe.FlowRate;
+    }
+}
+
 }  // namespace idrova

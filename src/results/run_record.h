@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "hydraulics/compute_network.h"
+#include "hydraulics/work_network.h"
 #include "model/project.h"
+#include "results/report.h"
 
 namespace idrova {
 
@@ -47,6 +50,13 @@ RunInputs InputsOf(const Project& project);
 struct RunRecord {
     RunInputs inputs;
     Outcome outcome;
+    Settings settings;                     ///< with which it was computed
+    std::optional<WorkNetwork> results{};  ///< without the base pressure; nothing when not stored
+    ReportTime time{};
 };
+
+/// Takes the reference end of every pipe from the drawing, the sign of its flow with it, after
+/// these were turned round there.
+void TurnFlowsWith(const Project& project, RunRecord& record);
 
 }  // namespace idrova

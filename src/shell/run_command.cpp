@@ -56,11 +56,16 @@ Outcome Compute(const Settings& settings, WorkNetwork& work, bool pipeDataChecke
         {.seed = host.seed, .progress = host.showProgress, .pipeDataChecked = pipeDataChecked});
 }
 
-/// Writes the report of a run that has results, takes the progress away, tells what went wrong.
-void Report(const Settings& settings, const WorkNetwork& work, const Outcome& outcome,
-            const RunHost& host) {
+/// Puts what has come of a run into its record: writes the report when there are results, takes the
+/// progress away, tells what went wrong.
+void Report(const WorkNetwork& work, const RunHost& host, RunRecord& record) {
+    const Outcome& outcome = record.outcome;
     Status written = Done{};
-    if (HasResults(outcome)) written = host.writeReport(settings, work);
+    if (HasResults(outcome)) {
+        record.results = work;
+        record.time = CurrentReportTime();
+        written = host.writeReport(record.settings, work);
+    }
     host.endProgress();
     if (outcome.refusal) host.boxes.Show(RefusalBox(*outcome.refusal));
     if (outcome.end == RunEnd::NotFinite) host.boxes.Show(kDoesNotSettle);
@@ -82,31 +87,32 @@ void CheckPressures(Settings& settings, WorkNetwork& work, MessageBoxes& boxes) 
 
 }  // namespace
 
-Outcome RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
-                   const RunHost& host) {
-    if (!FillNetwork(project, texts, work, host.boxes)) return {};
-    Outcome outcome = Compute(project.settings, work, true, host);
-    const bool stored = HasResults(outcome);
+RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
+                     const RunHost& host) {
+    RunRecord record{InputsOf(project), {}, project.settings};
+    if (!FillNetwork(project, texts, work, host.boxes)) return record;
+    record.outcome = Compute(project.settings, work, true, host);
+    const bool stored = HasResults(record.outcome);
     if (stored && project.settings.Mode == WorkMode::Graphic) StoreIntoProject(work, project);
-    Report(project.settings, work, outcome, host);
-    if (!stored) return outcome;
+    Report(work, host, record);
+    if (!stored) return record;
     CheckPumps(work, host.boxes);
     CheckPressures(project.settings, work, host.boxes);
-    return outcome;
+    return record;
 }
 
-SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Settings& settings, WorkNetwork& work,
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work,
                                const RunHost& host) {
-    SinglePipeResult result;
-    result.outcome.end = RunEnd::Empty;
+    SinglePipeResult result{{InputsOf(project), {}, project.settings}, {}};
+    RunRecord& record = result.record;
+    record.outcome.end = RunEnd::Empty;
     if (!IsComplete(pipe)) return result;
 
-    Settings round = settings;
-    round.SectionType = Section::Circular;
+    record.settings.SectionType = Section::Circular;
     BuildSinglePipeNetwork(pipe, work);
-    result.outcome = Compute(round, work, false, host);
-    Report(round, work, result.outcome, host);
-    if (HasResults(result.outcome)) result.box = ComputedText(pipe, work);
+    record.outcome = Compute(record.settings, work, false, host);
+    Report(work, host, record);
+    if (record.results) result.box = ComputedText(pipe, work);
     return result;
 }
 

@@ -13,6 +13,7 @@
 #include "hydraulics/single_pipe.h"
 #include "hydraulics/work_network.h"
 #include "model/project.h"
+#include "results/run_record.h"
 #include "table/table_texts.h"
 
 namespace idrova {
@@ -32,17 +33,17 @@ struct RunHost {
 
 /// Computes the table or the drawing, as the mode says: refusals told, the drawing's results stored
 /// in the project, the report written, pumps and pressures checked.
-Outcome RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
-                   const RunHost& host);
+RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
+                     const RunHost& host);
 
 struct SinglePipeResult {
-    Outcome outcome;
+    RunRecord record;
     std::optional<BoxText> box;  ///< the unknown's new text, when there is one
 };
 
 /// Computes the unknown of one round pipe, unless it is incomplete: refusals told, the report
 /// written. Takes the settings of the project, which keeps its data and results.
-SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Settings& settings, WorkNetwork& work,
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work,
                                const RunHost& host);
 
 /// A `writeReport` that keeps the report in `report` and puts it into the results file of `folder`.

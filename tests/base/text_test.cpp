@@ -52,6 +52,17 @@ TEST(FormatNumber, FollowsThePattern) {
         EXPECT_EQ(FormatNumber(value, pattern), text) << value << " in " << pattern;
     }
     EXPECT_EQ(FormatNumber(0.285F, "#.##"), ".29") << "a single by its decimal text";
+    const std::vector<std::tuple<double, const char*, const char*>> plain = {
+        {.05, "0.05", "0.05"},
+        {-.001, "-0.001", "0.00"},
+        {1234567.89, "1234568", "1234567.89"},
+        {1.5e-5, "1.5e-05", "0.00"},
+        {-0.0, "0", "0.00"},
+        {-kInfinity, "", ""}};
+    for (const auto& [value, text, twoDecimals] : plain) {
+        EXPECT_EQ(PlainText(value), text);
+        EXPECT_EQ(FixedText(value, 2), twoDecimals);
+    }
 }
 
 TEST(ReadNumber, TakesTheLongestLeadingNumberAndParseNumberAll) {

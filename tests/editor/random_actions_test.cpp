@@ -105,7 +105,7 @@ class RandomUser {
         const auto work = std::make_unique<WorkNetwork>();
         const auto noReport = [](const Settings&, const WorkNetwork&) { return Status(Done{}); };
         const RunHost host{.boxes = plant.boxes, .writeReport = noReport, .seed = 1};
-        runs.insert(RunNetwork(project, {}, *work, host).end);
+        runs.insert(RunNetwork(project, {}, *work, host).outcome.end);
     }
 
     void Reopen() {

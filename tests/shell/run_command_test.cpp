@@ -63,7 +63,7 @@ class RunCommand : public testing::Test {
 
     std::string Run() {
         host->steps.clear();
-        outcome = RunNetwork(*network, texts, *work, host->Host());
+        record = RunNetwork(*network, texts, *work, host->Host());
         return host->steps;
     }
 
@@ -71,14 +71,14 @@ class RunCommand : public testing::Test {
     TableTexts texts;
     std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
     std::unique_ptr<RecordedHost> host = std::make_unique<RecordedHost>();
-    Outcome outcome;
+    RunRecord record;
 };
 
 TEST_F(RunCommand, StoresReportsThenChecksPumpsThenPressures) {
     for (const Answer answer : {Answer::No, Answer::Yes}) {
         host->answer = answer;
         EXPECT_EQ(Run(), "progress;report;end;Working point check;Pressure check;");
-        EXPECT_EQ(outcome.end, RunEnd::Settled);
+        EXPECT_EQ(record.outcome.end, RunEnd::Settled);
         const float lowest = work->WorkPoints[2].Pressure;
         EXPECT_LT(lowest, 0);
         EXPECT_EQ(network->settings.BasePressure, answer == Answer::Yes ? -lowest : 1000);
@@ -86,6 +86,7 @@ TEST_F(RunCommand, StoresReportsThenChecksPumpsThenPressures) {
     EXPECT_EQ(Pump().Result, 1);
     for (int i = 1; i <= 4; ++i) {
         EXPECT_EQ(network->Points[i].Pressure, host->reported.WorkPoints[i].Pressure);
+        EXPECT_EQ(record.results->WorkPoints[i].Pressure, host->reported.WorkPoints[i].Pressure);
         EXPECT_EQ(host->reported.WorkPoints[i].Pressure + 1000, work->WorkPoints[i].Pressure);
     }
     EXPECT_EQ(network->Pipes[2].FlowRate, work->WorkPipes[2].FlowRate);
@@ -102,8 +103,9 @@ TEST_F(RunCommand, WithoutResultsNothingIsStored) {
     const auto expectNothing = [this](const char* steps, RunEnd end) {
         const auto before = std::make_unique<Project>(*network);
         EXPECT_EQ(Run(), steps);
-        EXPECT_EQ(outcome.end, end);
+        EXPECT_EQ(record.outcome.end, end);
         EXPECT_EQ(*network, *before);
+        EXPECT_FALSE(record.results);
     };
     host->stops = true;
     expectNothing("progress;end;", RunEnd::Stopped);
@@ -138,8 +140,8 @@ TEST_F(RunCommand, SinglePipeFindsEachUnknownAndNothingWithoutAPipe) {
     const auto find = [&](PipeQuantity unknown) {
         host->steps.clear();
         pipe.unknown = unknown;
-        const SinglePipeResult result = RunSinglePipe(pipe, settings, *work, host->Host());
-        EXPECT_EQ(result.outcome.end == RunEnd::Settled, result.box.has_value());
+        const SinglePipeResult result = RunSinglePipe(pipe, *network, *work, host->Host());
+        EXPECT_EQ(result.record.outcome.end == RunEnd::Settled, result.box.has_value());
         return result.box.value_or(BoxText()).text;
     };
     TypeQuantity(pipe, PipeQuantity::PressureAt1, "2");

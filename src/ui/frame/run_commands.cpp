@@ -2,7 +2,6 @@
 #include "ui/frame/run_commands.h"
 
 #include <optional>
-#include <utility>
 
 #include "hydraulics/run_settings.h"
 #include "shell/run_command.h"
@@ -16,7 +15,7 @@ namespace idrova {
 
 namespace {
 
-Outcome Compute(MDI& mdi) {
+RunRecord Compute(MDI& mdi) {
     Program& program = mdi.State();
     std::optional<FrmAva> progress;
     const auto showProgress = [&](const RunProgress& shown) {
@@ -34,10 +33,7 @@ Outcome Compute(MDI& mdi) {
 void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
-    // A base pressure that the run has offered counts from the next one.
-    RunRecord record{InputsOf(program.project), {}};
-    record.outcome = Compute(mdi);
-    program.records[program.project.settings.Mode] = std::move(record);
+    program.records[program.project.settings.Mode] = Compute(mdi);
     mdi.ShowState();
 }
 
@@ -46,8 +42,11 @@ void Calculate(MDI& mdi) {
 void AttachRunCommands(MDI& mdi) {
     Program& program = mdi.State();
     mdi.Panel().calculate = [&mdi] { Calculate(mdi); };
-    mdi.Menu().Attach("Ordina",
-                      [&program] { MakeFlowRatesPositive(program.project, program.boxes); });
+    mdi.Menu().Attach("Ordina", [&program] {
+        if (!MakeFlowRatesPositive(program.project, program.boxes)) return;
+        const auto record = program.records.find(WorkMode::Graphic);
+        if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
+    });
 }
 
 }  // namespace idrova

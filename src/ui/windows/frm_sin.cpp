@@ -193,10 +193,9 @@ void FrmSin::Recompute() {
     const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
         return FirstFailure(write(settings, work));
     };
-    const SinglePipeResult result =
-        RunSinglePipe(pipe_, program_.project.settings, program_.work,
-                      {.boxes = program_.boxes, .writeReport = writeReport});
-    program_.records[WorkMode::SinglePipe] = {InputsOf(program_.project), result.outcome};
+    SinglePipeResult result = RunSinglePipe(pipe_, program_.project, program_.work,
+                                            {.boxes = program_.boxes, .writeReport = writeReport});
+    program_.records[WorkMode::SinglePipe] = std::move(result.record);
     program_.changed();
     if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
 }
