@@ -8,7 +8,7 @@
 #include <memory>
 #include <vector>
 
-#include "model/settings.h"
+#include "model/version.h"
 #include "shell/start_up.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"

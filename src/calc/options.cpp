@@ -7,6 +7,7 @@
 
 #include "base/number_text.h"
 #include "calc/exit_status.h"
+#include "model/version.h"
 
 namespace idrova {
 namespace {

@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "editor/messages.h"
 #include "editor/pipe_ends.h"
+#include "model/drawn_records.h"
 
 namespace idrova {
 namespace {
@@ -17,11 +18,9 @@ namespace {
 int PipeAtCell(const Project& project, int cell) {
     const CellRec& record = project.Cells[cell];
     if (record.Kind == CellKind::Crossed) return record.CrossingPipe;
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
-            if (project.Points[point].Cell == cell) return i;
+            if (project.Points[point].Cell == cell) return number;
         }
     }
     return 0;

@@ -11,6 +11,7 @@
 
 #include "base/number_text.h"
 #include "editor/grid_view.h"
+#include "model/drawn_records.h"
 
 namespace idrova {
 namespace {
@@ -90,10 +91,8 @@ class LabelPlaces {
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
     const ScreenPoint origin = Shown(project, editor, {0, 0});
     LabelPlaces places(project, {-origin.x, -origin.y});
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[i];
-        if (!point.IsDrawn()) continue;
-        const std::string text = LabelText(project, i);
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        const std::string text = LabelText(project, number);
         // Points that are scrolled away take their places too: no label moves by scrolling.
         const ScreenPoint corner = places.Take(point, text.size());
         const ScreenPoint from = Shown(project, editor, {point.X, point.Y});
@@ -103,7 +102,7 @@ void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& s
         }
         surface.TextLabel(
             Shown(project, editor, corner), text,
-            project.PressureUnknown[i] ? drawing_colour::kUnknown : drawing_colour::kKnown);
+            project.PressureUnknown[number] ? drawing_colour::kUnknown : drawing_colour::kKnown);
     }
 }
 
@@ -122,9 +121,7 @@ void DrawArrow(const Project& project, const PipePart& part, DrawingSurface& sur
 }
 
 void DrawArrows(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         auto part = ShownPart(project, editor, pipe);
         if (!part) continue;
         if (project.Points[pipe.StartPoint].Pressure < project.Points[pipe.EndPoint].Pressure) {
@@ -135,16 +132,6 @@ void DrawArrows(const Project& project, const Editor& editor, DrawingSurface& su
 }
 
 }  // namespace
-
-std::optional<PipePart> ShownPart(const Project& project, const Editor& editor,
-                                  const PipeRec& pipe) {
-    const ScreenPoint from = Shown(project, editor, {pipe.X1, pipe.Y1});
-    const ScreenPoint to = Shown(project, editor, {pipe.X2, pipe.Y2});
-    const PipePart part{ClampToGrid(project, from), ClampToGrid(project, to)};
-    const bool aside = from.x == to.x ? part.from.x != from.x : part.from.y != from.y;
-    if (aside || part.from == part.to) return std::nullopt;
-    return part;
-}
 
 void ApplyDataLabels(const Project& project, const Editor& editor, DrawingSurface& surface) {
     if (!editor.DataShown) return;

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
-
 #include "editor/drawing_surface.h"
 #include "editor/editor_state.h"
 #include "model/project.h"
@@ -12,13 +10,5 @@ namespace idrova {
 /// Draws a pressure label at every point and a flow arrow on every pipe while `DataShown`. A flow
 /// arrow points from the higher pressure to the lower.
 void ApplyDataLabels(const Project& project, const Editor& editor, DrawingSurface& surface);
-
-struct PipePart {
-    ScreenPoint from, to;  ///< from the pipe's start towards its end
-};
-
-/// The part of a pipe that the scrolled grid shows; nothing when it shows none.
-std::optional<PipePart> ShownPart(const Project& project, const Editor& editor,
-                                  const PipeRec& pipe);
 
 }  // namespace idrova

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 
-#include "base/number_text.h"
 #include "editor/messages.h"
 #include "editor/pipe_ends.h"
 
@@ -26,14 +25,8 @@ void ReleasePoint(Project& project, int number) {
     project.CellIsNode[cell] = LivePointIn(project, cell) != 0;
 }
 
-}  // namespace
-
-MessageBox AskDeletePipe(int pipe) {
-    return {"The DELETE function is not tested yet!\rDo you want to delete the pipe ? " +
-                StrText(pipe) + " ?",
-            "Pipe deleting", BoxIcon::Question, BoxButtons::OkCancel};
-}
-
+/// Turns a live pipe into a deleted slot, and with it those of its points that no other pipe uses.
+/// A component at its end loses the pipe it stands in and goes too.
 void DeletePipe(Project& project, int number) {
     PipeRec& pipe = project.Pipes[number];
     const std::array ends{pipe.StartPoint, pipe.EndPoint};
@@ -43,11 +36,14 @@ void DeletePipe(Project& project, int number) {
     RebuildPipeCells(project);
 }
 
+/// The cell keeps its kind: a plain connection that holds its two pipe pieces together.
 void DeleteComponent(Project& project, int cell) {
     const CellKind kind = project.Cells[cell].Kind;
     project.Cells[cell] = CellRec();
     project.Cells[cell].Kind = kind;
 }
+
+}  // namespace
 
 void DeleteSelected(Project& project, Editor& editor, MessageBoxes& boxes) {
     editor.DataShown = false;

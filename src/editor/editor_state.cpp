@@ -28,17 +28,13 @@ void AbortInsertion(Editor& editor) {
     editor.firstCell = 0;
 }
 
-void ClearDrawing(Editor& editor) {
+void RedrawProject(Project& project, Editor& editor) {
     AbortInsertion(editor);
     editor.selectedComponent = 0;
     editor.pipeSelected = false;
     editor.DataShown = false;
     editor.ScrX = 1;
     editor.ScrY = 1;
-}
-
-void RedrawProject(Project& project, Editor& editor) {
-    ClearDrawing(editor);
     RebuildPipeCells(project);
 }
 

@@ -43,12 +43,9 @@ std::array<std::string_view, 4> HintLines(const Editor& editor);
 /// Drops whatever is begun: a pipe without its end, an armed component.
 void AbortInsertion(Editor& editor);
 
-/// What is left of the editor when its network goes: nothing begun, selected or labelled, scrolled
-/// to the first cell. The component choice stays.
-void ClearDrawing(Editor& editor);
-
 /// Fits the editor to a network that was put in place of the one shown, and derives its crossed
-/// cells.
+/// cells: nothing is begun, selected or labelled, scrolled to the first cell. The component choice
+/// stays.
 void RedrawProject(Project& project, Editor& editor);
 
 }  // namespace idrova

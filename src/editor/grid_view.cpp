@@ -12,6 +12,13 @@ ScreenPoint FarCorner(const Project& project) {
             grid.GridTop + project.GridSize * grid.CellHeight};
 }
 
+/// A shown position moved to the nearest one on the grid.
+ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown) {
+    const ScreenPoint end = FarCorner(project);
+    return {std::clamp(shown.x, project.Grid.GridLeft, end.x),
+            std::clamp(shown.y, project.Grid.GridTop, end.y)};
+}
+
 }  // namespace
 
 int PlaceUnder(const Project& project, int x, int y) {
@@ -49,10 +56,14 @@ bool IsOnGrid(const Project& project, ScreenPoint shown) {
     return PlaceUnder(project, shown.x, shown.y) != 0;
 }
 
-ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown) {
-    const ScreenPoint end = FarCorner(project);
-    return {std::clamp(shown.x, project.Grid.GridLeft, end.x),
-            std::clamp(shown.y, project.Grid.GridTop, end.y)};
+std::optional<PipePart> ShownPart(const Project& project, const Editor& editor,
+                                  const PipeRec& pipe) {
+    const ScreenPoint from = Shown(project, editor, {pipe.X1, pipe.Y1});
+    const ScreenPoint to = Shown(project, editor, {pipe.X2, pipe.Y2});
+    const PipePart part{ClampToGrid(project, from), ClampToGrid(project, to)};
+    const bool aside = from.x == to.x ? part.from.x != from.x : part.from.y != from.y;
+    if (aside || part.from == part.to) return std::nullopt;
+    return part;
 }
 
 }  // namespace idrova

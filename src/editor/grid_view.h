@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <optional>
+
 #include "editor/editor_state.h"
 #include "model/grid.h"
 #include "model/project.h"
@@ -28,7 +30,12 @@ ScreenPoint Shown(const Project& project, const Editor& editor, ScreenPoint at);
 /// Whether a shown position lies on the grid.
 bool IsOnGrid(const Project& project, ScreenPoint shown);
 
-/// A shown position moved to the nearest one on the grid.
-ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown);
+struct PipePart {
+    ScreenPoint from, to;  ///< from the pipe's start towards its end
+};
+
+/// The part of a pipe that the scrolled grid shows; nothing when it shows none.
+std::optional<PipePart> ShownPart(const Project& project, const Editor& editor,
+                                  const PipeRec& pipe);
 
 }  // namespace idrova

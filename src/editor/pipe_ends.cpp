@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "model/drawn_records.h"
+
 namespace idrova {
 namespace {
 
@@ -62,8 +64,8 @@ bool RunsThrough(const PipeRec& pipe, ScreenPoint place) {
 }
 
 int LivePointIn(const Project& project, int cell) {
-    for (int i = 1; i <= project.npres; ++i) {
-        if (project.Points[i].IsDrawn() && project.Points[i].Cell == cell) return i;
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        if (point.Cell == cell) return number;
     }
     return 0;
 }
@@ -98,15 +100,13 @@ int AddPipe(Project& project) {
 
 int JoinPoints(Project& project, int cell) {
     const int kept = LivePointIn(project, cell);
-    for (int other = kept + 1; other <= project.npres; ++other) {
-        PointRec& point = project.Points[other];
-        if (!point.IsDrawn() || point.Cell != cell) continue;
+    for (const auto& [other, point] : DrawnPoints(project)) {
+        if (point.Cell != cell || other == kept) continue;
         if (project.PressureUnknown[kept] && !project.PressureUnknown[other]) {
             project.PressureUnknown[kept] = false;
             project.Points[kept].Pressure = point.Pressure;
         }
-        for (int i = 1; i <= project.numtubo; ++i) {
-            PipeRec& pipe = project.Pipes[i];
+        for (const auto& [number, pipe] : DrawnPipes(project)) {
             for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
                 if (PointAt(pipe, end) == other) PutEnd(project, pipe, end, kept);
             }

@@ -7,6 +7,7 @@
 
 #include "editor/messages.h"
 #include "editor/pipe_ends.h"
+#include "model/drawn_records.h"
 
 namespace idrova {
 namespace {
@@ -14,9 +15,7 @@ namespace {
 /// Number of pipes that a new pipe with these ends cuts in two, counted once for each end.
 int CountSplits(const Project& project, ScreenPoint first, ScreenPoint second) {
     int splits = 0;
-    for (int j = 1; j <= project.numtubo; ++j) {
-        const PipeRec& pipe = project.Pipes[j];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         splits += static_cast<int>(RunsThrough(pipe, first));
         splits += static_cast<int>(RunsThrough(pipe, second));
     }
@@ -66,11 +65,9 @@ struct Split {
 std::optional<Split> FindSplit(const Project& project, int number) {
     const PipeRec& pipe = project.Pipes[number];
     const PipeEnd far = FarEnd(pipe);
-    for (int j = 1; j <= project.numtubo; ++j) {
-        if (!project.Pipes[j].IsDrawn()) continue;
+    for (const auto& [crossed, other] : DrawnPipes(project)) {
         for (const PipeEnd end : {Other(far), far}) {
-            if (RunsThrough(project.Pipes[j], PlaceOf(pipe, end)))
-                return Split{j, PointAt(pipe, end)};
+            if (RunsThrough(other, PlaceOf(pipe, end))) return Split{crossed, PointAt(pipe, end)};
         }
     }
     return std::nullopt;

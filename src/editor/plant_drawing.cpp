@@ -7,6 +7,7 @@
 #include "editor/data_labels.h"
 #include "editor/grid_view.h"
 #include "editor/pipe_ends.h"
+#include "model/drawn_records.h"
 
 namespace idrova {
 namespace {
@@ -14,15 +15,23 @@ namespace {
 constexpr int kLeader = 300;  ///< reach of a leader line, screen units
 
 void DrawPipes(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         const auto part = ShownPart(project, editor, pipe);
         if (!part) continue;
-        const bool selected = editor.pipeSelected && i == project.CurrentPipe;
-        surface.PipeLine(i, part->from, part->to,
+        const bool selected = editor.pipeSelected && number == project.CurrentPipe;
+        surface.PipeLine(number, part->from, part->to,
                          selected ? drawing_colour::kSelectedPipe : drawing_colour::kPipe);
     }
+}
+
+/// Relative to the program folder; empty where no component is placed.
+std::string_view IconFile(const CellRec& cell) {
+    if (!cell.Placed) return {};
+    if (cell.Kind == CellKind::Loss) return "IMG\\PERC.ico";
+    constexpr std::array<std::string_view, 4> pumps = {"IMG\\arrt.ico", "IMG\\ardn.ico",
+                                                       "IMG\\arlt.ico", "IMG\\arup.ico"};
+    if (cell.Direction == Delivery::None) return {};
+    return pumps[static_cast<std::size_t>(cell.Direction) - 1];
 }
 
 void PlacePointMarker(const Project& project, const Editor& editor, ScreenPoint centre,
@@ -33,9 +42,8 @@ void PlacePointMarker(const Project& project, const Editor& editor, ScreenPoint 
 
 /// A component's icon stands for the two points in its cell.
 void DrawMarkers(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[i];
-        if (!point.IsDrawn() || !IconFile(project.Cells[point.Cell]).empty()) continue;
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        if (!IconFile(project.Cells[point.Cell]).empty()) continue;
         PlacePointMarker(project, editor, {point.X, point.Y}, surface);
     }
     if (editor.state == InsertState::EndPoint) {
@@ -76,15 +84,6 @@ void DrawSelectedComponent(const Project& project, const Editor& editor, Drawing
 }
 
 }  // namespace
-
-std::string_view IconFile(const CellRec& cell) {
-    if (!cell.Placed) return {};
-    if (cell.Kind == CellKind::Loss) return "IMG\\PERC.ico";
-    constexpr std::array<std::string_view, 4> pumps = {"IMG\\arrt.ico", "IMG\\ardn.ico",
-                                                       "IMG\\arlt.ico", "IMG\\arup.ico"};
-    if (cell.Direction == Delivery::None) return {};
-    return pumps[static_cast<std::size_t>(cell.Direction) - 1];
-}
 
 void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface) {
     surface.Grid(editor.ScrX, editor.ScrY);

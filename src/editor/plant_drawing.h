@@ -11,7 +11,4 @@ namespace idrova {
 /// labels of what is selected, and the data labels when they are shown. Changes neither.
 void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface);
 
-/// The icon of a placed component, relative to the program folder; empty for any other cell.
-std::string_view IconFile(const CellRec& cell);
-
 }  // namespace idrova

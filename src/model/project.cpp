@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/drawn_records.h"
 #include "model/grid.h"
 
 namespace idrova {
@@ -16,8 +17,7 @@ void MarkCrossed(Project& project, int pipe, int cell) {
     crossed.CrossingPipe = static_cast<std::int16_t>(pipe);
 }
 
-void MarkCellsOf(Project& project, int number) {
-    const PipeRec& pipe = project.Pipes[static_cast<std::size_t>(number)];
+void MarkCellsOf(Project& project, int number, const PipeRec& pipe) {
     const bool horizontal = pipe.Y1 == pipe.Y2;
     const auto [from, to] =
         horizontal ? std::minmax(pipe.X1, pipe.X2) : std::minmax(pipe.Y1, pipe.Y2);
@@ -30,14 +30,6 @@ void MarkCellsOf(Project& project, int number) {
 }
 
 }  // namespace
-
-std::string VersionText() {
-    return std::string(kVersionNumber) + kVersionRelease;
-}
-
-std::string WindowTitle(std::string_view name) {
-    return "Idrova " + VersionText() + " - [" + std::string(name) + "]";
-}
 
 void InitialiseProject(Project& project) {
     project.settings = Settings{};
@@ -79,8 +71,8 @@ void RebuildPipeCells(Project& project) {
     for (int i = 1; i <= project.numtubo; ++i) {
         PipeRec& pipe = project.Pipes[static_cast<std::size_t>(i)];
         if (!pipe.IsEnd(pipe.FlowFromPoint)) pipe.FlowFromPoint = pipe.StartPoint;
-        if (pipe.IsDrawn()) MarkCellsOf(project, i);
     }
+    for (const auto& [number, pipe] : DrawnPipes(project)) MarkCellsOf(project, number, pipe);
 }
 
 }  // namespace idrova

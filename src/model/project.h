@@ -4,7 +4,6 @@
 #include <array>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "model/settings.h"
 
@@ -156,8 +155,5 @@ void ResetProject(Project& project);
 /// Recomputes the cells of kind `Crossed` from the live pipes. Component cells keep their kind.
 /// A pipe whose `FlowFromPoint` is none of its ends gets its start point.
 void RebuildPipeCells(Project& project);
-
-/// "Idrova 2.6.3 - [name]".
-std::string WindowTitle(std::string_view name);
 
 }  // namespace idrova

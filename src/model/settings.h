@@ -6,12 +6,6 @@
 
 namespace idrova {
 
-constexpr const char* kVersionNumber = "2.6";
-constexpr const char* kVersionRelease = ".3";
-
-/// `VersionNumber` followed by `VersionRelease`: heads every project file and every title.
-std::string VersionText();
-
 enum class WorkMode : std::int16_t { Graphic = 1, Table = 2, SinglePipe = 3 };
 enum class Section : std::int16_t { Circular = 1, Rectangular = 2 };
 enum class Unit : std::int16_t { Bar = 1, MilliBar = 2 };

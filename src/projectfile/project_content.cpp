@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "model/drawn_records.h"
 #include "model/grid.h"
 
 namespace idrova {
@@ -49,9 +50,8 @@ void MovePointsToEnds(const ProjectContent::Pipe& source, const PipeRec& pipe, P
 }
 
 void MarkNodes(Project& project) {
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[static_cast<std::size_t>(i)];
-        if (point.IsDrawn()) project.CellIsNode[static_cast<std::size_t>(point.Cell)] = true;
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        project.CellIsNode[static_cast<std::size_t>(point.Cell)] = true;
     }
 }
 

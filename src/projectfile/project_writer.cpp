@@ -4,7 +4,9 @@
 
 #include "base/number_text.h"
 #include "base/print_zones.h"
+#include "model/drawn_records.h"
 #include "model/grid.h"
+#include "model/version.h"
 #include "projectfile/project_file.h"
 #include "projectfile/project_keys.h"
 
@@ -148,9 +150,8 @@ void WriteGivenZeros(PrintZoneWriter& out, const Project& project) {
 /// Only files with a pipe whose flow is counted from its end point have this group.
 void WriteFlowsFromEnd(PrintZoneWriter& out, const Project& project) {
     std::vector<int> pipes;
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[static_cast<std::size_t>(i)];
-        if (pipe.IsDrawn() && pipe.FlowFromPoint == pipe.EndPoint) pipes.push_back(i);
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
+        if (pipe.FlowFromPoint == pipe.EndPoint) pipes.push_back(number);
     }
     if (pipes.empty()) return;
     KeyLine(out, kFlowFromEndKey);

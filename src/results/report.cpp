@@ -8,6 +8,7 @@
 #include "base/number_text.h"
 #include "base/print_zones.h"
 #include "model/pipe_sizes.h"
+#include "model/version.h"
 #include "results/report_figures.h"
 
 namespace idrova {

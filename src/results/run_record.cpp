@@ -3,6 +3,8 @@
 
 #include <cmath>
 
+#include "model/drawn_records.h"
+
 namespace idrova {
 namespace {
 
@@ -32,14 +34,12 @@ RunInputs::Pipe InputsOf(const Project& project, int number) {
 }
 
 void AddDrawing(const Project& project, RunInputs& inputs) {
-    for (int i = 1; i <= project.numtubo; ++i) {
-        if (project.Pipes[i].IsDrawn()) inputs.pipes.push_back(InputsOf(project, i));
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
+        inputs.pipes.push_back(InputsOf(project, number));
     }
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[i];
-        if (!point.IsDrawn()) continue;
-        const bool unknown = project.PressureUnknown[i];
-        inputs.points.push_back({i, point.Cell, unknown ? 0 : point.Pressure, unknown});
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        const bool unknown = project.PressureUnknown[number];
+        inputs.points.push_back({number, point.Cell, unknown ? 0 : point.Pressure, unknown});
     }
     for (int cell = 1; cell <= project.CellCount(); ++cell) {
         if (!project.Cells[cell].IsComponent()) continue;

@@ -3,7 +3,7 @@
 
 #include <system_error>
 
-#include "model/settings.h"
+#include "model/version.h"
 #include "shell/messages.h"
 
 namespace idrova {

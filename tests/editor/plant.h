@@ -13,6 +13,7 @@
 #include "editor/deletion.h"
 #include "editor/grid_view.h"
 #include "editor/panel_edits.h"
+#include "model/drawn_records.h"
 #include "model/grid.h"
 #include "support/drawing_invariants.h"
 #include "support/scripted_boxes.h"
@@ -50,11 +51,9 @@ class Plant {
     /// The live pipes: "2:3(8,5)-4(8,9)" is pipe 2 from point 3 in column 8, row 5, to point 4.
     std::string Network() const {
         std::string text;
-        for (int i = 1; i <= project.numtubo; ++i) {
-            const PipeRec& pipe = project.Pipes[i];
-            if (!pipe.IsDrawn()) continue;
-            text += (text.empty() ? "" : " ") + GeneralText(i) + ":" + EndText(pipe.StartPoint) +
-                    "-" + EndText(pipe.EndPoint);
+        for (const auto& [number, pipe] : DrawnPipes(project)) {
+            text += (text.empty() ? "" : " ") + GeneralText(number) + ":" +
+                    EndText(pipe.StartPoint) + "-" + EndText(pipe.EndPoint);
         }
         return text;
     }

@@ -37,6 +37,11 @@ const Drawing kDrawings[] = {
      "L5,5 L2,5 R3,5 again end2=given",
      {"grid from 1,1", "selected pipe 1 1751,1751 917,1751", "point 1751,1751", "point 917,1751",
       "unknown '1' 1751,1751 2051,1451", "known '2' 917,1751 617,1451"}},
+    {"pumps that deliver up and left",
+     "L1,1 L3,1 L1,3 L1,5 pump L2,1 pump L1,4 R2,1 turn R1,4 turn R9,9",
+     {"grid from 1,1", "pipe 1 639,639 917,639", "pipe 2 639,1195 639,1473",
+      "pipe 3 917,639 1195,639", "pipe 4 639,1473 639,1751", "point 639,639", "point 1195,639",
+      "point 639,1195", "point 639,1751", "IMG\\arlt.ico 778,500", "IMG\\arup.ico 500,1334"}},
     {"selected component",
      "L7,7 L9,7 loss L8,7 R8,7",
      {"grid from 1,1", "pipe 1 2307,2307 2585,2307", "pipe 2 2585,2307 2863,2307",
@@ -64,19 +69,6 @@ const Drawing kDrawings[] = {
 
 TEST(PlantDrawing, ShowsWhatTheScriptLeaves) {
     for (const Drawing& c : kDrawings) EXPECT_EQ(Drawn(c.script), c.drawn) << c.what;
-}
-
-TEST(PlantDrawing, IconsFollowKindAndDirection) {
-    CellRec cell;
-    cell.Kind = CellKind::Pump;
-    cell.Direction = Delivery::Right;
-    EXPECT_EQ(IconFile(cell), "");
-    cell.Placed = true;
-    const Lines expected = {"IMG\\arrt.ico", "IMG\\ardn.ico", "IMG\\arlt.ico", "IMG\\arup.ico"};
-    for (int direction = 1; direction <= 4; ++direction) {
-        cell.Direction = static_cast<Delivery>(direction);
-        EXPECT_EQ(IconFile(cell), expected[direction - 1]) << direction;
-    }
 }
 
 TEST(DataLabels, NeverHideEachOther) {

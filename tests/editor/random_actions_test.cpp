@@ -65,7 +65,7 @@ class RandomUser {
             Compute();
         } else if (action->second == "reset") {
             ResetProject(plant.project);
-            ClearDrawing(plant.editor);
+            RedrawProject(plant.project, plant.editor);
         } else {
             plant.Do(action->second);
         }

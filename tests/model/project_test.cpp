@@ -8,6 +8,7 @@
 
 #include "model/invariants.h"
 #include "model/pipe_sizes.h"
+#include "model/version.h"
 #include "support/sample_project.h"
 
 namespace idrova {

@@ -9,6 +9,7 @@
 #include "editor/drawing_surface.h"
 #include "editor/pipe_ends.h"
 #include "editor/plant_drawing.h"
+#include "model/drawn_records.h"
 #include "model/invariants.h"
 #include "projectfile/project_file.h"
 #include "support/network_check.h"
@@ -50,13 +51,11 @@ class DrawnElements final : public DrawingSurface {
 
 void CheckDrawnPipes(const Project& project, const DrawnElements& drawn, Faults& faults) {
     int live = 0;
-    for (int i = 1; i <= project.numtubo; ++i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         ++live;
-        if (drawn.lines[i] !=
+        if (drawn.lines[number] !=
             std::pair{PlaceOf(pipe, PipeEnd::Start), PlaceOf(pipe, PipeEnd::End)}) {
-            faults.push_back(Named("the line is not drawn from end to end of pipe", i));
+            faults.push_back(Named("the line is not drawn from end to end of pipe", number));
         }
     }
     if (drawn.lineCount != live) faults.push_back(Named("pipe lines drawn:", drawn.lineCount));

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "model/drawn_records.h"
 #include "model/grid.h"
 
 namespace idrova {
@@ -12,8 +13,8 @@ namespace {
 
 int PipesAt(const Project& project, int point) {
     int ends = 0;
-    for (int i = 1; i <= project.numtubo; ++i) {
-        ends += static_cast<int>(project.Pipes[i].IsEnd(point));
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
+        ends += static_cast<int>(pipe.IsEnd(point));
     }
     return ends;
 }
@@ -21,25 +22,22 @@ int PipesAt(const Project& project, int point) {
 /// Live points of each cell.
 std::vector<int> CountPointsInCells(const Project& project) {
     std::vector<int> points(kMaxCells + 1);
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[i];
-        if (point.IsDrawn()) ++points[point.Cell];
-    }
+    for (const auto& [number, point] : DrawnPoints(project)) ++points[point.Cell];
     return points;
 }
 
 /// The lowest pipe that crosses each cell; 0 when none does.
 std::vector<int> CrossingPipes(const Project& project) {
     std::vector<int> crossing(kMaxCells + 1);
-    for (int i = project.numtubo; i >= 1; --i) {
-        const PipeRec& pipe = project.Pipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
         const int first =
             CellFromPoint(project, std::min(pipe.X1, pipe.X2), std::min(pipe.Y1, pipe.Y2));
         const int last =
             CellFromPoint(project, std::max(pipe.X1, pipe.X2), std::max(pipe.Y1, pipe.Y2));
         const int step = pipe.Y1 == pipe.Y2 ? 1 : project.GridSize;
-        for (int cell = first; cell <= last; cell += step) crossing[cell] = i;
+        for (int cell = first; cell <= last; cell += step) {
+            if (crossing[cell] == 0) crossing[cell] = number;
+        }
     }
     return crossing;
 }
@@ -70,13 +68,11 @@ std::string Named(const char* what, int number) {
 }
 
 void CheckPoints(const Project& project, Faults& faults) {
-    for (int i = 1; i <= project.npres; ++i) {
-        const PointRec& point = project.Points[i];
-        if (!point.IsDrawn()) continue;
-        const int pipes = PipesAt(project, i);
-        if (pipes == 0) faults.push_back(Named("no pipe ends at point", i));
+    for (const auto& [number, point] : DrawnPoints(project)) {
+        const int pipes = PipesAt(project, number);
+        if (pipes == 0) faults.push_back(Named("no pipe ends at point", number));
         if (project.Cells[point.Cell].IsComponent() && pipes != 1) {
-            faults.push_back(Named("not one piece at the component's point", i));
+            faults.push_back(Named("not one piece at the component's point", number));
         }
     }
 }

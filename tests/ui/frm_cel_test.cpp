@@ -21,7 +21,7 @@ TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
         mdi->resize(size);
         QApplication::processEvents();
         ResetProject(project);
-        ClearDrawing(program->editor);
+        RedrawProject(project, program->editor);
         Draw(1, 1, 50, 1);
         Draw(1, 50, 50, 50);
         EXPECT_EQ(CellsOf(project, 1), std::pair(1, 50));

@@ -13,6 +13,7 @@
 #include <QStatusBar>
 #include <QUrl>
 
+#include "model/version.h"
 #include "physdata/fluids.h"
 #include "projectfile/unsaved_copy.h"
 #include "ui/drawing/frm_cel.h"
