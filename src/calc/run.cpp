@@ -65,7 +65,8 @@ class ProjectRun {
     }
 
     bool Open() {
-        if (OpenProject(*project_, options_.project, boxes_) != OpenOutcome::Opened) return false;
+        if (OpenNewProject(*project_, options_.project, boxes_) != OpenOutcome::Opened)
+            return false;
         std::error_code ignored;
         project_->ProjectName = fs::absolute(options_.project, ignored).lexically_normal().string();
         return true;

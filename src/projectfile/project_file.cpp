@@ -19,14 +19,59 @@ bool FileExists(const fs::path& path) {
     return fs::exists(path, error) && !fs::is_directory(path, error);
 }
 
+/// Into empty tables; a failure leaves them with what was wrong.
+Status PutSound(const ProjectContent& content, Project& project) {
+    PutContent(content, project);
+    const std::vector<std::string> broken = BrokenInvariants(project);
+    return broken.empty() ? Status(Done{}) : Failure{broken.front()};
+}
+
 /// Tries the content out apart from `project`, on the same grid.
 Status CheckSound(const ProjectContent& content, const Project& project) {
     const auto trial = std::make_unique<Project>();
     trial->GridSize = project.GridSize;
     trial->Grid = project.Grid;
-    PutContent(content, *trial);
-    const std::vector<std::string> broken = BrokenInvariants(*trial);
-    return broken.empty() ? Status(Done{}) : Failure{broken.front()};
+    return PutSound(content, *trial);
+}
+
+Status PutApart(const ProjectContent& content, Project& project) {
+    if (Status sound = CheckSound(content, project); !sound) return sound;
+    ClearNetwork(project);
+    PutContent(content, project);
+    return Done{};
+}
+
+using Put = Status (*)(const ProjectContent&, Project&);
+
+Status ReadText(std::string_view text, Project& project, Put put) {
+    if (IsBeforeVersion25(text)) return Failure{std::string(kFileTooOld.text)};
+    const Result<ProjectContent> content = ParseProject(text, project.GridSize);
+    if (!content) return Failure{content.Error()};
+    return put(*content, project);
+}
+
+OpenOutcome Open(Project& project, const fs::path& path, MessageBoxes& boxes, Put put) {
+    std::error_code error;
+    if (!fs::exists(path, error) && !error) {
+        boxes.Show(kFileMissing);
+        return OpenOutcome::Missing;
+    }
+    const Result<std::string> text = ReadWholeFile(path, kLargestProjectFile);
+    if (!text) {
+        boxes.Show(OpenFailed(text.Error()));
+        return OpenOutcome::Unreadable;
+    }
+    if (IsBeforeVersion25(*text)) {
+        boxes.Show(kFileTooOld);
+        ClearNetwork(project);
+        project.ProjectName = kNewProject;
+        return OpenOutcome::TooOld;
+    }
+    if (const Status read = ReadText(*text, project, put); !read) {
+        boxes.Show(ProjectMalformed(read.Error()));
+        return OpenOutcome::Malformed;
+    }
+    return OpenOutcome::Opened;
 }
 
 }  // namespace
@@ -59,37 +104,15 @@ bool NewProject(Project& project, MessageBoxes& boxes) {
 }
 
 Status ReadProjectText(std::string_view text, Project& project) {
-    if (IsBeforeVersion25(text)) return Failure{std::string(kFileTooOld.text)};
-    const Result<ProjectContent> content = ParseProject(text, project.GridSize);
-    if (!content) return Failure{content.Error()};
-    if (Status sound = CheckSound(*content, project); !sound) return sound;
-    ClearNetwork(project);
-    PutContent(*content, project);
-    return Done{};
+    return ReadText(text, project, PutApart);
 }
 
 OpenOutcome OpenProject(Project& project, const fs::path& path, MessageBoxes& boxes) {
-    std::error_code error;
-    if (!fs::exists(path, error) && !error) {
-        boxes.Show(kFileMissing);
-        return OpenOutcome::Missing;
-    }
-    const Result<std::string> text = ReadWholeFile(path, kLargestProjectFile);
-    if (!text) {
-        boxes.Show(OpenFailed(text.Error()));
-        return OpenOutcome::Unreadable;
-    }
-    if (IsBeforeVersion25(*text)) {
-        boxes.Show(kFileTooOld);
-        ClearNetwork(project);
-        project.ProjectName = kNewProject;
-        return OpenOutcome::TooOld;
-    }
-    if (const Status read = ReadProjectText(*text, project); !read) {
-        boxes.Show(ProjectMalformed(read.Error()));
-        return OpenOutcome::Malformed;
-    }
-    return OpenOutcome::Opened;
+    return Open(project, path, boxes, PutApart);
+}
+
+OpenOutcome OpenNewProject(Project& project, const fs::path& path, MessageBoxes& boxes) {
+    return Open(project, path, boxes, PutSound);
 }
 
 }  // namespace idrova

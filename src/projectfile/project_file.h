@@ -49,8 +49,14 @@ enum class OpenOutcome {
 /// told in one box; the settings stay in any case.
 OpenOutcome OpenProject(Project& project, const std::filesystem::path& path, MessageBoxes& boxes);
 
-/// The same from a text, for projects of today's version and without boxes. A failure names the
-/// line, or the pipe or cell that does not fit the others, and leaves `project` as it was.
+/// The same for a project that is empty and of no use when this fails: without a trial beside it,
+/// which takes longer than all the rest.
+OpenOutcome OpenNewProject(Project& project, const std::filesystem::path& path,
+                           MessageBoxes& boxes);
+
+/// The same as `OpenProject` from a text, for projects of today's version and without boxes. A
+/// failure names the line, or the pipe or cell that does not fit the others, and leaves `project`
+/// as it was.
 Status ReadProjectText(std::string_view text, Project& project);
 
 }  // namespace idrova
