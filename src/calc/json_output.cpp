@@ -112,23 +112,26 @@ Json PumpList(const WorkNetwork& results) {
 
 }  // namespace
 
-std::string JsonText(const RunRecord& run, const std::vector<MessageBox>& messages) {
+std::string JsonText(const JsonContent& content, bool oneLine) {
+    const RunRecord& run = content.run;
     const Outcome& outcome = run.outcome;
-    Json json = {{"outcome", OutcomeName(outcome.end)},
+    Json json = {{"project", content.project},
+                 {"outcome", OutcomeName(outcome.end)},
                  {"passes", outcome.passes},
                  {"residual", outcome.residual},
                  {"worst_pipe", outcome.worstPipe},
                  {"notes", NoteList(outcome.notes)},
-                 {"messages", MessageList(messages)},
+                 {"messages", MessageList(content.messages)},
                  {"pipes", Json::array()},
                  {"points", Json::array()},
                  {"pumps", Json::array()}};
+    for (const VariantChange& change : content.changes) json["set"][change.text] = change.value;
     if (run.results) {
         json["pipes"] = PipeList(*run.results, run.settings);
         json["points"] = PointList(*run.results);
         json["pumps"] = PumpList(*run.results);
     }
-    return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+    return json.dump(oneLine ? -1 : 2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace idrova

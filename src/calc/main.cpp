@@ -7,5 +7,5 @@ int main(int argc, char** argv) {
     using namespace idrova;
     const auto parsed = ParseOptions(argc, argv, std::cout, std::cerr);
     if (const int* status = std::get_if<int>(&parsed)) return *status;
-    return static_cast<int>(RunProject(std::get<Options>(parsed), std::cout, std::cerr));
+    return static_cast<int>(RunProjects(std::get<Options>(parsed), std::cout, std::cerr));
 }

@@ -36,6 +36,12 @@ double NumberIn(const std::string& option, const std::string& text, Range range)
     return *number;
 }
 
+VariantChange ChangeIn(const std::string& option, const std::string& text) {
+    Result<VariantChange> change = ParseChange(text);
+    if (!change) throw CLI::ValidationError(option, change.Error());
+    return *change;
+}
+
 template <typename Target>
 CLI::Option* AddNumber(CLI::App& app, const std::string& option, Target& target,
                        const std::string& help, Range range) {
@@ -92,6 +98,16 @@ void AddComputationOptions(CLI::App& app, Options& options) {
     AddNumber(app, "--base-pressure", options.basePressure, "Base pressure, bar (0)", Any);
     app.add_option("--seed", options.seed, "Repeatable start values of the iteration")
         ->type_name("NUMBER");
+    const auto change = [&options](const std::vector<std::string>& texts) {
+        for (const std::string& text : texts) options.changes.push_back(ChangeIn("--set", text));
+        return true;
+    };
+    app.add_option("--set", change,
+                   "Change a number of the project: pipe:12:diameter_m=0.0689, pipe:N:length_m,\n"
+                   "pipe:N:flow_kg_s (given), point:N:pressure_Pa (given); may be repeated")
+        ->type_name("WHAT=NUMBER")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
 }
 
 void AddResultOptions(CLI::App& app, Options& options) {
@@ -106,6 +122,34 @@ void AddResultOptions(CLI::App& app, Options& options) {
     app.add_flag("--force", options.force, "Let --save replace an existing file")->needs(save);
 }
 
+void AddExportOptions(CLI::App& app, Options& options) {
+    app.add_option("--csv", options.csvFolder,
+                   "Write NAME-pipes.csv, NAME-points.csv and NAME-components.csv")
+        ->type_name("DIR");
+    app.add_option("--html", options.html, "Write a report with the drawing for the browser")
+        ->type_name("FILE");
+    app.add_option("--svg", options.svg, "Write the drawing")->type_name("FILE");
+    app.add_option("--inp", options.inp, "Write the network of a liquid for EPANET")
+        ->type_name("FILE");
+}
+
+/// What one file can hold of several projects is the last, and a project is not to be replaced.
+void CheckFiles(const Options& options) {
+    for (const auto& [option, file] :
+         {std::pair("--save", options.save), std::pair("--html", options.html),
+          std::pair("--svg", options.svg), std::pair("--inp", options.inp)}) {
+        if (file.empty()) continue;
+        if (options.projects.size() > 1) {
+            throw CLI::ValidationError(option, "takes one project, not several");
+        }
+        std::error_code ignored;
+        const bool own = std::filesystem::equivalent(file, options.projects.front(), ignored);
+        if (own && file != options.save) {
+            throw CLI::ValidationError(option, "would replace the project");
+        }
+    }
+}
+
 }  // namespace
 
 std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::ostream& out,
@@ -114,15 +158,19 @@ std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::
     CLI::App app("Computes the pressures and flow rates of a fluid distribution network.",
                  "idrova-calc");
     app.set_version_flag("--version", "idrova-calc " + VersionText());
-    app.add_option("PROJECT.iv", options.project, "Project to compute")->required()->type_name("");
+    app.add_option("PROJECT.iv", options.projects, "Projects to compute, one after the other")
+        ->required()
+        ->type_name("");
     app.add_option("--data", options.data,
                    "Folder of the databases and of out.dat (the current folder)")
         ->type_name("DIR");
     AddFluidOptions(app, options);
     AddComputationOptions(app, options);
     AddResultOptions(app, options);
+    AddExportOptions(app, options);
     try {
         app.parse(argc, argv);
+        CheckFiles(options);
     } catch (const CLI::ParseError& error) {
         const bool fine = app.exit(error, out, err) == 0;
         return static_cast<int>(fine ? ExitStatus::Settled : ExitStatus::WrongUse);

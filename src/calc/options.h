@@ -7,7 +7,9 @@
 #include <optional>
 #include <string>
 #include <variant>
+#include <vector>
 
+#include "calc/variant_change.h"
 #include "model/settings.h"
 
 namespace idrova {
@@ -21,7 +23,7 @@ struct FluidProperties {
 
 /// What the command line asks for.
 struct Options {
-    std::filesystem::path project;
+    std::vector<std::filesystem::path> projects;  ///< at least one
     std::filesystem::path data;  ///< folder of the databases and of the results file
 
     std::string fluid;           ///< record number or name; empty for the first record
@@ -35,12 +37,19 @@ struct Options {
     double temperature = 0;           ///< degrees Celsius
     double basePressure = 0;          ///< bar
     std::optional<std::uint32_t> seed;
+    std::vector<VariantChange> changes;  ///< of every project, before it is computed
 
     bool append = false;
     bool json = false;
     bool noReport = false;
     std::filesystem::path save;  ///< empty when the project is not to be saved
     bool force = false;
+
+    // Of the results; empty when not wanted. Those with the name of a file take one project.
+    std::filesystem::path csvFolder;
+    std::filesystem::path html;
+    std::filesystem::path svg;
+    std::filesystem::path inp;
 };
 
 /// The options, or the exit status with which the program ends at once: help and version were

@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "base/number_text.h"
+#include "calc/export_results.h"
 #include "calc/fluid_choice.h"
 #include "calc/json_output.h"
 #include "calc/printed_boxes.h"
@@ -13,6 +14,7 @@
 #include "physdata/pipe_settings.h"
 #include "physdata/pump_constants.h"
 #include "projectfile/project_file.h"
+#include "results/messages.h"
 #include "shell/run_command.h"
 
 namespace idrova {
@@ -21,20 +23,36 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view kSaveTitle = "Save file";
+constexpr std::string_view kChangeTitle = "Change";
+
+/// A project that was not computed is worse than one that did not settle.
+ExitStatus Worse(ExitStatus one, ExitStatus other) {
+    for (const ExitStatus status :
+         {ExitStatus::WrongUse, ExitStatus::Refused, ExitStatus::Unsettled}) {
+        if (one == status || other == status) return status;
+    }
+    return ExitStatus::Settled;
+}
 
 class ProjectRun {
   public:
-    ProjectRun(const Options& options, std::ostream& out, std::ostream& err)
-        : options_(options), out_(out), err_(err), boxes_(err) {}
+    /// The reports of all but the first project follow those before.
+    ProjectRun(const Options& options, std::size_t index, std::ostream& out, std::ostream& err)
+        : options_(options),
+          path_(options.projects[index]),
+          follows_(options.append || index > 0),
+          out_(out),
+          err_(err),
+          boxes_(err) {}
 
     ExitStatus Do() {
-        if (!Prepare()) return ExitStatus::WrongUse;
-        Compute();
-        PrintNotes(run_.outcome);
-        const bool saved = Save();
-        const bool printed = Print();
-        return saved && printed && !reportFailed_ ? StatusOf(run_.outcome.end)
-                                                  : ExitStatus::WrongUse;
+        const bool ready = Prepare();
+        if (ready) Compute();
+        PrintNotes();
+        const bool saved = Save() && Export();
+        const bool printed = (!ready && options_.projects.size() == 1) || Print();
+        return ready && saved && printed && !reportFailed_ ? StatusOf(run_.outcome.end)
+                                                           : ExitStatus::WrongUse;
     }
 
   private:
@@ -42,7 +60,7 @@ class ProjectRun {
         InitialiseProject(*project_);
         ApplySettings();
         return SaveIsAllowed() && ChooseFluid(project_->settings, options_, boxes_) && Open() &&
-               CompletePumps();
+               CompletePumps() && Change();
     }
 
     void ApplySettings() {
@@ -51,7 +69,7 @@ class ProjectRun {
         project_->settings.Roughness = options_.roughness.value_or(project_->settings.Roughness);
         project_->settings.FluidTemperature = ToSingle(options_.temperature);
         project_->settings.BasePressure = ToSingle(options_.basePressure * kPascalPerBar);
-        project_->settings.ResultsInSequence = options_.append;
+        project_->settings.ResultsInSequence = follows_;
         ChoosePressureUnit(project_->settings, options_.pressureUnit);
     }
 
@@ -65,10 +83,18 @@ class ProjectRun {
     }
 
     bool Open() {
-        if (OpenNewProject(*project_, options_.project, boxes_) != OpenOutcome::Opened)
-            return false;
+        if (OpenNewProject(*project_, path_, boxes_) != OpenOutcome::Opened) return false;
         std::error_code ignored;
-        project_->ProjectName = fs::absolute(options_.project, ignored).lexically_normal().string();
+        project_->ProjectName = fs::absolute(path_, ignored).lexically_normal().string();
+        return true;
+    }
+
+    bool Change() {
+        for (const VariantChange& change : options_.changes) {
+            const Status changed = ApplyChange(change, *project_);
+            if (!changed) boxes_.Show({changed.Error(), kChangeTitle});
+            if (!changed) return false;
+        }
         return true;
     }
 
@@ -99,7 +125,8 @@ class ProjectRun {
                           {.boxes = boxes_, .writeReport = writeReport, .seed = options_.seed});
     }
 
-    void PrintNotes(const Outcome& outcome) {
+    void PrintNotes() {
+        const Outcome& outcome = run_.outcome;
         if (outcome.end != RunEnd::Settled && outcome.end != RunEnd::Refused) {
             err_ << OutcomeLine(outcome) << '\n';
         }
@@ -108,14 +135,22 @@ class ProjectRun {
 
     bool Save() {
         if (options_.save.empty() || !run_.results) return true;
-        const Status saved = WriteProject(*project_, options_.save);
-        if (!saved) boxes_.Show({saved.Error(), kSaveTitle});
-        return static_cast<bool>(saved);
+        return Told(WriteProject(*project_, options_.save), kSaveTitle);
+    }
+
+    bool Export() {
+        return !run_.results || Told(ExportResults(options_, *project_, run_), kExportTitle);
+    }
+
+    bool Told(const Status& written, std::string_view title) {
+        if (!written) boxes_.Show({written.Error(), title});
+        return static_cast<bool>(written);
     }
 
     bool Print() {
         if (options_.json) {
-            out_ << JsonText(run_, boxes_.Shown());
+            out_ << JsonText({path_.string(), options_.changes, run_, boxes_.Shown()},
+                             options_.projects.size() > 1);
         } else {
             out_ << report_;
         }
@@ -141,6 +176,8 @@ class ProjectRun {
     }
 
     const Options& options_;
+    const fs::path& path_;
+    const bool follows_;
     std::ostream& out_;
     std::ostream& err_;
     PrintedBoxes boxes_;
@@ -153,8 +190,12 @@ class ProjectRun {
 
 }  // namespace
 
-ExitStatus RunProject(const Options& options, std::ostream& out, std::ostream& err) {
-    return ProjectRun(options, out, err).Do();
+ExitStatus RunProjects(const Options& options, std::ostream& out, std::ostream& err) {
+    ExitStatus worst = ExitStatus::Settled;
+    for (std::size_t i = 0; i < options.projects.size(); ++i) {
+        worst = Worse(worst, ProjectRun(options, i, out, err).Do());
+    }
+    return worst;
 }
 
 }  // namespace idrova

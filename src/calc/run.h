@@ -8,8 +8,9 @@
 
 namespace idrova {
 
-/// Computes the project of the options: report or JSON to `out` and to the results file, messages
-/// and notes to `err`.
-ExitStatus RunProject(const Options& options, std::ostream& out, std::ostream& err);
+/// Computes the projects of the options, one after the other: reports or JSON to `out` and to the
+/// results file, messages and notes to `err`. The status is that of the worst: a file that cannot
+/// be read or written, a refusal, a network that does not settle.
+ExitStatus RunProjects(const Options& options, std::ostream& out, std::ostream& err);
 
 }  // namespace idrova

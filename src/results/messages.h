@@ -21,4 +21,8 @@ constexpr FixedMessage kNoResultsFile{"The results file does not exist", kShowTi
                                       BoxIcon::Exclamation};
 constexpr FixedMessage kEditorNotFound{"Editor not found", kEditorTitle};
 
+constexpr std::string_view kExportTitle = "Export";
+constexpr std::string_view kNoResultsToExport = "There are no results to export";
+constexpr std::string_view kNoGasInEpanet = "EPANET computes liquids only";
+
 }  // namespace idrova

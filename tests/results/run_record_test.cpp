@@ -73,5 +73,25 @@ TEST(RunRecord, AGasDependsOnTemperatureAndBasePressureATableOnItsRows) {
     EXPECT_NE(InputsOf(project), before);
 }
 
+TEST(RunRecord, FlowsTurnWithTheDrawingOnly) {
+    NetworkBuilder network(4);
+    for (int from = 1; from <= 3; ++from) network.AddPipe(from, from + 1);
+    RunRecord record;
+    TurnFlowsWith(*network, record);  // a run without results
+    record.results.emplace();
+    CopyNetwork(*network, *record.results);
+    for (PipeRec& pipe : record.results->WorkPipes) pipe.FlowRate = -5;
+    network->Pipes[2].FlowFromPoint = 3;
+    network->Pipes[3].FlowFromPoint = 1;  // drawn anew since
+    for (const auto& [mode, flow] : {std::pair(WorkMode::Table, -5), {WorkMode::Graphic, 5}}) {
+        record.settings.Mode = mode;
+        TurnFlowsWith(*network, record);
+        EXPECT_EQ(record.results->WorkPipes[2].FlowRate, flow);
+        EXPECT_EQ(record.results->WorkPipes[2].FlowFromPoint, flow < 0 ? 2 : 3);
+        EXPECT_EQ(record.results->WorkPipes[1].FlowRate, -5);
+        EXPECT_EQ(record.results->WorkPipes[3].FlowRate, -5);
+    }
+}
+
 }  // namespace
 }  // namespace idrova

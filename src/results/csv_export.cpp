@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "results/csv_export.h"
+
+#include <array>
+#include <utility>
+
+#include "base/file.h"
+#include "base/markup_text.h"
+#include "base/number_text.h"
+
+namespace idrova {
+namespace {
+
+std::string FieldOf(const ResultCell& cell) {
+    if (const auto* number = std::get_if<double>(&cell)) return PlainText(*number);
+    return CsvField(std::get<std::string>(cell));
+}
+
+}  // namespace
+
+std::string CsvText(const ResultTable& table) {
+    std::string text;
+    const char* comma = "";
+    for (const ResultColumn& column : table.columns) {
+        text += comma + CsvField(column.key);
+        comma = ",";
+    }
+    for (const ResultRow& row : table.rows) {
+        comma = "\n";
+        for (const ResultCell& cell : row.cells) {
+            text += comma + FieldOf(cell);
+            comma = ",";
+        }
+    }
+    return text + "\n";
+}
+
+Status WriteCsvFiles(const RunRecord& run, Unit unit, const std::string& name,
+                     const std::filesystem::path& folder) {
+    std::error_code ignored;  // writing tells
+    std::filesystem::create_directories(folder, ignored);
+    const std::array<std::pair<const char*, ResultTable>, 3> files = {
+        {{"-pipes.csv", PipeTable(run.settings, *run.results)},
+         {"-points.csv", PointTable(run.settings, *run.results, unit)},
+         {"-components.csv", ComponentTable(*run.results)}}};
+    for (const auto& [ending, table] : files) {
+        Status written = WriteWholeFile(folder / (name + ending), CsvText(table));
+        if (!written) return written;
+    }
+    return Done{};
+}
+
+}  // namespace idrova

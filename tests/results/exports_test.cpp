@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <gmock/gmock.h>
+
+#include <map>
+
+#include "results/csv_export.h"
+#include "results/epanet_input.h"
+#include "results/html_report.h"
+#include "support/markup_check.h"
+#include "support/networks.h"
+#include "support/temp_folder.h"
+
+namespace idrova {
+namespace {
+
+using testing::HasSubstr;
+
+constexpr const char* kName = "Pump \"A\", <3> & Größe; 2";
+constexpr float kMetre = 9810;  ///< Pa
+
+/// From 10 m of head (point 1) through a pump in cell 7, a valve in cell 9 and a fixed drop in cell
+/// 11 to a given pressure (point 9); from point 6 a branch of 2 kg/s, and one that is closed.
+RunRecord Plant() {
+    RunRecord run;
+    run.settings.FluidDensity = 1000;
+    run.settings.FluidViscosity = 2e-3;
+    run.settings.FluidName = "Wasser <60 °C>";
+    run.time = {"2026-11-22", "21:55:26"};
+    WorkNetwork& work = run.results.emplace();
+    const auto pipe = [&work](int number, int from, int to, float flow, float diameter) {
+        PipeRec& record = work.WorkPipes[number];
+        record = {flow, 50, diameter};
+        record.StartPoint = record.FlowFromPoint = static_cast<std::int16_t>(from);
+        record.EndPoint = static_cast<std::int16_t>(to);
+        record.X1 = static_cast<std::int16_t>(278 * 10 * number);
+        record.X2 = static_cast<std::int16_t>(record.X1 + 2780);
+        work.WorkFlowUnknown[number] = true;
+        work.WorkPipeCount = number;
+    };
+    const std::pair<float, int> points[] = {{0, 0},  {10, 0}, {9, 7}, {29, 7}, {28, 9}, {25, 9},
+                                            {25, 0}, {0, 0},  {0, 0}, {4, 0},  {5, 11}, {15, 11}};
+    for (const auto& [head, cell] : points) {
+        work.WorkPoints[static_cast<std::size_t>(work.WorkPointCount)] = {
+            head * kMetre, 2780, 5560, static_cast<std::int16_t>(cell)};
+        work.WorkPressureUnknown[static_cast<std::size_t>(work.WorkPointCount++)] = true;
+    }
+    --work.WorkPointCount;
+    work.WorkPressureUnknown[1] = work.WorkPressureUnknown[9] = false;
+    pipe(1, 1, 2, 5, .1F);
+    pipe(2, 3, 4, 5, .1F);
+    pipe(3, 5, 6, 5, .08F);
+    pipe(4, 7, 6, -2, .05F);
+    pipe(5, 6, 8, 0, .05F);
+    pipe(6, 6, 11, 3, .05F);
+    pipe(7, 10, 9, 3, .05F);
+    work.WorkPipes[4].Z1 = 3;
+    work.WorkPipes[7].Z2 = -2;
+    work.WorkComponents = {
+        {7,
+         {.Name = kName,
+          .Kind = CellKind::Pump,
+          .Param1 = -kMetre / 5,
+          .Param2 = 25 * kMetre,
+          .Direction = Delivery::Right,
+          .Result = 5,
+          .Placed = true,
+          .MaxFlow = 10}},
+        {9, {.Name = "valve", .Kind = CellKind::Loss, .Param1 = 2.5F, .Placed = true}},
+        {11, {.Name = "filter", .Kind = CellKind::Loss, .Param2 = 10 * kMetre, .Placed = true}}};
+    return run;
+}
+
+/// The fields of each line, as a spreadsheet reads them.
+std::vector<std::vector<std::string>> ReadCsv(const std::string& text) {
+    std::vector<std::vector<std::string>> lines{{""}};
+    bool quoted = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '"' && quoted && text[i + 1] == '"') {
+            lines.back().back() += text[++i];
+        } else if (c == '"') {
+            quoted = !quoted;
+        } else if (c == ',' && !quoted) {
+            lines.back().emplace_back();
+        } else if (c == '\n' && !quoted) {
+            lines.push_back({""});
+        } else {
+            lines.back().back() += c;
+        }
+    }
+    lines.pop_back();
+    return lines;
+}
+
+TEST(Exports, CsvFilesHoldTheTables) {
+    const TempFolder folder;
+    const RunRecord run = Plant();
+    ASSERT_TRUE(WriteCsvFiles(run, Unit::Bar, "a, b", folder / "new/deep"));
+    std::map<std::string, std::vector<std::vector<std::string>>> files;
+    for (const char* kind : {"pipes", "points", "components"}) {
+        files[kind] = ReadCsv(FileBytes(folder / ("new/deep/a, b-" + std::string(kind) + ".csv")));
+        for (const auto& line : files[kind]) EXPECT_EQ(line.size(), files[kind][0].size());
+    }
+    EXPECT_EQ(files["pipes"].size(), 8U);
+    EXPECT_EQ(files["pipes"][4][3], "-7200");
+    EXPECT_EQ(files["points"].size(), 12U);
+    EXPECT_EQ(files["components"][0][3], "flow_kg_h");
+    EXPECT_EQ(files["components"][1],
+              (std::vector<std::string>{"7", kName, "pump", "18000", "196200", "", "0", "36000",
+                                        "within"}));
+    EXPECT_EQ(CsvText({NoteOn::Cell, {{"name", "", ""}}, {{1, {"a\nb"}}, {2, {0.05}}}}),
+              "name\n\"a\nb\"\n0.05\n");
+
+    PutFile(folder / "file", "old");
+    const Status refused = WriteCsvFiles(run, Unit::Bar, "a", folder / "file");
+    ASSERT_FALSE(refused);
+    EXPECT_THAT(refused.Error(), HasSubstr("a-pipes.csv"));
+    EXPECT_EQ(FileBytes(folder / "file"), "old");
+}
+
+TEST(Exports, HtmlIsWellFormedAndTellsAll) {
+    RunRecord run = Plant();
+    run.outcome.end = RunEnd::Settled;
+    run.outcome.notes = {{"Pipe 4 is < 3 & odd"}};
+    const std::string page = HtmlReport({kName, "a\x01\"b\"", Unit::MilliBar}, run, "<svg></svg>");
+    EXPECT_EQ(MarkupFault(page), "");
+    for (const char* part :
+         {"<h1>Pump &quot;A&quot;, &lt;3&gt; &amp; Größe; 2</h1>", "<p>a &quot;b&quot;</p>",
+          "<li>Pipe 4 is &lt; 3 &amp; odd</li>", "<svg></svg>", "<td>Wasser &lt;60 °C&gt;</td>",
+          "2026-11-22 at 21:55:26", "<td class=\"number\">-7200.0</td>", "<br/>mbar</th>",
+          "<td>Incompressible fluid</td>", "<h2>Components</h2>", "<p>Computed, 1 note</p>"}) {
+        EXPECT_THAT(page, HasSubstr(part));
+    }
+    EXPECT_EQ(page.find("Temperature"), std::string::npos);
+    run.settings.EquationType = Equation::Compressible;
+    run.results->WorkComponents.clear();
+    const std::string gas = HtmlReport({}, run, "");
+    EXPECT_THAT(gas, HasSubstr("Temperature"));
+    EXPECT_EQ(gas.find("Components"), std::string::npos);
+    EXPECT_EQ(MarkupFault(gas), "");
+}
+
+TEST(Exports, EpanetInputIsTheNetwork) {
+    RunRecord run = Plant();
+    EXPECT_EQ(*EpanetInput(run, "a\n[PIPES]", "Größe"), R"([TITLE]
+ Project: a [PIPES]
+ Größe
+ Written by Idrova 2.6.3
+
+[JUNCTIONS]
+;node elevation_m demand_m3/h
+ P2 0 0
+ P3 0 0
+ P4 0 0
+ P6 0 0
+ P7 3 7.2
+ P8 0 0
+ P10 0 0
+ P11 0 0
+
+[RESERVOIRS]
+;node head_m
+ P1 10
+ P9 2
+
+[PIPES]
+;link from to length_m diameter_mm roughness_mm minor_loss status
+ pipe1 P1 P2 50 100 0.1 0 Open
+ pipe2 P3 P4 50 100 0.1 2.5 Open
+ pipe3 P4 P6 50 80 0.1 0 Open
+ pipe4 P7 P6 50 50 0.1 0 Open
+ pipe5 P6 P8 50 50 0.1 0 Open
+ pipe6 P6 P11 50 50 0.1 0 Open
+ pipe7 P10 P9 50 50 0.1 0 Open
+
+[PUMPS]
+;link suction delivery curve
+ pump7 P2 P3 HEAD curve7 ; Pump "A", <3> & Größe; 2
+
+[VALVES]
+;link from to diameter_mm type drop_m minor_loss
+ drop11 P11 P10 50 PBV 10 0 ; filter
+
+[CURVES]
+;curve flow_m3/h head_m
+;PUMP: Pump "A", <3> & Größe; 2
+ curve7 0 25
+ curve7 18 20
+ curve7 36 5
+
+[OPTIONS]
+; Wasser <60 °C>, density 1000 kg/m3, dynamic viscosity 0.002 N s/m2
+ Units CMH
+ Headloss D-W
+ Specific Gravity 1
+ Viscosity 2
+ Trials 200
+ Accuracy 0.00001
+ Unbalanced Continue 10
+
+[TIMES]
+ Duration 0
+
+[REPORT]
+ Nodes All
+ Links All
+
+[COORDINATES]
+;node column row
+ P1 10 -20
+ P2 9.7 -20
+ P3 10.3 -20
+ P4 10 -20
+ P6 10 -20
+ P7 10 -20
+ P8 10 -20
+ P9 10 -20
+ P10 10.3 -20
+ P11 9.7 -20
+
+[END]
+)");
+}
+
+TEST(Exports, EpanetInputOfWhatIsUnusual) {
+    RunRecord run = Plant();
+    const auto section = [&run](const std::string& name) {
+        const std::string text = *EpanetInput(run, "", "");
+        const std::size_t from = text.find("\n", text.find("[" + name + "]\n;") + name.size() + 3);
+        return text.substr(from, text.find("\n\n", from) - from);
+    };
+    WorkNetwork& work = *run.results;
+    CellRec& pump = work.WorkComponents[0].record;
+    const std::vector<std::tuple<float, float, const char*>> curves = {
+        {10, 10, "\n curve7 0 25\n curve7 36 5\n curve7 45 -6.25"},   // at the end of its range
+        {-1, 10, "\n curve7 0 25\n curve7 25.2 15.2\n curve7 36 5"},  // backwards
+        {5, 0, "\n curve7 0 25\n curve7 18 20\n curve7 22.5 17.1875"},
+    };
+    for (const auto& [flow, range, curve] : curves) {
+        work.WorkPipes[1].FlowRate = flow;
+        pump.MaxFlow = range;
+        EXPECT_THAT(section("CURVES"), testing::EndsWith(curve));
+    }
+    pump.MaxFlow = 10;
+    pump.Param1 = 0;
+    EXPECT_THAT(section("CURVES"), HasSubstr("0 25\n curve7 25.2 24.975\n curve7 36 24.95"));
+    pump.Placed = false;
+    EXPECT_THAT(section("PIPES"), HasSubstr("pipe2 P2 P4"));
+    EXPECT_EQ(section("PUMPS"), "");
+    work.WorkPipes[7].FlowRate = -3;
+    EXPECT_THAT(section("VALVES"), HasSubstr("drop11 P10 P11"));
+    work.WorkPressureUnknown[4] = false;
+    EXPECT_THAT(section("PIPES"), HasSubstr("pipe3 P4 P6 50 80 0.1 1.024 ")) << "on the other side";
+    EXPECT_THAT(section("RESERVOIRS"), HasSubstr("P4 28"));
+    run.settings.Roughness = 0;
+    run.settings.SectionType = Section::Rectangular;
+    for (int i = 1; i <= 7; ++i) work.WorkPipes[i].OuterSize = .2F;
+    EXPECT_THAT(section("PIPES"), HasSubstr("pipe1 P1 P2 50 152.3375 1e-06 0"));
+
+    run.settings.EquationType = Equation::Compressible;
+    EXPECT_EQ(EpanetInput(run, "", "").Error(), "EPANET computes liquids only");
+    run.results.reset();
+    EXPECT_EQ(EpanetInput(run, "", "").Error(), "There are no results to export");
+}
+
+}  // namespace
+}  // namespace idrova
