@@ -2,6 +2,8 @@
 // The real windows: what a user waits for after a click or a key, repaint included.
 #include <benchmark/benchmark.h>
 
+#include <malloc.h>
+
 #include <QAction>
 #include <QApplication>
 #include <QGraphicsView>
@@ -10,6 +12,7 @@
 #include <memory>
 
 #include "editor/cell_click.h"
+#include "editor/history.h"
 #include "model/grid.h"
 #include "projectfile/project_file.h"
 #include "support/drawing_invariants.h"
@@ -55,6 +58,14 @@ class Plant {
         QTest::mousePress(view_->viewport(), button, {}, view_->mapFromScene(QPointF(at.x, at.y)));
         QApplication::processEvents();
     }
+
+    void Move(int column, int row) {
+        const ScreenPoint at = CellCentre(project, CellAt(column, row, project.GridSize));
+        QTest::mouseMove(view_->viewport(), view_->mapFromScene(QPointF(at.x, at.y)));
+        QApplication::processEvents();
+    }
+
+    void ShowState() { mdi_.ShowState(); }
 
     /// Chooses a menu item, and everything shown that it changed.
     void Choose(const QString& item) {
@@ -114,6 +125,39 @@ void CompletePipe(benchmark::State& state) {
     }
 }
 BENCHMARK(CompletePipe)->Unit(benchmark::kMillisecond);
+
+/// With the longest history there is, each step of which changed every pipe.
+void UndoAll(benchmark::State& state) {
+    Plant plant(kMaxPipes);
+    plant.ShowState();
+    const std::size_t before = mallinfo2().uordblks;
+    for (std::size_t step = 1; step <= EditHistory::kMaxSteps; ++step) {
+        for (int i = 1; i <= kMaxPipes; ++i) {
+            plant.project.Pipes[i].Length = static_cast<float>(step);
+        }
+        plant.ShowState();
+    }
+    state.counters["history_MB"] = static_cast<double>(mallinfo2().uordblks - before) / 1e6;
+    for (auto _ : state) {
+        plant.Choose("Annulla");
+        state.PauseTiming();
+        plant.Choose("Ripeti");
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(UndoAll)->Unit(benchmark::kMillisecond);
+
+/// The mouse goes on while a pipe is drawn.
+void MoveWhileDrawing(benchmark::State& state) {
+    Plant plant(kMaxPipes - 1);
+    plant.Press(50, 50, Qt::LeftButton);
+    int row = 60;
+    for (auto _ : state) {
+        plant.Move(50, row);
+        row = 121 - row;
+    }
+}
+BENCHMARK(MoveWhileDrawing)->Unit(benchmark::kMillisecond);
 
 void FullRedraw(benchmark::State& state) {
     Plant plant(kMaxPipes);

@@ -9,13 +9,14 @@
 namespace idrova {
 namespace {
 
-void LeftClick(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+void LeftClick(Project& project, Editor& editor, int cell, bool goOn, MessageBoxes& boxes) {
     editor.framesEnabled = false;
+    editor.selectedIn = 0;
     if (IsArmed(editor)) {
         InsertComponent(project, editor, cell, boxes);
-        AbortInsertion(editor);
+        if (!goOn) AbortInsertion(editor);
     } else {
-        InsertPipePoint(project, editor, cell, boxes);
+        InsertPipePoint(project, editor, cell, goOn, boxes);
     }
 }
 
@@ -30,13 +31,13 @@ void RightClick(Project& project, Editor& editor, int cell) {
 
 }  // namespace
 
-void CellClick(Project& project, Editor& editor, int place, MouseButton button,
-               MessageBoxes& boxes) {
+void CellClick(Project& project, Editor& editor, int place, MouseButton button, MessageBoxes& boxes,
+               bool goOn) {
     const int cell = CellShownAt(project, editor, place);
     if (cell == 0) return;
     editor.DataShown = false;
     if (button == MouseButton::Left) {
-        LeftClick(project, editor, cell, boxes);
+        LeftClick(project, editor, cell, goOn, boxes);
     } else {
         RightClick(project, editor, cell);
     }

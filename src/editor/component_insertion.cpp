@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
+#include <utility>
 
 #include "base/number_text.h"
 #include "editor/messages.h"
@@ -38,13 +40,27 @@ std::optional<FixedMessage> Refusal(const Project& project, int cell) {
     return std::nullopt;
 }
 
+std::int16_t& HeightOf(PipeRec& pipe, PipeEnd end) {
+    return end == PipeEnd::Start ? pipe.Z1 : pipe.Z2;
+}
+
+/// Height of a straight pipe in a place between its ends, in whole metres.
+std::int16_t HeightAt(const PipeRec& pipe, ScreenPoint place) {
+    const double whole = std::abs(pipe.X2 - pipe.X1) + std::abs(pipe.Y2 - pipe.Y1);
+    const double part = std::abs(place.x - pipe.X1) + std::abs(place.y - pipe.Y1);
+    return ToInt16(pipe.Z1 + (pipe.Z2 - pipe.Z1) * part / whole);
+}
+
 /// The pipe keeps its near end and ends in the cell; the appended piece goes on from there to the
-/// far end.
+/// far end. Where they meet they have the height between the two ends.
 void CutPipe(Project& project, int number, int cell) {
     PipeRec& piece = project.Pipes[AddPipe(project)];
     PipeRec& pipe = project.Pipes[number];
     const PipeEnd far = FarEnd(pipe);
     const int farPoint = PointAt(pipe, far);
+    const std::int16_t height = HeightAt(pipe, CellCentre(project, cell));
+    piece.Z1 = height;
+    piece.Z2 = std::exchange(HeightOf(pipe, far), height);
     PutEnd(project, pipe, far, AddPoint(project, cell));
     PutEnd(project, piece, PipeEnd::Start, AddPoint(project, cell));
     PutEnd(project, piece, PipeEnd::End, farPoint);
@@ -156,7 +172,6 @@ void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& b
             return;
         }
         CutPipe(project, pipe, cell);
-        if (project.CurrentPipe == pipe) editor.pipeSelected = false;
     }
     record = ComponentRecord(editor.choice, editor.state, project.Pipes[pipe]);
     RebuildPipeCells(project);

@@ -51,11 +51,14 @@ class LabelPlaces {
         }
     }
 
-    /// Where a line from the point meets a label that does not stand beside it.
+    /// Where a line from the point meets a label that does not stand beside it: not straight above
+    /// or below, where it would run along an upright pipe.
     std::optional<ScreenPoint> LeaderEnd(const PointRec& point, ScreenPoint corner,
                                          std::size_t letters) const {
+        const int half = cell_ / 2;
         const int bottom = corner.y + cell_ * 2 / 3;
-        const int x = std::clamp<int>(point.X, corner.x, corner.x + WidthOf(letters));
+        const bool rightwards = point.X + half <= corner.x + WidthOf(letters);
+        const int x = std::max(corner.x, point.X + (rightwards ? half : -half));
         if (corner.y > point.Y + cell_) return ScreenPoint{x, corner.y};
         if (bottom < point.Y - cell_) return ScreenPoint{x, bottom};
         return std::nullopt;

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 #include "editor/messages.h"
 #include "editor/pipe_ends.h"
@@ -25,6 +27,15 @@ void ReleasePoint(Project& project, int number) {
     project.CellIsNode[cell] = LivePointIn(project, cell) != 0;
 }
 
+std::vector<int> ComponentsAtEnds(const Project& project, int pipe) {
+    std::vector<int> cells;
+    for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
+        const int cell = project.Points[PointAt(project.Pipes[pipe], end)].Cell;
+        if (project.Cells[cell].Placed) cells.push_back(cell);
+    }
+    return cells;
+}
+
 /// Turns a live pipe into a deleted slot, and with it those of its points that no other pipe uses.
 /// A component at its end loses the pipe it stands in and goes too.
 void DeletePipe(Project& project, int number) {
@@ -45,16 +56,25 @@ void DeleteComponent(Project& project, int cell) {
 
 }  // namespace
 
-void DeleteSelected(Project& project, Editor& editor, MessageBoxes& boxes) {
+void DeleteSelected(Project& project, Editor& editor, MessageBoxes& boxes,
+                    const std::function<void()>& showRemoval) {
     editor.DataShown = false;
-    if (project.CurrentPipe != 0 && boxes.Show(AskDeletePipe(project.CurrentPipe)) == Answer::Ok) {
-        DeletePipe(project, project.CurrentPipe);
+    const auto agreed = [&](Removal removal, const MessageBox& question) {
+        editor.removal = std::move(removal);
+        showRemoval();
+        const bool ok = boxes.Show(question) == Answer::Ok;
+        editor.removal = {};
+        return ok;
+    };
+    const int pipe = project.CurrentPipe;
+    if (pipe != 0 && agreed({pipe, ComponentsAtEnds(project, pipe)}, AskDeletePipe(pipe))) {
+        DeletePipe(project, pipe);
         project.CurrentPipe = 0;
-        editor.pipeSelected = false;
         if (!project.Cells[editor.selectedComponent].Placed) editor.selectedComponent = 0;
     }
-    if (editor.selectedComponent != 0 && boxes.Show(kAskDeleteComponent) == Answer::Ok) {
-        DeleteComponent(project, editor.selectedComponent);
+    const int cell = editor.selectedComponent;
+    if (cell != 0 && agreed({0, {cell}}, kAskDeleteComponent)) {
+        DeleteComponent(project, cell);
         editor.selectedComponent = 0;
     }
 }

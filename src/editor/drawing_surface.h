@@ -17,6 +17,9 @@ namespace drawing_colour {
 constexpr Rgb kCell{0xE0, 0xE0, 0xE0};
 constexpr Rgb kPipe{0, 0, 0x80};
 constexpr Rgb kSelectedPipe{0xFF, 0, 0xFF};
+constexpr Rgb kRemoved{0xFF, 0x40, 0x40};
+constexpr Rgb kBegunPipe{0x50, 0x70, 0xC0};
+constexpr Rgb kRefused{0xD0, 0, 0};
 constexpr Rgb kArrow = kPipe;
 constexpr Rgb kKnown{0xFF, 0xFF, 0xFF};
 constexpr Rgb kUnknown{0xFF, 0x80, 0x80};
@@ -30,8 +33,11 @@ class DrawingSurface {
 
     /// Starts a new drawing: the empty cells, and the headers that count from these numbers.
     virtual void Grid(int firstColumn, int firstRow) = 0;
+    /// Marks a cell that the user is asked about; nothing on paper.
+    virtual void CellFill(ScreenPoint /*corner*/, Rgb /*colour*/) {}
     /// `file` is the icon's name relative to the program folder; `corner` the cell's top left.
     virtual void CellIcon(ScreenPoint corner, std::string_view file) = 0;
+    /// Pipe 0 is one that is being drawn.
     virtual void PipeLine(int pipe, ScreenPoint from, ScreenPoint to, Rgb colour) = 0;
     virtual void PointMarker(ScreenPoint centre) = 0;
     virtual void ArrowLine(ScreenPoint from, ScreenPoint to) = 0;

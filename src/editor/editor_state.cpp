@@ -31,7 +31,7 @@ void AbortInsertion(Editor& editor) {
 void RedrawProject(Project& project, Editor& editor) {
     AbortInsertion(editor);
     editor.selectedComponent = 0;
-    editor.pipeSelected = false;
+    editor.selectedIn = 0;
     editor.DataShown = false;
     editor.ScrX = 1;
     editor.ScrY = 1;

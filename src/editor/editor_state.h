@@ -3,6 +3,7 @@
 
 #include <array>
 #include <string_view>
+#include <vector>
 
 #include "model/project.h"
 #include "physdata/component_lists.h"
@@ -17,13 +18,22 @@ enum class InsertState {
     Loss = 5,        ///< place of the chosen concentrated loss
 };
 
+/// What goes when a question about a deletion is answered with OK.
+struct Removal {
+    int pipe = 0;            ///< 0 when none
+    std::vector<int> cells;  ///< of components
+
+    bool operator==(const Removal&) const = default;
+};
+
 /// What the plant editor remembers beside the project. What the windows show of the insertion (hint
 /// lines, blinking button, enabled frames) follows from it.
 struct Editor {
     InsertState state = InsertState::FirstPoint;
     int firstCell = 0;          ///< first cell of the pipe begun; 0 unless `EndPoint`
     int selectedComponent = 0;  ///< cell of the component last selected; 0 when none
-    bool pipeSelected = false;  ///< `CurrentPipe` was selected on the drawing: it is highlighted
+    int selectedIn = 0;         ///< cell of the last right click that selected; 0 after others
+    Removal removal;            ///< what an open question would delete
     bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
     bool DataShown = false;     ///< pressures and flow directions are shown on the drawing
     int ScrX = 1, ScrY = 1;     ///< column and row that the drawing shows first

@@ -12,13 +12,6 @@ ScreenPoint FarCorner(const Project& project) {
             grid.GridTop + project.GridSize * grid.CellHeight};
 }
 
-/// A shown position moved to the nearest one on the grid.
-ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown) {
-    const ScreenPoint end = FarCorner(project);
-    return {std::clamp(shown.x, project.Grid.GridLeft, end.x),
-            std::clamp(shown.y, project.Grid.GridTop, end.y)};
-}
-
 }  // namespace
 
 int PlaceUnder(const Project& project, int x, int y) {
@@ -54,6 +47,12 @@ ScreenPoint Shown(const Project& project, const Editor& editor, ScreenPoint at) 
 
 bool IsOnGrid(const Project& project, ScreenPoint shown) {
     return PlaceUnder(project, shown.x, shown.y) != 0;
+}
+
+ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown) {
+    const ScreenPoint end = FarCorner(project);
+    return {std::clamp(shown.x, project.Grid.GridLeft, end.x),
+            std::clamp(shown.y, project.Grid.GridTop, end.y)};
 }
 
 std::optional<PipePart> ShownPart(const Project& project, const Editor& editor,

@@ -30,6 +30,9 @@ ScreenPoint Shown(const Project& project, const Editor& editor, ScreenPoint at);
 /// Whether a shown position lies on the grid.
 bool IsOnGrid(const Project& project, ScreenPoint shown);
 
+/// A shown position moved to the nearest one on the grid.
+ScreenPoint ClampToGrid(const Project& project, ScreenPoint shown);
+
 struct PipePart {
     ScreenPoint from, to;  ///< from the pipe's start towards its end
 };

@@ -134,7 +134,12 @@ void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_v
 void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr) return;
-    pipe->FlowFromPoint = static_cast<std::int16_t>(PointAt(*pipe, end));
+    const int point = PointAt(*pipe, end);
+    if (pipe->FlowFromPoint == point) return;
+    pipe->FlowFromPoint = static_cast<std::int16_t>(point);
+    if (project.FlowUnknown[project.CurrentPipe])
+        pipe->FlowRate = 0 - pipe->FlowRate;  // no negative zero
+    ShowFlow(project, panel);
     panel.start.reference = end == PipeEnd::Start;
     panel.end.reference = end == PipeEnd::End;
 }

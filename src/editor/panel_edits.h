@@ -47,7 +47,8 @@ void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known)
 /// `Text10`, `Text9`, in the pressure unit; only while the pressure is known.
 void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_view text);
 
-/// `Option3`, `Option4`: the end that a positive flow leaves.
+/// `Option3`, `Option4`: the end that a positive flow leaves. A given flow turns round with it; a
+/// computed one stays what it is and changes its sign.
 void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end);
 
 /// Writes the diameters of a nominal size (1 .. 12).

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <optional>
 
 #include "editor/messages.h"
@@ -102,16 +103,20 @@ void CompletePipe(Project& project, int first, int second) {
     RebuildPipeCells(project);
 }
 
+void BeginPipe(Editor& editor, int cell) {
+    editor.state = InsertState::EndPoint;
+    editor.firstCell = cell;
+}
+
 }  // namespace
 
-void InsertPipePoint(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
+void InsertPipePoint(Project& project, Editor& editor, int cell, bool goOn, MessageBoxes& boxes) {
     if (editor.state != InsertState::EndPoint) {
         if (const auto refusal = FirstPointRefusal(project, cell)) {
             boxes.Show(*refusal);
             return;
         }
-        editor.state = InsertState::EndPoint;
-        editor.firstCell = cell;
+        BeginPipe(editor, cell);
         return;
     }
     const int first = editor.firstCell;
@@ -121,7 +126,19 @@ void InsertPipePoint(Project& project, Editor& editor, int cell, MessageBoxes& b
         return;
     }
     CompletePipe(project, first, cell);
-    editor.pipeSelected = false;
+    if (goOn && !FirstPointRefusal(project, cell)) BeginPipe(editor, cell);
+}
+
+std::optional<BegunPipe> PipeTo(const Project& project, const Editor& editor, int cell) {
+    const bool begun = editor.state == InsertState::EndPoint;
+    if (!begun || cell == 0 || cell == editor.firstCell) return std::nullopt;
+    const int size = project.GridSize;
+    const auto apart = [&](int one, int other) { return std::abs(one - other); };
+    const int columns = apart((cell - 1) % size, (editor.firstCell - 1) % size);
+    const int rows = apart((cell - 1) / size, (editor.firstCell - 1) / size);
+    return BegunPipe{CellCentre(project, editor.firstCell), CellCentre(project, cell),
+                     std::max(columns, rows),
+                     EndPointRefusal(project, editor.firstCell, cell).has_value()};
 }
 
 }  // namespace idrova

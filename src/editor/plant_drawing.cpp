@@ -7,6 +7,7 @@
 #include "editor/data_labels.h"
 #include "editor/grid_view.h"
 #include "editor/pipe_ends.h"
+#include "editor/pipe_insertion.h"
 #include "model/drawn_records.h"
 
 namespace idrova {
@@ -14,13 +15,27 @@ namespace {
 
 constexpr int kLeader = 300;  ///< reach of a leader line, screen units
 
-void DrawPipes(const Project& project, const Editor& editor, DrawingSurface& surface) {
+enum class Marks { None, Selection };
+
+Rgb ColourOf(const Project& project, const Editor& editor, int pipe) {
+    if (editor.removal.pipe == pipe) return drawing_colour::kRemoved;
+    return project.CurrentPipe == pipe ? drawing_colour::kSelectedPipe : drawing_colour::kPipe;
+}
+
+void DrawPipes(const Project& project, const Editor& editor, Marks marks, DrawingSurface& surface) {
     for (const auto& [number, pipe] : DrawnPipes(project)) {
         const auto part = ShownPart(project, editor, pipe);
         if (!part) continue;
-        const bool selected = editor.pipeSelected && number == project.CurrentPipe;
-        surface.PipeLine(number, part->from, part->to,
-                         selected ? drawing_colour::kSelectedPipe : drawing_colour::kPipe);
+        surface.PipeLine(
+            number, part->from, part->to,
+            marks == Marks::None ? drawing_colour::kPipe : ColourOf(project, editor, number));
+    }
+}
+
+void MarkRemovedCells(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    for (const int cell : editor.removal.cells) {
+        const ScreenPoint corner = Shown(project, editor, PointFromCell(project, cell));
+        if (IsOnGrid(project, corner)) surface.CellFill(corner, drawing_colour::kRemoved);
     }
 }
 
@@ -61,7 +76,8 @@ void DrawIcons(const Project& project, const Editor& editor, DrawingSurface& sur
 }
 
 void DrawSelectedPipe(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    if (!editor.pipeSelected) return;
+    // The data labels name the points too.
+    if (project.CurrentPipe == 0 || editor.DataShown) return;
     const PipeRec& pipe = project.Pipes[project.CurrentPipe];
     for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
         const ScreenPoint from = Shown(project, editor, PlaceOf(pipe, end));
@@ -83,16 +99,41 @@ void DrawSelectedComponent(const Project& project, const Editor& editor, Drawing
                         GeneralText(cell) + " " + project.Cells[cell].Name, drawing_colour::kKnown);
 }
 
+void DrawElements(const Project& project, const Editor& editor, Marks marks,
+                  DrawingSurface& surface) {
+    DrawPipes(project, editor, marks, surface);
+    DrawMarkers(project, editor, surface);
+    DrawIcons(project, editor, surface);
+}
+
 }  // namespace
 
 void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface) {
     surface.Grid(editor.ScrX, editor.ScrY);
-    DrawPipes(project, editor, surface);
-    DrawMarkers(project, editor, surface);
-    DrawIcons(project, editor, surface);
+    MarkRemovedCells(project, editor, surface);
+    DrawElements(project, editor, Marks::Selection, surface);
     DrawSelectedPipe(project, editor, surface);
     DrawSelectedComponent(project, editor, surface);
     ApplyDataLabels(project, editor, surface);
+}
+
+void DrawPlantOnPaper(const Project& project, const Editor& editor, DrawingSurface& surface) {
+    surface.Grid(editor.ScrX, editor.ScrY);
+    DrawElements(project, editor, Marks::None, surface);
+    ApplyDataLabels(project, editor, surface);
+}
+
+void DrawBegunPipe(const Project& project, const Editor& editor, int cell,
+                   DrawingSurface& surface) {
+    const auto pipe = PipeTo(project, editor, cell);
+    if (!pipe) return;
+    const ScreenPoint from = ClampToGrid(project, Shown(project, editor, pipe->from));
+    const ScreenPoint to = Shown(project, editor, pipe->to);
+    surface.PipeLine(0, from, to,
+                     pipe->refused ? drawing_colour::kRefused : drawing_colour::kBegunPipe);
+    const int half = project.Grid.CellWidth / 2;
+    surface.TextLabel({to.x + half, to.y + half}, GeneralText(pipe->cells),
+                      pipe->refused ? drawing_colour::kUnknown : drawing_colour::kKnown);
 }
 
 }  // namespace idrova

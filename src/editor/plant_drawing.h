@@ -11,4 +11,11 @@ namespace idrova {
 /// labels of what is selected, and the data labels when they are shown. Changes neither.
 void DrawPlant(const Project& project, const Editor& editor, DrawingSurface& surface);
 
+/// The same with nothing marked as selected.
+void DrawPlantOnPaper(const Project& project, const Editor& editor, DrawingSurface& surface);
+
+/// Draws the pipe that is begun as it would end in a cell, with its length in cells; red where it
+/// would be refused. Nothing when none is begun.
+void DrawBegunPipe(const Project& project, const Editor& editor, int cell, DrawingSurface& surface);
+
 }  // namespace idrova

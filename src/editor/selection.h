@@ -6,8 +6,13 @@
 
 namespace idrova {
 
-/// Selects the pipe that crosses a cell, or the component placed in it, and nothing else; an empty
-/// cell selects nothing. A round pipe of nominal size gets that size's diameters in full.
+/// Selects what touches a cell, and nothing else: the component placed in it, else the pipe of the
+/// lowest number that crosses the cell or ends in it. Asked for the same cell again, what follows
+/// in that order, and after the last the first; an empty cell selects nothing.
 void SelectCell(Project& project, Editor& editor, int cell);
+
+/// Selects a drawn pipe, or nothing (0). A round pipe of nominal size gets that size's diameters
+/// in full.
+void SelectPipe(Project& project, Editor& editor, int number);
 
 }  // namespace idrova

@@ -143,10 +143,8 @@ class SvgSurface final : public DrawingSurface {
 std::string SvgDrawing(const Project& project, Editor editor) {
     editor.ScrX = editor.ScrY = 1;
     editor.state = InsertState::FirstPoint;
-    editor.pipeSelected = false;
-    editor.selectedComponent = 0;
     SvgSurface surface(project.Grid.CellWidth);
-    DrawPlant(project, editor, surface);
+    DrawPlantOnPaper(project, editor, surface);
     return surface.Text();
 }
 

@@ -59,6 +59,18 @@ constexpr MenuEntry kMenuTable[] = {
      .tip = "End the program",
      .separated = true},
 
+    {.name = "Modifica", .parent = "", .caption = "Edit", .kind = Menu, .mnemonic = 1},
+    {.name = "Annulla",
+     .parent = "Modifica",
+     .caption = "Undo",
+     .shortcut = "Ctrl+Z",
+     .tip = "Take the last change of the drawing back"},
+    {.name = "Ripeti",
+     .parent = "Modifica",
+     .caption = "Redo",
+     .shortcut = "Ctrl+Y; Ctrl+Shift+Z",
+     .tip = "Make the change again that was taken back"},
+
     {.name = "Fluido",
      .parent = "",
      .caption = "Fluid",

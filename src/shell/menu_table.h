@@ -24,7 +24,7 @@ struct MenuEntry {
     std::string_view caption;
     MenuKind kind = MenuKind::Command;
     std::size_t mnemonic = 0;        ///< position of the underlined letter in the caption
-    std::string_view shortcut = {};  ///< portable key text, or empty
+    std::string_view shortcut = {};  ///< portable key texts, "A; B", or empty
     std::string_view tip = {};       ///< one line for the status bar
     bool separated = false;          ///< a separator stands before it
 };

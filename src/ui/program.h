@@ -9,6 +9,7 @@
 
 #include "base/message_boxes.h"
 #include "editor/editor_state.h"
+#include "editor/history.h"
 #include "hydraulics/work_network.h"
 #include "model/project.h"
 #include "physdata/component_lists.h"
@@ -40,6 +41,7 @@ struct Program {
     FluidDb fluids;
     ComponentLists components;
     Editor editor;
+    EditHistory history;  ///< of the drawing
     ShellState shell;
     std::map<WorkMode, RunRecord> records;  ///< of the last computation in each mode
     std::string report;                     ///< of the last computation that wrote one

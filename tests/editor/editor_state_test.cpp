@@ -17,6 +17,7 @@ constexpr struct {
     {"L2,5", InsertState::EndPoint, "end point of the pipe", false},
     {"L2,5 L8,5", InsertState::FirstPoint, "first point of a pipe", false},
     {"L2,5 R3,3", InsertState::FirstPoint, "first point of a pipe", true},
+    {"L2,5 labels escape", InsertState::FirstPoint, "first point of a pipe", true},
     {"L2,5 L8,5 R5,5", InsertState::FirstPoint, "first point of a pipe", true},
     {"pump", InsertState::Pump, "insert selected component", true},
     {"loss", InsertState::Loss, "insert selected component", true},

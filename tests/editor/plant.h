@@ -12,6 +12,7 @@
 #include "editor/component_insertion.h"
 #include "editor/deletion.h"
 #include "editor/grid_view.h"
+#include "editor/history.h"
 #include "editor/panel_edits.h"
 #include "model/drawn_records.h"
 #include "model/grid.h"
@@ -22,9 +23,11 @@ namespace idrova {
 
 /// A project under the editor's hands, and a short script for a user's actions: "L5,3" and "R5,3"
 /// click left or right on column 5, row 3; "pump" and "loss" choose and arm a component; "delete"
-/// deletes what is selected; "S5,3" scrolls to that cell; "labels" shows the data labels; "again"
-/// fills the panel, "length=12" edits it, "length:12" is what should stand in it. Every question is
-/// answered with OK.
+/// deletes what is selected, "undo" takes a step back; "S5,3" scrolls to that cell; "labels" shows
+/// the data labels; "again" fills the panel, "length=12" edits it, "left" leaves the box,
+/// "length:12" is what should stand in it; "G5,3" is a left click that goes on; "selected:3" the
+/// pipe that should be selected, or the component of a cell ("c105"). Every question is answered
+/// with OK.
 class Plant {
   public:
     Plant() {
@@ -34,17 +37,21 @@ class Plant {
         lists.losses[1] = {"gate valve", 0.2F, 0};
         lists.losses.count = 1;
         ChooseComponentKind(editor, lists, CellKind::Pump);
+        history.StartAnew(project, editor);
     }
 
     int Place(int column, int row) const { return CellAt(column, row, project.GridSize); }
 
-    void Click(int column, int row, MouseButton button = MouseButton::Left) {
-        CellClick(project, editor, Place(column, row), button, boxes);
+    void Click(int column, int row, MouseButton button = MouseButton::Left, bool goOn = false) {
+        CellClick(project, editor, Place(column, row), button, boxes, goOn);
     }
 
     Plant& Do(const std::string& script) {
         std::istringstream steps(script);
-        for (std::string step; steps >> step;) DoStep(step);
+        for (std::string step; steps >> step;) {
+            DoStep(step);
+            history.Note(project, editor);
+        }
         return *this;
     }
 
@@ -68,6 +75,7 @@ class Plant {
     Project& project = *owner;
     Editor editor;
     ComponentLists lists;
+    EditHistory history;
     RecordedBoxes boxes;
     PipePanel panel;
 
@@ -100,6 +108,7 @@ class Plant {
         const std::map<std::string, std::string> texts = {
             {"kg/h", panel.kgPerHour + panel.computedKgPerHour},
             {"mc/h", panel.cubicMetresPerHour + panel.computedCubicMetresPerHour},
+            {"flow", panel.flowKnown ? "given" : "unknown"},
             {"length", panel.length},
             {"inner", panel.innerSize},
             {"outer", panel.outerSize},
@@ -108,7 +117,10 @@ class Plant {
             {"z2", panel.end.height},
             {"p1", panel.start.given + "/" + panel.start.computed},
             {"p2", panel.end.given + "/" + panel.end.computed},
-            {"from2", panel.end.reference ? "yes" : "no"}};
+            {"from2", panel.end.reference ? "yes" : "no"},
+            {"selected", editor.selectedComponent == 0
+                             ? GeneralText(project.CurrentPipe)
+                             : "c" + GeneralText(editor.selectedComponent)}};
         return texts.at(name);
     }
 
@@ -117,6 +129,10 @@ class Plant {
         if (step == "loss") return Arm(CellKind::Loss);
         if (step == "delete") return DeleteSelected(project, editor, boxes);
         if (step == "turn") return TurnSelectedPump(project, editor);
+        if (step == "escape") return AbortByKey(editor);
+        if (step == "undo") return history.Undo(project, editor);
+        if (step == "redo") return history.Redo(project, editor);
+        if (step == "left") return history.EndTyping();
         if (step == "again") return static_cast<void>(panel = ShowPipeData(project));
         if (step == "labels") return static_cast<void>(editor.DataShown = true);
         const auto sign = step.find_first_of("=:,");
@@ -133,7 +149,7 @@ class Plant {
 
     void At(char what, int column, int row) {
         if (what == 'S') return ScrollDrawing(project, editor, column, row);
-        Click(column, row, what == 'L' ? MouseButton::Left : MouseButton::Right);
+        Click(column, row, what == 'R' ? MouseButton::Right : MouseButton::Left, what == 'G');
     }
 
     std::string EndText(int point) const {

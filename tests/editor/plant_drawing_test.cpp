@@ -5,20 +5,65 @@
 
 #include <set>
 
+#include "editor/drawing_list.h"
+#include "editor/hover_text.h"
+#include "editor/pipe_insertion.h"
 #include "plant.h"
-#include "recorded_surface.h"
 
 namespace idrova {
 namespace {
 
+using testing::Contains;
+using testing::IsSupersetOf;
 using Lines = std::vector<std::string>;
+
+/// What was drawn, one line of text for each element.
+Lines LinesOf(const DrawingList& drawing) {
+    const auto pair = [](ScreenPoint at) { return GeneralText(at.x) + "," + GeneralText(at.y); };
+    const auto name = [](const DrawnElement& element) -> std::string {
+        const std::string pipe = "pipe " + GeneralText(element.pipe);
+        const bool known = element.colour == drawing_colour::kKnown;
+        switch (element.kind) {
+            case ElementKind::CellFill:
+                return "removed cell";
+            case ElementKind::PipeLine:
+                if (element.colour == drawing_colour::kBegunPipe) return "begun pipe";
+                if (element.colour == drawing_colour::kRefused) return "refused pipe";
+                if (element.colour == drawing_colour::kRemoved) return "removed " + pipe;
+                return (element.colour == drawing_colour::kPipe ? "" : "selected ") + pipe;
+            case ElementKind::PointMarker:
+                return "point";
+            case ElementKind::ArrowLine:
+                return "arrow";
+            case ElementKind::LeaderLine:
+                return "leader";
+            case ElementKind::TextLabel:
+            case ElementKind::LeaderLabel:
+                return (known ? "known '" : "unknown '") + element.text + "'";
+            case ElementKind::CellIcon:
+                break;
+        }
+        return element.text;
+    };
+    Lines lines = {"grid from " + pair({drawing.firstColumn, drawing.firstRow})};
+    for (const DrawnElement& element : drawing.elements) {
+        const bool two = element.to != ScreenPoint{};
+        lines.push_back(name(element) + " " + pair(element.from) +
+                        (two ? " " + pair(element.to) : ""));
+    }
+    return lines;
+}
+
+DrawingList DrawingOf(const Plant& plant) {
+    DrawingList drawing;
+    DrawPlant(plant.project, plant.editor, drawing);
+    return drawing;
+}
 
 Lines Drawn(const char* script) {
     Plant plant;
     plant.Do(script);
-    RecordedSurface surface;
-    DrawPlant(plant.project, plant.editor, surface);
-    return surface.drawn;
+    return LinesOf(DrawingOf(plant));
 }
 
 struct Drawing {
@@ -30,9 +75,10 @@ struct Drawing {
 const Drawing kDrawings[] = {
     {"every element",
      "L1,1 L5,1 L5,1 L5,3 pump L3,1 L9,9",
-     {"grid from 1,1", "pipe 1 639,639 1195,639", "pipe 2 1751,639 1751,1195",
+     {"grid from 1,1", "pipe 1 639,639 1195,639", "selected pipe 2 1751,639 1751,1195",
       "pipe 3 1195,639 1751,639", "point 639,639", "point 1751,639", "point 1751,1195",
-      "point 2863,2863", "IMG\\arrt.ico 1056,500"}},
+      "point 2863,2863", "IMG\\arrt.ico 1056,500", "unknown '2' 1751,639 1451,339",
+      "unknown '3' 1751,1195 2051,895"}},
     {"selected pipe",
      "L5,5 L2,5 R3,5 again end2=given",
      {"grid from 1,1", "selected pipe 1 1751,1751 917,1751", "point 1751,1751", "point 917,1751",
@@ -57,18 +103,82 @@ const Drawing kDrawings[] = {
       "arrow 1264,847 1195,986"}},
     {"labels at the right edge",
      "L48,3 L50,3 labels",
-     {"grid from 1,1", "pipe 1 13705,1195 14261,1195", "point 13705,1195", "point 14261,1195",
-      "unknown 'P1=.' 13844,1334", "leader 14261,1195 14261,546", "unknown 'P2=.' 14234,361",
-      "arrow 13913,1126 14052,1195", "arrow 13913,1264 14052,1195"}},
+     {"grid from 1,1", "selected pipe 1 13705,1195 14261,1195", "point 13705,1195",
+      "point 14261,1195", "unknown 'P1=.' 13844,1334", "leader 14261,1195 14400,546",
+      "unknown 'P2=.' 14234,361", "arrow 13913,1126 14052,1195", "arrow 13913,1264 14052,1195"}},
     {"cut by scrolling, which hides data",
      "L1,3 L9,3 L2,5 L2,9 pump L5,3 labels S3,2",
      {"grid from 3,2", "pipe 1 500,917 1195,917", "pipe 3 1195,917 2307,917", "point 2307,917",
       "IMG\\arrt.ico 1056,778"}},
+    {"data where it is scrolled to",
+     "L1,3 L5,3 S3,2 labels",
+     {"grid from 3,2", "selected pipe 1 500,917 1195,917", "point 1195,917",
+      "unknown 'P2=.' 1334,1056", "arrow 778,848 917,917", "arrow 778,986 917,917"}},
     {"scrolled to the limit", "L1,3 L9,3 S1000,-4", {"grid from 250,1"}},
 };
 
 TEST(PlantDrawing, ShowsWhatTheScriptLeaves) {
     for (const Drawing& c : kDrawings) EXPECT_EQ(Drawn(c.script), c.drawn) << c.what;
+}
+
+TEST(PlantDrawing, ShowsWhatAnOpenQuestionWouldDelete) {
+    Plant plant;
+    plant.Do("L1,1 L5,1 pump L3,1 R2,1");
+    std::vector<Lines> asked;
+    const auto show = [&] { asked.push_back(LinesOf(DrawingOf(plant))); };
+    DeleteSelected(plant.project, plant.editor, plant.boxes, show);
+    plant.Do("L1,3 L5,3 loss L3,3 R3,3");
+    DeleteSelected(plant.project, plant.editor, plant.boxes, show);
+    ASSERT_EQ(asked.size(), 2U);
+    EXPECT_THAT(asked[0], IsSupersetOf({"removed cell 1056,500", "removed pipe 1 639,639 1195,639",
+                                        "pipe 2 1195,639 1751,639"}));
+    EXPECT_THAT(asked[1], Contains("removed cell 1056,1056"));
+    for (const std::string& line : LinesOf(DrawingOf(plant))) {
+        EXPECT_FALSE(line.starts_with("removed")) << line;
+    }
+}
+
+constexpr struct {
+    const char* script;
+    int column, row;
+    const char* line;
+} kBegunPipes[] = {
+    {"L2,2", 6, 2, "begun pipe 917,917 2029,917"},
+    {"L2,2", 2, 9, "begun pipe 917,917 917,2863"},
+    {"L2,2", 3, 4, "refused pipe 917,917 1195,1473"},
+    {"L2,5 L8,5 pump L4,5 L4,2", 4, 5, "refused pipe 1473,917 1473,1751"},
+};
+
+TEST(PlantDrawing, APipeThatIsBegunFollowsThePointer) {
+    for (const auto& c : kBegunPipes) {
+        Plant plant;
+        plant.Do(c.script);
+        DrawingList drawing;
+        DrawBegunPipe(plant.project, plant.editor, plant.Place(c.column, c.row), drawing);
+        ASSERT_EQ(drawing.elements.size(), 2U);
+        EXPECT_EQ(LinesOf(drawing)[1], c.line);
+    }
+    Plant plant;
+    plant.Do("L2,2");
+    EXPECT_EQ(PipeTo(plant.project, plant.editor, plant.Place(2, 9))->cells, 7);
+    EXPECT_FALSE(PipeTo(plant.project, plant.editor, plant.Place(2, 2)));
+    EXPECT_FALSE(PipeTo(plant.project, plant.editor, 0)) << "beside the grid";
+    plant.Do("L2,9");
+    EXPECT_FALSE(PipeTo(plant.project, plant.editor, plant.Place(2, 12)));
+}
+
+TEST(PlantDrawing, ATipTellsOfPipeAndComponent) {
+    Plant plant;
+    Project& project = plant.project;
+    plant.Do("L2,5 L9,5 loss L6,5 R3,5 again size=7 length=12.5");
+    const auto tip = [&](int column) { return HoverText(project, plant.Place(column, 5)); };
+    EXPECT_EQ(tip(3), "Pipe 1: 53.8 mm (2\"), 12.5 m");
+    EXPECT_EQ(tip(6), "gate valve");
+    EXPECT_EQ(tip(8), "Pipe 2: no diameter, no length");
+    EXPECT_EQ(tip(12), "");
+    project.settings.SectionType = Section::Rectangular;
+    EXPECT_EQ(tip(3), "Pipe 1: 53.8 x 60.3 mm, 12.5 m");
+    EXPECT_EQ(HoverFlow(0.5, -0.125), "1800 kg/h, -.13 m/s");
 }
 
 TEST(DataLabels, NeverHideEachOther) {

@@ -3,10 +3,12 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <deque>
 #include <map>
 #include <random>
 #include <set>
 
+#include "given.h"
 #include "plant.h"
 #include "projectfile/project_file.h"
 #include "shell/run_command.h"
@@ -55,10 +57,12 @@ class RandomUser {
             {8, "reopen"},
             {1, "compute"},
             {1, "reset"},
+            {20, "undo"},
         };
-        int likelihood = UpTo(1000);
+        int likelihood = UpTo(1020);
         const auto* action = std::begin(actions);
         while ((likelihood -= action->first) >= 0) ++action;
+        if (action->second == "undo") return UndoAndRedo();
         if (action->second == "reopen") {
             Reopen();
         } else if (action->second == "compute") {
@@ -66,8 +70,10 @@ class RandomUser {
         } else if (action->second == "reset") {
             ResetProject(plant.project);
             RedrawProject(plant.project, plant.editor);
+            StartAnew();
         } else {
-            plant.Do(action->second);
+            std::istringstream steps(action->second);
+            for (std::string step; steps >> step;) Do(step);
         }
         return action->second + " ";
     }
@@ -88,6 +94,34 @@ class RandomUser {
         return edit.first + "=" + texts[UpTo(std::size(texts))];
     }
 
+    void Do(const std::string& step) {
+        plant.Do(step + " left");
+        Given given = GivenOf(plant.project);
+        if (given == copies_.back()) return;
+        copies_.push_back(std::move(given));
+        if (copies_.size() > EditHistory::kMaxSteps + 1) copies_.pop_front();
+    }
+
+    void StartAnew() {
+        plant.history.StartAnew(plant.project, plant.editor);
+        copies_ = {GivenOf(plant.project)};
+    }
+
+    /// Some steps back and a part of them again: each time what it was then.
+    std::string UndoAndRedo() {
+        const int back = UpTo(std::min<std::size_t>(copies_.size(), 25));
+        const int again = UpTo(back + 1);
+        std::size_t at = copies_.size() - 1;
+        for (int i = 0; i < back + again; ++i) {
+            plant.Do(i < back ? "undo" : "redo");
+            at += i < back ? -1 : 1;
+            EXPECT_TRUE(GivenOf(plant.project) == copies_[at]) << i << " of " << back;
+            EXPECT_THAT(BrokenInvariants(plant.project, plant.editor), testing::IsEmpty());
+        }
+        copies_.resize(at + 1);
+        return "undo*" + GeneralText(back) + " redo*" + GeneralText(again) + " ";
+    }
+
     /// First gives every pipe its size, and the pressures where the plant ends.
     void Compute() {
         Project& project = plant.project;
@@ -106,6 +140,7 @@ class RandomUser {
         const auto noReport = [](const Settings&, const WorkNetwork&) { return Status(Done{}); };
         const RunHost host{.boxes = plant.boxes, .writeReport = noReport, .seed = 1};
         runs.insert(RunNetwork(project, {}, *work, host).outcome.end);
+        Do("R50,50");
     }
 
     void Reopen() {
@@ -115,10 +150,12 @@ class RandomUser {
         OpenProject(plant.project, folder_ / "plant.iv", yes);
         RedrawProject(plant.project, plant.editor);
         EXPECT_EQ(ProjectFileText(plant.project), before);
+        StartAnew();
     }
 
     std::mt19937 random_;
     TempFolder folder_;
+    std::deque<Given> copies_{GivenOf(plant.project)};  ///< of the states that can be undone to
 };
 
 TEST(RandomActions, KeepTheNetworkWhole) {

@@ -38,6 +38,7 @@ TEST(Invariants, EveryBreachIsFound) {
     EXPECT_THAT(BrokenInvariants(*SampleProject()), testing::IsEmpty());
     const std::vector<std::pair<void (*)(Project&), std::string>> cases = {
         {[](Project& p) { p.numtubo = 201; }, "the counts must be"},
+        {[](Project& p) { p.Pipes[0].Length = 1; }, "pipe 0 must stay unused"},
         {[](Project& p) { p.Cells[0].Placed = true; }, "cell 0 must stay unused"},
         {[](Project& p) { p.Pipes[1].Length = NAN; }, "pipe 1 must have finite numbers"},
         {[](Project& p) { p.Pipes[1].FlowFromPoint = 3; }, "pipe 1 must count its flow"},
@@ -48,7 +49,7 @@ TEST(Invariants, EveryBreachIsFound) {
         {[](Project& p) { p.Cells[9].Placed = true; }, "cell 9 must hold a component"},
         {[](Project& p) { p.Cells[9].CrossingPipe = 3; }, "cell 9 must hold a component"},
         {[](Project& p) { p.Cells[2501].Kind = CellKind::Loss; }, "cell 2501 must lie within"},
-        {[](Project& p) { p.TableRows[2].RowZ2 = NAN; }, "table row 2 must have finite"},
+        {[](Project& p) { p.TableRows[kTableSlots].RowZ2 = NAN; }, "table row 200 must have"},
         {[](Project& p) { p.TableRows[2].P1Given = false; }, "table row 2 must have its values"},
     };
     for (const auto& [spoil, fault] : cases) {

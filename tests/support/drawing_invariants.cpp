@@ -6,7 +6,7 @@
 #include <bitset>
 #include <memory>
 
-#include "editor/drawing_surface.h"
+#include "editor/drawing_list.h"
 #include "editor/pipe_ends.h"
 #include "editor/plant_drawing.h"
 #include "model/drawn_records.h"
@@ -17,37 +17,31 @@
 namespace idrova {
 namespace {
 
-/// Keeps where pipes, markers and icons are drawn.
-class DrawnElements final : public DrawingSurface {
-  public:
-    explicit DrawnElements(const Project& project) : project_(project) {}
-
-    void Grid(int /*firstColumn*/, int /*firstRow*/) override {}
-    void CellIcon(ScreenPoint corner, std::string_view /*file*/) override {
-        const int half = project_.Grid.CellWidth / 2;
-        icons.set(CellFromPoint(project_, corner.x + half, corner.y + half));
-    }
-    void PipeLine(int pipe, ScreenPoint from, ScreenPoint to, Rgb /*colour*/) override {
-        ++lineCount;
-        lines[pipe] = {from, to};
-    }
-    void PointMarker(ScreenPoint centre) override {
-        markers.set(CellFromPoint(project_, centre.x, centre.y));
-    }
-    void ArrowLine(ScreenPoint /*from*/, ScreenPoint /*to*/) override {}
-    void TextLabel(ScreenPoint /*corner*/, std::string_view /*text*/, Rgb /*background*/) override {
-    }
-    void LeaderLine(ScreenPoint /*from*/, ScreenPoint /*to*/) override {}
-    void LeaderLabel(ScreenPoint /*from*/, ScreenPoint /*to*/, std::string_view /*text*/,
-                     Rgb /*background*/) override {}
-
+/// Where pipes, markers and icons are drawn.
+struct DrawnElements {
     int lineCount = 0;
     std::array<std::pair<ScreenPoint, ScreenPoint>, kMaxPipes + 1> lines;
     std::bitset<kMaxCells + 1> markers, icons;
-
-  private:
-    const Project& project_;
 };
+
+DrawnElements ElementsOf(const Project& project, const Editor& editor) {
+    DrawingList list;
+    DrawPlant(project, editor, list);
+    DrawnElements drawn;
+    const int half = project.Grid.CellWidth / 2;
+    for (const DrawnElement& element : list.elements) {
+        const ScreenPoint at = element.from;
+        if (element.kind == ElementKind::CellIcon) {
+            drawn.icons.set(CellFromPoint(project, at.x + half, at.y + half));
+        } else if (element.kind == ElementKind::PointMarker) {
+            drawn.markers.set(CellFromPoint(project, at.x, at.y));
+        } else if (element.kind == ElementKind::PipeLine) {
+            ++drawn.lineCount;
+            drawn.lines[element.pipe] = {at, element.to};
+        }
+    }
+    return drawn;
+}
 
 void CheckDrawnPipes(const Project& project, const DrawnElements& drawn, Faults& faults) {
     int live = 0;
@@ -80,8 +74,7 @@ void CheckDrawnCells(const Project& project, const Editor& editor, const DrawnEl
 
 void CheckDrawing(const Project& project, Editor editor, Faults& faults) {
     editor.ScrX = editor.ScrY = 1;
-    DrawnElements drawn(project);
-    DrawPlant(project, editor, drawn);
+    const DrawnElements drawn = ElementsOf(project, editor);
     CheckDrawnPipes(project, drawn, faults);
     CheckDrawnCells(project, editor, drawn, faults);
 }
@@ -96,7 +89,7 @@ void CheckEditor(const Project& project, const Editor& editor, Faults& faults) {
         faults.push_back(Named("no component to select in cell", editor.selectedComponent));
     }
     const int current = project.CurrentPipe;
-    if (current != 0 ? !project.Pipes[current].IsDrawn() : editor.pipeSelected) {
+    if (current != 0 && !project.Pipes[current].IsDrawn()) {
         faults.push_back(Named("not a live pipe: the current", current));
     }
 }

@@ -16,17 +16,19 @@ std::pair<int, int> CellsOf(const Project& project, int pipe) {
     return {project.Points[record.StartPoint].Cell, project.Points[record.EndPoint].Cell};
 }
 
-TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
+TEST_F(DrawingWindow, TakesClicksAndDragsInTheRightCellsAtAnySize) {
     for (const QSize size : {QSize(1900, 1050), QSize(900, 1000), QSize(700, 620)}) {
         mdi->resize(size);
         QApplication::processEvents();
-        ResetProject(project);
-        RedrawProject(project, program->editor);
         Draw(1, 1, 50, 1);
-        Draw(1, 50, 50, 50);
+        QTest::mousePress(View().viewport(), Qt::LeftButton, {}, PlaceOf(1, 50));
+        QTest::mouseRelease(View().viewport(), Qt::LeftButton, Qt::ShiftModifier, PlaceOf(50, 50));
         EXPECT_EQ(CellsOf(project, 1), std::pair(1, 50));
         EXPECT_EQ(CellsOf(project, 2), std::pair(2451, 2500));
         EXPECT_EQ(LinesDrawn(), 2);
+        EXPECT_EQ(program->editor.firstCell, 2500) << "the next begins there";
+        for (int i = 0; i < 2; ++i) QTest::keyClick(&View(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(LinesDrawn(), 0);
     }
     boxes.Expect(kLengthZero);
     Click(5, 5);
@@ -37,40 +39,40 @@ TEST_F(DrawingWindow, TakesClicksInTheRightCellsAtAnySize) {
 TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
     QWidget& view = View();
     view.setFocus(Qt::TabFocusReason);
-    const auto keys = [&view](std::initializer_list<Qt::Key> pressed) {
-        for (const Qt::Key key : pressed) QTest::keyClick(&view, key);
+    const auto keys = [&view](std::initializer_list<Qt::Key> pressed,
+                              Qt::KeyboardModifier modifier = Qt::NoModifier) {
+        for (const Qt::Key key : pressed) QTest::keyClick(&view, key, modifier);
     };
     keys({Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return});
-    keys({Qt::Key_Right, Qt::Key_Right, Qt::Key_Right, Qt::Key_Left, Qt::Key_Enter});
-    ASSERT_EQ(project.numtubo, 1);
+    keys({Qt::Key_Right}, Qt::ControlModifier);
+    keys({Qt::Key_Left, Qt::Key_Left, Qt::Key_Left, Qt::Key_Enter});
     EXPECT_EQ(CellsOf(project, 1), (std::pair{102, 104}));
     EXPECT_EQ(mdi->statusBar()->currentMessage(), "Column 4, row 3 (cell 104)");
-    keys({Qt::Key_Left, Qt::Key_Menu});
-    EXPECT_TRUE(program->editor.pipeSelected);
-    keys({Qt::Key_Return, Qt::Key_Escape, Qt::Key_Escape});
+    keys({Qt::Key_Left, Qt::Key_Menu, Qt::Key_Return, Qt::Key_Escape, Qt::Key_Escape});
     EXPECT_EQ(program->editor.state, InsertState::FirstPoint);
     EXPECT_NE(Window("FrmCel"), nullptr);
+    boxes.Expect(AskDeletePipe(1));
+    keys({Qt::Key_Delete, Qt::Key_Home, Qt::Key_Return, Qt::Key_End, Qt::Key_Return});
+    EXPECT_EQ(CellsOf(project, 2), (std::pair{101, 150}));
     Click(9, 9);  // the mouse takes the cursor along
     keys({Qt::Key_Down, Qt::Key_Return});
-    EXPECT_EQ(CellsOf(project, 2).second, CellAt(9, 10, 50));
+    EXPECT_EQ(CellsOf(project, 3).second, CellAt(9, 10, 50));
 }
 
 TEST_F(DrawingWindow, TheKeyboardGoesOnToTheCommandPanelAndBack) {
-    for (const int tabs : {0, 1}) {  // by F4, by Tab
+    const auto press = [](Qt::Key key, Qt::KeyboardModifier modifier = Qt::NoModifier) {
+        QTest::keyClick(QApplication::focusWidget(), key, modifier);
+        return QApplication::focusWidget()->objectName();
+    };
+    for (const Qt::Key away : {Qt::Key_F4, Qt::Key_Tab}) {
         View().setFocus();
-        if (tabs == 0) QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
-        for (int i = 0; i < tabs; ++i) QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-        ASSERT_TRUE(mdi->Panel().isAncestorOf(QApplication::focusWidget()));
-        EXPECT_EQ(QApplication::focusWidget()->objectName(), "Combo1") << tabs;
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_F4);
-        EXPECT_EQ(QApplication::focusWidget(), &View());
-        QTest::keyClick(&View(), Qt::Key_Tab, Qt::ShiftModifier);
-        EXPECT_EQ(QApplication::focusWidget()->objectName(), "Slider1");
-        Child<QWidget>("Command3").setFocus();
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        EXPECT_TRUE(IsArmed(program->editor));
-        AbortInsertion(program->editor);
+        EXPECT_EQ(press(away), "Combo1");
+        EXPECT_EQ(press(Qt::Key_F4), "Drawing");
+        EXPECT_EQ(press(Qt::Key_Tab, Qt::ShiftModifier), "Slider1");
     }
+    Child<QWidget>("Command3").setFocus();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(IsArmed(program->editor));
 }
 
 TEST_F(DrawingWindow, ScrollsWithItsBars) {
@@ -84,13 +86,12 @@ TEST_F(DrawingWindow, ScrollsWithItsBars) {
     EXPECT_EQ(CellsOf(project, 2), (std::pair{CellAt(9, 3, 50), CellAt(9, 6, 50)}));
     boxes.Expect(kLeaveProject);
     Choose("Nuovo");
-    EXPECT_EQ(bar.value(), 1);
-    EXPECT_EQ(LinesDrawn(), 0);
+    EXPECT_EQ(std::pair(bar.value(), LinesDrawn()), std::pair(1, 0));
+    EXPECT_FALSE(Item("Annulla").isEnabled());
 }
 
 TEST_F(DrawingWindow, AComponentIsHintedAndShowsWithoutItsIcon) {
     Draw(8, 5, 2, 5);
-    Select(1, 1);
     Do("Command3");
     EXPECT_EQ(mdi->findChild<QLabel*>("Label2")->text(), "insert selected component");
     const ScreenPoint centre = CellCentre(project, CellAt(5, 5, 50));
@@ -99,6 +100,11 @@ TEST_F(DrawingWindow, AComponentIsHintedAndShowsWithoutItsIcon) {
     const QRgb before = pixel();
     Click(5, 5);
     EXPECT_NE(pixel(), before);
+    EXPECT_EQ(Item("Annulla").text(), "&Undo insert pump");
+    Choose("Annulla");
+    EXPECT_EQ(pixel(), before);
+    Choose("Tabella");
+    EXPECT_FALSE(Item("Annulla").isEnabled());
 }
 
 }  // namespace

@@ -42,6 +42,12 @@ TEST_F(CommandPanel, EveryBoxReachesItsFieldAndMayBeRefused) {
     Select(5, 5);
     EXPECT_EQ(Shown("Text6 Text10 Option4 Frame3 Frame5"), "12.5|2.|1|Pipe 1|P2");
 
+    Do("Text6=3;Text7=60");
+    QTest::keyClick(&Child<QLineEdit>("Text7"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Shown("Text6 Text7"), "3|500");
+    QTest::keyClick(&Child<QLineEdit>("Text7"), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Shown("Text6 Text7"), "12.5|500");
+
     Do("Text6:-5;Text5:-1");
     EXPECT_EQ(Shown("Text6 Text5"), "0|0");
     Do("Text6=2.");

@@ -33,8 +33,8 @@ class CellIcons {
 /// One component on the drawing.
 class IconItem : public QGraphicsItem {
   public:
-    IconItem(CellIcons& icons, const QRectF& place, std::string_view file, QGraphicsItem* parent)
-        : QGraphicsItem(parent), icons_(icons), place_(place), file_(file) {}
+    IconItem(CellIcons& icons, const QRectF& place, std::string_view file)
+        : icons_(icons), place_(place), file_(file) {}
 
     QRectF boundingRect() const override { return place_; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

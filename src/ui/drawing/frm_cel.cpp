@@ -8,22 +8,18 @@
 #include <QStatusTipEvent>
 
 #include "editor/component_insertion.h"
+#include "editor/deletion.h"
 #include "editor/grid_view.h"
+#include "editor/hover_text.h"
 #include "editor/plant_drawing.h"
+#include "results/report_figures.h"
 #include "ui/drawing/plant_scene.h"
 #include "ui/drawing/plant_view.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/qt_text.h"
 #include "ui/program.h"
 
 namespace idrova {
-
-/// What the drawing was last made from.
-struct FrmCel::Shown {
-    Project project;
-    Editor editor;
-};
-
-FrmCel::~FrmCel() = default;
 
 FrmCel::FrmCel(Program& program)
     : ChildWindow("FrmCel", "Idrova - plant drawing"),
@@ -57,7 +53,10 @@ QScrollBar* FrmCel::Bar(const char* name, Qt::Orientation orientation) {
 }
 
 void FrmCel::ConnectView() {
-    view_->press = [this](int place, MouseButton button) { Img_MouseDown(place, button); };
+    view_->press = [this](int place, MouseButton button, bool goOn) {
+        Img_MouseDown(place, button, goOn);
+    };
+    view_->drop = [this](int place, bool goOn) { Drop(place, goOn); };
     view_->hover = [this](int place) { ShowPlace(place); };
     view_->moveCursor = [this](int place) { scene_->ShowCursor(place); };
     view_->abort = [this] { Abort(); };
@@ -65,28 +64,53 @@ void FrmCel::ConnectView() {
         TurnSelectedPump(program_.project, program_.editor);
         program_.changed();
     };
+    view_->remove = [this] {
+        DeleteSelected(program_.project, program_.editor, program_.boxes, program_.changed);
+        program_.changed();
+    };
+    view_->tip = [this](int place) { return TipOf(place); };
 }
 
 void FrmCel::ShowState() {
-    const Project& project = program_.project;
-    const Editor& editor = program_.editor;
-    if (shown_ == nullptr) {
-        shown_ = std::make_unique<Shown>();
-    } else if (shown_->editor == editor && shown_->project == project) {
-        return;
-    }
-    shown_->project = project;
-    shown_->editor = editor;
     const QSignalBlocker silentX(ScrX);
     const QSignalBlocker silentY(ScrY);
-    ScrX->setValue(editor.ScrX);
-    ScrY->setValue(editor.ScrY);
-    DrawPlant(project, editor, *scene_);
+    ScrX->setValue(program_.editor.ScrX);
+    ScrY->setValue(program_.editor.ScrY);
+    DrawingList drawing;
+    DrawPlant(program_.project, program_.editor, drawing);
+    DrawBegunPipe(program_.project, program_.editor, HoverCell, drawing);
+    scene_->Show(std::move(drawing));
 }
 
-void FrmCel::Img_MouseDown(int place, MouseButton button) {
-    CellClick(program_.project, program_.editor, place, button, program_.boxes);
+void FrmCel::Img_MouseDown(int place, MouseButton button, bool goOn) {
+    const bool begun = program_.editor.state == InsertState::EndPoint;
+    CellClick(program_.project, program_.editor, place, button, program_.boxes, goOn);
+    isBegunByPress_ = !begun && program_.editor.state == InsertState::EndPoint;
     program_.changed();
+}
+
+void FrmCel::Drop(int place, bool goOn) {
+    if (isBegunByPress_ && program_.editor.state == InsertState::EndPoint) {
+        Img_MouseDown(place, MouseButton::Left, goOn);
+    }
+}
+
+QString FrmCel::TipOf(int place) const {
+    const Project& project = program_.project;
+    const int cell = CellShownAt(project, program_.editor, place);
+    if (cell == 0) return {};
+    std::string text = HoverText(project, cell);
+    const int pipe = PipeUnder(project, cell);
+    const auto run = program_.records.find(WorkMode::Graphic);
+    if (pipe != 0 && run != program_.records.end() && run->second.results) {
+        const WorkNetwork& results = *run->second.results;
+        const PipeRec& computed = results.WorkPipes[pipe];
+        if (pipe <= results.WorkPipeCount && computed.IsDrawn()) {
+            const double speed = FiguresOf(computed, results, run->second.settings).speed;
+            text += "\n" + HoverFlow(computed.FlowRate, speed);
+        }
+    }
+    return ToQt(text);
 }
 
 bool FrmCel::focusNextPrevChild(bool next) {
@@ -108,6 +132,7 @@ void FrmCel::ShowPlace(int place) {
     const int cell = CellShownAt(program_.project, program_.editor, place);
     if (cell == HoverCell) return;
     HoverCell = cell;
+    if (program_.editor.state == InsertState::EndPoint) ShowState();
     const int size = program_.project.GridSize;
     const QString tip = cell == 0 ? QString()
                                   : QString("Column %1, row %2 (cell %3)")

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <memory>
-
 #include "editor/cell_click.h"
 #include "ui/kit/child_window.h"
 
@@ -19,8 +17,6 @@ class FrmCel final : public ChildWindow {
   public:
     explicit FrmCel(Program& program);
 
-    ~FrmCel() override;
-
     void ShowState() override;
 
   protected:
@@ -28,22 +24,22 @@ class FrmCel final : public ChildWindow {
     bool focusNextPrevChild(bool next) override;
 
   private:
-    struct Shown;
-
     QScrollBar* Bar(const char* name, Qt::Orientation orientation);
     void ConnectView();
-    void Img_MouseDown(int place, MouseButton button);
+    void Img_MouseDown(int place, MouseButton button, bool goOn);
+    void Drop(int place, bool goOn);
+    QString TipOf(int place) const;
     void Scrolled();
     void Abort();
     void ShowPlace(int place);
 
     Program& program_;
-    std::unique_ptr<Shown> shown_;  ///< null before the first time
     PlantScene* scene_;
     PlantView* view_;
     QScrollBar* ScrX;
     QScrollBar* ScrY;
-    int HoverCell = 0;  ///< cell under the mouse or the cursor; 0 when none
+    bool isBegunByPress_ = false;  ///< the last press began a pipe
+    int HoverCell = 0;             ///< cell under the mouse or the cursor; 0 when none
 };
 
 }  // namespace idrova

@@ -2,20 +2,30 @@
 #include "ui/drawing/grid_item.h"
 
 #include <QPainter>
+#include <QStyleOptionGraphicsItem>
 
 #include "ui/drawing/drawing_style.h"
 
 namespace idrova {
 
+GridItem::GridItem(const Project& project) : project_(project) {
+    setFlag(ItemUsesExtendedStyleOption);  // which tells what is exposed
+}
+
 void GridItem::Start(int firstColumn, int firstRow) {
+    if (firstColumn == firstColumn_ && firstRow == firstRow_) return;
     firstColumn_ = firstColumn;
     firstRow_ = firstRow;
     update();
 }
 
 void GridItem::ShowCursor(int place) {
+    if (place == cursor_) return;
+    const QRectF before = CursorRect();
     cursor_ = place;
-    update();
+    for (const QRectF& changed : {before, CursorRect()}) {
+        if (!changed.isEmpty()) update(changed);
+    }
 }
 
 /// Column and row from 0 are the headers'.
@@ -30,18 +40,26 @@ QRectF GridItem::boundingRect() const {
     return CellRect(0, 0) | CellRect(project_.GridSize + 1, project_.GridSize + 1);
 }
 
-void GridItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
+QRectF GridItem::CursorRect() const {
+    if (cursor_ == 0) return {};
+    const int column = (cursor_ - 1) % project_.GridSize + 1;
+    const int row = (cursor_ - 1) / project_.GridSize + 1;
+    const double pen = drawing_style::kCursorWidth;
+    return CellRect(column, row).adjusted(-pen, -pen, pen, pen);
+}
+
+void GridItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
                      QWidget* /*widget*/) {
-    PaintCells(*painter);
-    PaintHeaders(*painter);
+    PaintCells(*painter, option->exposedRect);
+    PaintHeaders(*painter, option->exposedRect);
     PaintCursor(*painter);
 }
 
-void GridItem::PaintCells(QPainter& painter) const {
+void GridItem::PaintCells(QPainter& painter, const QRectF& exposed) const {
     const int size = project_.GridSize;
     const QRectF all = CellRect(1, 1) | CellRect(size, size);
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.fillRect(all, ToQt(drawing_colour::kCell));
+    painter.fillRect(all & exposed, ToQt(drawing_colour::kCell));
     painter.setPen(QPen(drawing_style::kGridLine, 0));
     for (int i = 1; i <= size + 1; ++i) {
         const QPointF corner = CellRect(i, i).topLeft();
@@ -50,22 +68,25 @@ void GridItem::PaintCells(QPainter& painter) const {
     }
 }
 
-void GridItem::PaintHeaders(QPainter& painter) const {
+void GridItem::PaintHeaders(QPainter& painter, const QRectF& exposed) const {
     painter.setPen(drawing_style::kHeader);
     painter.setFont(drawing_style::Font(drawing_style::kHeaderHeight));
+    const auto paint = [&](const QRectF& cell, int number) {
+        if (!cell.intersects(exposed)) return;
+        painter.drawText(cell, Qt::AlignCenter, QString::number(number));
+    };
     for (int i = 1; i <= project_.GridSize; ++i) {
-        painter.drawText(CellRect(i, 0), Qt::AlignCenter, QString::number(firstColumn_ + i - 1));
-        painter.drawText(CellRect(0, i), Qt::AlignCenter, QString::number(firstRow_ + i - 1));
+        paint(CellRect(i, 0), firstColumn_ + i - 1);
+        paint(CellRect(0, i), firstRow_ + i - 1);
     }
 }
 
 void GridItem::PaintCursor(QPainter& painter) const {
     if (cursor_ == 0) return;
-    const int column = (cursor_ - 1) % project_.GridSize + 1;
-    const int row = (cursor_ - 1) / project_.GridSize + 1;
+    const double pen = drawing_style::kCursorWidth;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(drawing_style::kCursor, drawing_style::kCursorWidth));
-    painter.drawRect(CellRect(column, row));
+    painter.setPen(QPen(drawing_style::kCursor, pen));
+    painter.drawRect(CursorRect().adjusted(pen, pen, -pen, -pen));
 }
 
 }  // namespace idrova

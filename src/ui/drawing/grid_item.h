@@ -10,7 +10,7 @@ namespace idrova {
 /// The cells of the drawing with their headers, and the keyboard's cell cursor.
 class GridItem : public QGraphicsItem {
   public:
-    explicit GridItem(const Project& project) : project_(project) {}
+    explicit GridItem(const Project& project);
 
     /// Empty cells, and headers that count from these numbers.
     void Start(int firstColumn, int firstRow);
@@ -22,8 +22,9 @@ class GridItem : public QGraphicsItem {
 
   private:
     QRectF CellRect(int column, int row) const;
-    void PaintCells(QPainter& painter) const;
-    void PaintHeaders(QPainter& painter) const;
+    QRectF CursorRect() const;
+    void PaintCells(QPainter& painter, const QRectF& exposed) const;
+    void PaintHeaders(QPainter& painter, const QRectF& exposed) const;
     void PaintCursor(QPainter& painter) const;
 
     const Project& project_;

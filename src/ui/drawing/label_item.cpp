@@ -24,8 +24,7 @@ const QFontMetricsF& LabelMetrics() {
 
 }  // namespace
 
-LabelItem::LabelItem(const QString& text, Rgb background, QGraphicsItem* parent)
-    : QGraphicsItem(parent), text_(text), background_(background) {
+LabelItem::LabelItem(const QString& text, Rgb background) : text_(text), background_(background) {
     text_.setTextFormat(Qt::PlainText);
     text_.prepare({}, LabelFont());
     box_ = {0, 0, LabelMetrics().horizontalAdvance(text) + 2 * kPadding, LabelMetrics().height()};

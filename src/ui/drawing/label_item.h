@@ -12,7 +12,7 @@ namespace idrova {
 /// One line of text in a box. Its position is the box's top left corner.
 class LabelItem : public QGraphicsItem {
   public:
-    LabelItem(const QString& text, Rgb background, QGraphicsItem* parent);
+    LabelItem(const QString& text, Rgb background);
 
     QRectF boundingRect() const override { return box_; }
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;

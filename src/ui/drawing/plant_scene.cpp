@@ -4,6 +4,7 @@
 #include <QGraphicsItem>
 #include <QPen>
 #include <algorithm>
+#include <utility>
 
 #include "ui/drawing/drawing_style.h"
 #include "ui/drawing/grid_item.h"
@@ -15,11 +16,14 @@ namespace idrova {
 namespace {
 
 // What lies over what, from the bottom.
-constexpr double kLines = 0;
-constexpr double kMarkers = 1;
-constexpr double kIcons = 2;
-constexpr double kArrows = 3;
-constexpr double kLabels = 4;
+constexpr double kFills = 1;
+constexpr double kPipes = 2;
+constexpr double kCurrentPipe = 3;  ///< another may run between the same two points
+constexpr double kMarkers = 4;
+constexpr double kIcons = 5;
+constexpr double kArrows = 6;
+constexpr double kLeaders = 7;
+constexpr double kLabels = 8;
 
 constexpr double kIconInset = 15;  ///< between an icon and the cell's edge
 
@@ -31,87 +35,149 @@ QPen RoundPen(const QColor& colour, double width) {
     return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
-}  // namespace
-
-PlantScene::PlantScene(const Project& project, const std::filesystem::path& folder)
-    : project_(project),
-      icons_(folder),
-      grid_(new GridItem(project)),
-      elements_(new QGraphicsRectItem) {
-    addItem(grid_);
-    addItem(elements_);
-    setSceneRect(grid_->boundingRect());
+QGraphicsItem* MakeLine(const DrawnElement& element, const QPen& pen) {
+    auto* line = new QGraphicsLineItem(QLineF(At(element.from), At(element.to)));
+    line->setPen(pen);
+    return line;
 }
 
-void PlantScene::Grid(int firstColumn, int firstRow) {
-    delete elements_;
-    elements_ = addRect({}, Qt::NoPen);
-    grid_->Start(firstColumn, firstRow);
-}
-
-void PlantScene::CellIcon(ScreenPoint corner, std::string_view file) {
-    const QRectF cell(corner.x, corner.y, project_.Grid.CellWidth, project_.Grid.CellHeight);
-    const QRectF place = cell.adjusted(kIconInset, kIconInset, -kIconInset, -kIconInset);
-    (new IconItem(icons_, place, file, elements_))->setZValue(kIcons);
-}
-
-void PlantScene::PipeLine(int pipe, ScreenPoint from, ScreenPoint to, Rgb colour) {
-    AddLine(from, to, RoundPen(ToQt(colour), drawing_style::kPipeWidth), kLines);
-    elements_->childItems().last()->setData(0, pipe);
-}
-
-void PlantScene::PointMarker(ScreenPoint centre) {
+QGraphicsItem* MakeMarker(ScreenPoint centre) {
     const double size = drawing_style::kMarker;
-    auto* marker = new QGraphicsEllipseItem(-size / 2, -size / 2, size, size, elements_);
+    auto* marker = new QGraphicsEllipseItem(-size / 2, -size / 2, size, size);
     marker->setPos(At(centre));
     marker->setBrush(Qt::black);
     marker->setPen(Qt::NoPen);
-    marker->setZValue(kMarkers);
+    return marker;
 }
 
-void PlantScene::ArrowLine(ScreenPoint from, ScreenPoint to) {
-    AddLine(from, to, RoundPen(ToQt(drawing_colour::kArrow), drawing_style::kArrowWidth), kArrows);
+QPen LeaderPen() {
+    return {drawing_style::kLeader, 0};
 }
 
-void PlantScene::TextLabel(ScreenPoint corner, std::string_view text, Rgb background) {
-    PlaceLabel(*MakeLabel(text, background), At(corner));
+double LayerOf(const DrawnElement& element) {
+    switch (element.kind) {
+        case ElementKind::CellFill:
+            return kFills;
+        case ElementKind::PipeLine:
+            return element.colour == drawing_colour::kPipe ? kPipes : kCurrentPipe;
+        case ElementKind::PointMarker:
+            return kMarkers;
+        case ElementKind::CellIcon:
+            return kIcons;
+        case ElementKind::ArrowLine:
+            return kArrows;
+        case ElementKind::LeaderLine:
+            return kLeaders;
+        case ElementKind::TextLabel:
+        case ElementKind::LeaderLabel:
+            break;
+    }
+    return kLabels;
 }
 
-void PlantScene::LeaderLine(ScreenPoint from, ScreenPoint to) {
-    AddLine(from, to, QPen(drawing_style::kLeader, 0), kLabels);
+/// How many elements at the end are the same.
+std::size_t CommonTail(const std::vector<DrawnElement>& one,
+                       const std::vector<DrawnElement>& other) {
+    const auto ends = std::ranges::mismatch(one.rbegin(), one.rend(), other.rbegin(), other.rend());
+    return static_cast<std::size_t>(ends.in1 - one.rbegin());
 }
 
-void PlantScene::LeaderLabel(ScreenPoint from, ScreenPoint to, std::string_view text,
-                             Rgb background) {
-    LeaderLine(from, to);
-    LabelItem* label = MakeLabel(text, background);
-    const QRectF box = label->boundingRect();
-    const double left = to.x < from.x ? to.x - box.width() : to.x;
-    const double top = to.y < from.y ? to.y - box.height() : to.y;
-    PlaceLabel(*label, {left, top});
+}  // namespace
+
+PlantScene::PlantScene(const Project& project, const std::filesystem::path& folder)
+    : project_(project), icons_(folder), grid_(new GridItem(project)) {
+    addItem(grid_);
+    setSceneRect(grid_->boundingRect());
+}
+
+void PlantScene::Show(DrawingList drawing) {
+    grid_->Start(drawing.firstColumn, drawing.firstRow);
+    const auto& before = shown_.elements;
+    const auto& after = drawing.elements;
+    const std::size_t tail = CommonTail(before, after);
+    std::vector<QGraphicsItem*> items;
+    for (std::size_t i = 0; i < after.size(); ++i) {
+        const bool inTail = i + tail >= after.size();
+        const std::size_t at = inTail ? i + before.size() - after.size() : i;
+        const bool same = at < before.size() - (inTail ? 0 : tail) && before[at] == after[i];
+        items.push_back(same ? std::exchange(items_[at], nullptr) : AddElement(after[i]));
+    }
+    for (const QGraphicsItem* item : items_) delete item;
+    items_ = std::move(items);
+    shown_ = std::move(drawing);
+}
+
+QGraphicsItem* PlantScene::AddElement(const DrawnElement& element) {
+    QGraphicsItem* item = MakeItem(element);
+    item->setZValue(LayerOf(element));
+    addItem(item);
+    return item;
+}
+
+QGraphicsItem* PlantScene::MakeItem(const DrawnElement& element) {
+    switch (element.kind) {
+        case ElementKind::CellFill:
+            return MakeFill(element);
+        case ElementKind::CellIcon:
+            return MakeIcon(element);
+        case ElementKind::PipeLine: {
+            QGraphicsItem* line =
+                MakeLine(element, RoundPen(ToQt(element.colour), drawing_style::kPipeWidth));
+            if (element.pipe != 0) line->setData(0, element.pipe);
+            return line;
+        }
+        case ElementKind::PointMarker:
+            return MakeMarker(element.from);
+        case ElementKind::ArrowLine:
+            return MakeLine(element, RoundPen(ToQt(element.colour), drawing_style::kArrowWidth));
+        case ElementKind::LeaderLine:
+            return MakeLine(element, LeaderPen());
+        case ElementKind::LeaderLabel: {
+            QGraphicsItem* line = MakeLine(element, LeaderPen());
+            MakeLabel(element)->setParentItem(line);
+            return line;
+        }
+        case ElementKind::TextLabel:
+            break;
+    }
+    return MakeLabel(element);
+}
+
+QRectF PlantScene::CellAt(ScreenPoint corner) const {
+    return {At(corner), QSizeF(project_.Grid.CellWidth, project_.Grid.CellHeight)};
+}
+
+QGraphicsItem* PlantScene::MakeFill(const DrawnElement& element) const {
+    auto* fill = new QGraphicsRectItem(CellAt(element.from));
+    fill->setBrush(ToQt(element.colour));
+    fill->setPen(Qt::NoPen);
+    return fill;
+}
+
+QGraphicsItem* PlantScene::MakeIcon(const DrawnElement& element) {
+    const QRectF place =
+        CellAt(element.from).adjusted(kIconInset, kIconInset, -kIconInset, -kIconInset);
+    return new IconItem(icons_, place, element.text);
+}
+
+QGraphicsItem* PlantScene::MakeLabel(const DrawnElement& element) const {
+    auto* label = new LabelItem(ToQt(element.text), element.colour);
+    const QSizeF size = label->boundingRect().size();
+    QPointF corner = At(element.from);
+    if (element.kind == ElementKind::LeaderLabel) {
+        corner = At(element.to);
+        if (element.to.x < element.from.x) corner.rx() -= size.width();
+        if (element.to.y < element.from.y) corner.ry() -= size.height();
+    }
+    // As near to its place as the whole label can be seen.
+    const QRectF room = sceneRect();
+    label->setPos(std::max(std::min(corner.x(), room.right() - size.width()), room.left()),
+                  std::max(std::min(corner.y(), room.bottom() - size.height()), room.top()));
+    return label;
 }
 
 void PlantScene::ShowCursor(int place) {
     grid_->ShowCursor(place);
-}
-
-void PlantScene::PlaceLabel(LabelItem& label, QPointF corner) const {
-    const QRectF room = sceneRect();
-    const QSizeF size = label.boundingRect().size();
-    label.setPos(std::max(std::min(corner.x(), room.right() - size.width()), room.left()),
-                 std::max(std::min(corner.y(), room.bottom() - size.height()), room.top()));
-}
-
-LabelItem* PlantScene::MakeLabel(std::string_view text, Rgb background) {
-    auto* label = new LabelItem(ToQt(text), background, elements_);
-    label->setZValue(kLabels);
-    return label;
-}
-
-void PlantScene::AddLine(ScreenPoint from, ScreenPoint to, const QPen& pen, double layer) {
-    auto* line = new QGraphicsLineItem(QLineF(At(from), At(to)), elements_);
-    line->setPen(pen);
-    line->setZValue(layer);
 }
 
 }  // namespace idrova

@@ -1,17 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/drawing/plant_view.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "editor/grid_view.h"
 
 namespace idrova {
+
+namespace {
+
+constexpr int kLongStep = 5;  ///< cells
+
+}  // namespace
 
 PlantView::PlantView(QGraphicsScene* scene, const Project& project)
     : QGraphicsView(scene), project_(project) {
@@ -38,8 +48,20 @@ void PlantView::mousePressEvent(QMouseEvent* event) {
     }
     cursor_ = place;
     moveCursor(0);  // the mouse needs none
-    if (event->button() == Qt::LeftButton) press(place, MouseButton::Left);
-    if (event->button() == Qt::RightButton) press(place, MouseButton::Right);
+    const bool goOn = event->modifiers().testFlag(Qt::ShiftModifier);
+    pressedAt_ = event->position().toPoint();
+    if (event->button() == Qt::LeftButton) press(place, MouseButton::Left, goOn);
+    if (event->button() == Qt::RightButton) press(place, MouseButton::Right, false);
+}
+
+void PlantView::mouseReleaseEvent(QMouseEvent* event) {
+    const QPoint at = event->position().toPoint();
+    const int place = PlaceOf(event->position());
+    const bool dragged = (at - pressedAt_).manhattanLength() >= QApplication::startDragDistance() &&
+                         place != PlaceOf(pressedAt_);
+    if (event->button() != Qt::LeftButton || !dragged || place == 0) return;
+    cursor_ = place;
+    drop(place, event->modifiers().testFlag(Qt::ShiftModifier));
 }
 
 void PlantView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -48,6 +70,10 @@ void PlantView::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void PlantView::mouseMoveEvent(QMouseEvent* event) {
     hover(PlaceOf(event->position()));
+}
+
+void PlantView::leaveEvent(QEvent* /*event*/) {
+    hover(0);
 }
 
 void PlantView::MoveCursor(int columns, int rows) {
@@ -59,32 +85,47 @@ void PlantView::MoveCursor(int columns, int rows) {
     hover(cursor_);
 }
 
+bool PlantView::MoveByKey(const QKeyEvent& event) {
+    const int step = event.modifiers().testFlag(Qt::ControlModifier) ? kLongStep : 1;
+    const int whole = project_.GridSize;
+    const std::map<int, QPoint> moves = {{Qt::Key_Left, {-step, 0}},  {Qt::Key_Right, {step, 0}},
+                                         {Qt::Key_Up, {0, -step}},    {Qt::Key_Down, {0, step}},
+                                         {Qt::Key_Home, {-whole, 0}}, {Qt::Key_End, {whole, 0}}};
+    const auto move = moves.find(event.key());
+    if (move == moves.end()) return false;
+    MoveCursor(move->second.x(), move->second.y());
+    return true;
+}
+
 void PlantView::keyPressEvent(QKeyEvent* event) {
+    if (MoveByKey(*event)) return;
+    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
     switch (event->key()) {
-        case Qt::Key_Left:
-            return MoveCursor(-1, 0);
-        case Qt::Key_Right:
-            return MoveCursor(1, 0);
-        case Qt::Key_Up:
-            return MoveCursor(0, -1);
-        case Qt::Key_Down:
-            return MoveCursor(0, 1);
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return press(cursor_, MouseButton::Left);
+            return press(cursor_, MouseButton::Left, shift);
         case Qt::Key_Menu:
-            return press(cursor_, MouseButton::Right);
+            return press(cursor_, MouseButton::Right, false);
         case Qt::Key_F10:
-            if (event->modifiers() == Qt::ShiftModifier) return press(cursor_, MouseButton::Right);
+            if (shift) return press(cursor_, MouseButton::Right, false);
             return event->ignore();
         case Qt::Key_Escape:
             return abort();
+        case Qt::Key_Delete:
+            return remove();
         case Qt::Key_R:
             if (event->modifiers() == Qt::NoModifier) return turnPump();
             return event->ignore();
         default:
             event->ignore();
     }
+}
+
+bool PlantView::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QGraphicsView::viewportEvent(event);
+    const auto* help = dynamic_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), tip(PlaceOf(help->pos())), viewport());
+    return true;
 }
 
 void PlantView::contextMenuEvent(QContextMenuEvent* event) {

@@ -10,24 +10,33 @@
 namespace idrova {
 
 /// Shows the whole drawing as large as the window allows, and turns mouse and keyboard into presses
-/// on places. Arrow keys move a cell cursor, Enter is the left button, the menu key or
-/// Shift+F10 the right one, R turns the selected pump.
+/// on places. Arrow keys move a cell cursor, with Ctrl by five cells, Home and End to the edges;
+/// Enter is the left button, the menu key or Shift+F10 the right one, R turns the selected pump.
+/// Shift with the left button goes on with the next pipe or component.
 class PlantView : public QGraphicsView {
   public:
     PlantView(QGraphicsScene* scene, const Project& project);
 
-    std::function<void(int place, MouseButton button)> press;
+    std::function<void(int place, MouseButton button, bool goOn)> press;
+    /// The left button was dragged from the place of its press to another.
+    std::function<void(int place, bool goOn)> drop;
     /// The mouse or the keyboard's cursor is on another place; 0 beside the grid.
     std::function<void(int place)> hover;
     std::function<void(int place)> moveCursor;
     std::function<void()> abort;
     std::function<void()> turnPump;
+    std::function<void()> remove;
+    /// What a tip says of a place; empty for none.
+    std::function<QString(int place)> tip;
 
   protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
@@ -37,9 +46,11 @@ class PlantView : public QGraphicsView {
   private:
     int PlaceOf(const QPointF& position) const;
     void MoveCursor(int columns, int rows);
+    bool MoveByKey(const QKeyEvent& event);
 
     const Project& project_;
     int cursor_ = 1;
+    QPoint pressedAt_;  ///< where the left button went down
 };
 
 }  // namespace idrova

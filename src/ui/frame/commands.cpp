@@ -6,6 +6,7 @@
 #include "results/report.h"
 #include "results/results_file.h"
 #include "shell/messages.h"
+#include "ui/frame/edit_commands.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
@@ -134,6 +135,7 @@ void AttachCommands(MDI& mdi) {
         if (program.boxes.Show(kExitQuestion) == Answer::Ok) mdi.close();
     });
     AttachFileCommands(mdi);
+    AttachEditCommands(mdi);
     AttachModes(mdi);
     AttachSettings(mdi.Menu(), program);
     AttachRunCommands(mdi);

@@ -24,6 +24,7 @@ void TakeDrawing(MDI& mdi) {
     Program& program = mdi.State();
     CompletePumpConstants(program.project, program.components.pumps);
     RedrawProject(program.project, program.editor);
+    program.history.StartAnew(program.project, program.editor);
     program.records.erase(WorkMode::Graphic);
     mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
     const std::string_view window = ViewOf(program.project.settings.Mode).window;

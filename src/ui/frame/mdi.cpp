@@ -18,6 +18,7 @@
 #include "projectfile/unsaved_copy.h"
 #include "ui/drawing/frm_cel.h"
 #include "ui/frame/commands.h"
+#include "ui/frame/edit_commands.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/frame/status_line.h"
@@ -112,6 +113,7 @@ void MDI::OpenModeWindow() {
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
     menu_->ShowChecks(settings, program_.shell);
+    ShowSteps(*this);
     panel_->ShowState();
     statusLine_->ShowSettings(settings);
     ShowOutcome();

@@ -17,7 +17,8 @@ namespace {
 QAction* MakeAction(QWidget& menu, const MenuEntry& entry) {
     auto* action = new QAction(ToQt(CaptionWithMnemonic(entry)), &menu);
     action->setObjectName(ToQt(entry.name));
-    action->setShortcut(QKeySequence(ToQt(entry.shortcut), QKeySequence::PortableText));
+    action->setShortcuts(
+        QKeySequence::listFromString(ToQt(entry.shortcut), QKeySequence::PortableText));
     action->setStatusTip(ToQt(entry.tip));
     action->setCheckable(entry.kind == MenuKind::Check || entry.kind == MenuKind::OneOf);
     // Toolkits that move items by their words would move "Exit" and "About" out of their menus.
@@ -50,6 +51,12 @@ MenuBar::MenuBar(QMenuBar& bar) {
 
 void MenuBar::Attach(std::string_view item, std::function<void()> command) {
     items_.at(item).command = std::move(command);
+}
+
+void MenuBar::ShowItem(std::string_view item, const QString& caption, bool enabled) {
+    QAction& action = *items_.at(item).action;
+    action.setText(caption);
+    action.setEnabled(enabled);
 }
 
 void MenuBar::ShowChecks(const Settings& settings, const ShellState& shell) {

@@ -10,6 +10,7 @@
 
 class QAction;
 class QMenuBar;
+class QString;
 
 namespace idrova {
 
@@ -22,6 +23,7 @@ class MenuBar {
     /// `item` is a control name of the menu table that is not a menu.
     void Attach(std::string_view item, std::function<void()> command);
 
+    void ShowItem(std::string_view item, const QString& caption, bool enabled);
     void ShowChecks(const Settings& settings, const ShellState& shell);
 
     /// Runs the command of a chosen item. Choosing a checkable item has already flipped its mark:

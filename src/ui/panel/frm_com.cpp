@@ -55,6 +55,9 @@ FrmCom::FrmCom(Program& program, QWidget* parent)
     auto* column = new QVBoxLayout(content);
     AddSettings(*column);
     AddFrames(*column);
+    for (const NumberBox* box : content->findChildren<NumberBox*>()) {
+        connect(box, &QLineEdit::editingFinished, this, [this] { program_.history.EndTyping(); });
+    }
     column->addStretch(1);
     auto* scroller = new QScrollArea;
     scroller->setWidgetResizable(true);
@@ -179,7 +182,7 @@ void FrmCom::SwitchData() {
 }
 
 void FrmCom::Delete() {
-    DeleteSelected(program_.project, program_.editor, program_.boxes);
+    DeleteSelected(program_.project, program_.editor, program_.boxes, program_.changed);
     program_.changed();
 }
 

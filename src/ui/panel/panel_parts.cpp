@@ -2,6 +2,7 @@
 #include "ui/panel/panel_parts.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
@@ -14,6 +15,17 @@ NumberBox::NumberBox(const char* name, const std::function<void(std::string_view
     Named(this, name);
     connect(this, &QLineEdit::textChanged, this,
             [typed](const QString& text) { typed(FromQt(text)); });
+}
+
+bool NumberBox::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = dynamic_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Undo) || key->matches(QKeySequence::Redo)) {
+            event->ignore();
+            return true;
+        }
+    }
+    return SelectingField::event(event);
 }
 
 void NumberBox::Show(const std::string& text) {

@@ -29,6 +29,9 @@ class NumberBox : public SelectingField {
     /// `typed` is called with the whole text at every change that does not come from `Show`.
     NumberBox(const char* name, const std::function<void(std::string_view)>& typed);
 
+    /// Undo and redo are the drawing's, not the box's.
+    bool event(QEvent* event) override;
+
     /// Leaves the box, and the cursor in it, alone when it holds the text already.
     void Show(const std::string& text);
 };

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "editor/history.h"
+
+#include <utility>
+
+#include "editor/step_name.h"
+
+namespace idrova {
+
+void EditHistory::StartAnew(const Project& project, const Editor& editor) {
+    *this = EditHistory();
+    plan_ = PlanOf(project, editor);
+}
+
+void EditHistory::Note(const Project& project, const Editor& editor) {
+    Plan plan = PlanOf(project, editor);
+    EditStep step = StepBetween(plan_, plan);
+    if (step.before != step.after) isTyping_ = false;
+    if (!step.IsEmpty()) {
+        const bool goesOn = isTyping_ && IsTyping(step) && StepName(step) == UndoName();
+        steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
+        if (goesOn) {
+            step = StepBetween(beforeTyping_, plan);
+            steps_.pop_back();
+        } else {
+            beforeTyping_ = plan_;
+        }
+        Add(std::move(step));
+    }
+    plan_ = std::move(plan);
+}
+
+/// What was typed and then typed back is no step.
+void EditHistory::Add(EditStep step) {
+    isTyping_ = !step.IsEmpty() && IsTyping(step);
+    if (!step.IsEmpty()) steps_.push_back(std::move(step));
+    if (steps_.size() > kMaxSteps) steps_.pop_front();
+    done_ = steps_.size();
+}
+
+void EditHistory::Undo(Project& project, Editor& editor) {
+    if (done_ == 0) return;
+    AbortInsertion(editor);
+    TakeBack(steps_[--done_], project, editor);
+    isTyping_ = false;
+    plan_ = PlanOf(project, editor);
+}
+
+void EditHistory::Redo(Project& project, Editor& editor) {
+    if (done_ == steps_.size()) return;
+    AbortInsertion(editor);
+    DoAgain(steps_[done_++], project, editor);
+    isTyping_ = false;
+    plan_ = PlanOf(project, editor);
+}
+
+std::string EditHistory::UndoName() const {
+    return done_ == 0 ? std::string() : StepName(steps_[done_ - 1]);
+}
+
+std::string EditHistory::RedoName() const {
+    return done_ == steps_.size() ? std::string() : StepName(steps_[done_]);
+}
+
+}  // namespace idrova
