@@ -55,6 +55,7 @@ Json NoteList(const std::vector<Note>& notes) {
         if (note.on == NoteOn::Pipe) item["pipe"] = note.number;
         if (note.on == NoteOn::Point) item["point"] = note.number;
         if (note.on == NoteOn::Cell) item["cell"] = note.number;
+        if (note.on == NoteOn::Row) item["row"] = note.number;
         list.push_back(item);
     }
     return list;

@@ -5,13 +5,14 @@
 
 namespace idrova {
 
-enum class NoteOn { Network, Pipe, Point, Cell };
+enum class NoteOn { Network, Pipe, Point, Cell, Row };
 
 /// What the user should know of a run, in plain words, and the place that it is about.
 struct Note {
     std::string text;
     NoteOn on = NoteOn::Network;
-    int number = 0;  ///< of the pipe, the point or the cell; 0 for the network
+    /// Of the pipe, the point or the cell; of a table row what stands beside it; 0 for the network.
+    int number = 0;
 
     bool operator==(const Note&) const = default;
 };

@@ -90,6 +90,9 @@ void PutContent(const ProjectContent& content, Project& project) {
     PutPipesAndPoints(content, project);
     PutCells(content, project);
     std::copy(content.rows.begin(), content.rows.end(), project.TableRows.begin() + kFirstTableRow);
+    for (const ProjectContent::LooseRow& row : content.rowsBelowGap) {
+        project.TableRows[static_cast<std::size_t>(row.number)] = row.record;
+    }
     project.numins = std::min(static_cast<int>(content.rows.size()), kMaxTableRows);
     if (content.description) project.ProjectDescription = *content.description;
     RebuildPipeCells(project);

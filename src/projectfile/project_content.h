@@ -27,6 +27,10 @@ struct ProjectContent {
         int cell = 0;
         CellRec record;
     };
+    struct LooseRow {
+        int number = 0;  ///< up to `kLastTableRow`, below those of `rows`
+        TableRowRec record;
+    };
     struct PumpConstant {
         int cell = 0;
         float constant = 0;
@@ -37,6 +41,7 @@ struct ProjectContent {
     std::vector<int> nodeCells;
     std::vector<Component> components;
     std::vector<TableRowRec> rows;  ///< from row `kFirstTableRow` on
+    std::vector<LooseRow> rowsBelowGap;
     std::vector<PumpConstant> pumpConstants;
     std::optional<std::string> description;  ///< none when the file has no such section
 };

@@ -48,6 +48,9 @@ class ProjectLines {
     /// A line with one whole number; true exactly when it is 1.
     bool Flag();
 
+    /// Of the line read last.
+    int LineNumber() const { return line_; }
+
     bool AtEnd() const { return rest_.empty(); }
     bool Failed() const { return fault_.has_value(); }
     const std::string& Fault() const { return *fault_; }

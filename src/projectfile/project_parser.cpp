@@ -12,6 +12,7 @@ namespace idrova {
 namespace {
 
 constexpr int kFirstPipeLine = 7;
+constexpr std::size_t kRowItems = 9;
 
 /// A pipe or point that is deleted has 0 in the place of its cells.
 void CheckPipe(ProjectLines& lines, const ProjectContent::Pipe& pipe, int pointCount) {
@@ -84,9 +85,9 @@ ProjectContent::Component ReadComponent(ProjectLines& lines, int cellCount) {
     return component;
 }
 
+/// The items of a row; what stands before them in the line is read.
 TableRowRec ReadTableRow(ProjectLines& lines) {
     TableRowRec row;
-    lines.Numbers(9);
     row.StartPoint = lines.Int16();
     row.StartPressure = lines.Single();
     row.EndPoint = lines.Int16();
@@ -150,7 +151,10 @@ void ReadTableRows(ProjectLines& lines, ProjectContent& content) {
     lines.Key();
     const int rows = lines.Count(kTableSlots - kFirstTableRow + 1);
     lines.Key();
-    for (int i = 0; i < rows && !lines.Failed(); ++i) content.rows.push_back(ReadTableRow(lines));
+    for (int i = 0; i < rows && !lines.Failed(); ++i) {
+        lines.Numbers(kRowItems);
+        content.rows.push_back(ReadTableRow(lines));
+    }
 }
 
 void ReadPumpConstants(ProjectLines& lines, ProjectContent& content) {
@@ -168,23 +172,58 @@ void ReadPumpConstants(ProjectLines& lines, ProjectContent& content) {
     }
 }
 
-void MarkGiven(ProjectLines& lines, TableRowRec& row, int number) {
-    const auto* const column =
-        std::find_if(kGivenColumns.begin(), kGivenColumns.end(),
-                     [number](const GivenColumn& given) { return given.column == number; });
-    if (column == kGivenColumns.end()) return lines.Fail("the column must be 2, 4 or 8");
-    row.*column->given = true;
-}
+/// A zero that is given in a row which may not have been read yet.
+struct GivenZero {
+    int row;
+    bool TableRowRec::*given;
+    int line;
+};
 
-void ReadGivenZeros(ProjectLines& lines, ProjectContent& content) {
+std::vector<GivenZero> ReadGivenZeros(ProjectLines& lines, const ProjectContent& content) {
+    std::vector<GivenZero> zeros;
     const int count = lines.Count(3 * kMaxTableRows);
-    const int lastRow = kFirstTableRow + static_cast<int>(content.rows.size()) - 1;
+    const int listed = kFirstTableRow + static_cast<int>(content.rows.size()) - 1;
     for (int i = 0; i < count && !lines.Failed(); ++i) {
         lines.Numbers(2);
-        const int number = lines.Whole(kFirstTableRow, lastRow);
-        const int column = lines.Int16();
-        if (lines.Failed()) return;
-        MarkGiven(lines, content.rows[static_cast<std::size_t>(number - kFirstTableRow)], column);
+        const int row = lines.Whole(kFirstTableRow, std::max(listed, kLastTableRow));
+        const int number = lines.Int16();
+        const auto* const column = std::ranges::find(kGivenColumns, number, &GivenColumn::column);
+        if (column == kGivenColumns.end()) {
+            lines.Fail("the column must be 2, 4 or 8");
+        } else {
+            zeros.push_back({row, column->given, lines.LineNumber()});
+        }
+    }
+    return zeros;
+}
+
+void ReadRowsBelowGap(ProjectLines& lines, ProjectContent& content) {
+    int above = kFirstTableRow + static_cast<int>(content.rows.size()) - 1;
+    const int end = above + 1;
+    const int count = lines.Count(kMaxTableRows);
+    for (int i = 0; i < count && !lines.Failed(); ++i) {
+        lines.Numbers(1 + kRowItems);
+        above = lines.Whole(above + 1, kLastTableRow);
+        content.rowsBelowGap.push_back({above, ReadTableRow(lines)});
+        if (above == end && content.rowsBelowGap.back().record.StartPoint != 0) {
+            lines.Fail("there is no gap above this row");
+        }
+    }
+}
+
+void MarkGivenZeros(ProjectLines& lines, const std::vector<GivenZero>& zeros,
+                    ProjectContent& content) {
+    for (const GivenZero& zero : zeros) {
+        const auto listed = static_cast<std::size_t>(zero.row - kFirstTableRow);
+        const auto loose =
+            std::ranges::find(content.rowsBelowGap, zero.row, &ProjectContent::LooseRow::number);
+        if (listed < content.rows.size()) {
+            content.rows[listed].*zero.given = true;
+        } else if (loose != content.rowsBelowGap.end()) {
+            loose->record.*zero.given = true;
+        } else {
+            lines.FailAt(zero.line, "the file has no such row");
+        }
     }
 }
 
@@ -228,8 +267,11 @@ Result<ProjectContent> ParseProject(std::string_view text, int gridSize) {
     ReadCells(lines, cellCount, content);
     ReadTableRows(lines, content);
     if (lines.PassKey(kPumpConstantsKey)) ReadPumpConstants(lines, content);
-    if (lines.PassKey(kGivenZerosKey)) ReadGivenZeros(lines, content);
+    std::vector<GivenZero> zeros;
+    if (lines.PassKey(kGivenZerosKey)) zeros = ReadGivenZeros(lines, content);
     if (lines.PassKey(kFlowFromEndKey)) ReadFlowsFromEnd(lines, content);
+    if (lines.PassKey(kRowsBelowGapKey)) ReadRowsBelowGap(lines, content);
+    MarkGivenZeros(lines, zeros, content);
     ReadDescription(lines, content);
     if (lines.Failed()) return Failure{lines.Fault()};
     return content;

@@ -106,15 +106,34 @@ void WriteComponents(PrintZoneWriter& out, const Project& project, const std::ve
     }
 }
 
+void TableRowLine(PrintZoneWriter& out, const TableRowRec& row) {
+    NumberLine(out, row.StartPoint, row.StartPressure, row.EndPoint, row.EndPressure,
+               row.RowDiameter, row.RowLength, row.RowFlowRate, row.RowZ1, row.RowZ2);
+}
+
 void WriteTableRows(PrintZoneWriter& out, const Project& project) {
     const int rows = CountTableRows(project);
     KeyLine(out, "numins");
     NumberLine(out, rows);
     KeyLine(out, "elenco tabe");
     for (int r = kFirstTableRow; r < kFirstTableRow + rows; ++r) {
-        const TableRowRec& row = project.TableRows[static_cast<std::size_t>(r)];
-        NumberLine(out, row.StartPoint, row.StartPressure, row.EndPoint, row.EndPressure,
-                   row.RowDiameter, row.RowLength, row.RowFlowRate, row.RowZ1, row.RowZ2);
+        TableRowLine(out, project.TableRows[static_cast<std::size_t>(r)]);
+    }
+}
+
+/// Only files of a table with filled rows below the first one without a start point have this
+/// group.
+void WriteRowsBelowGap(PrintZoneWriter& out, const Project& project) {
+    std::vector<int> rows;
+    for (int r = kFirstTableRow + CountTableRows(project); r <= kLastTableRow; ++r) {
+        if (project.TableRows[static_cast<std::size_t>(r)] != TableRowRec()) rows.push_back(r);
+    }
+    if (rows.empty()) return;
+    KeyLine(out, kRowsBelowGapKey);
+    NumberLine(out, static_cast<int>(rows.size()));
+    for (const int r : rows) {
+        out.Number(r).NextZone();
+        TableRowLine(out, project.TableRows[static_cast<std::size_t>(r)]);
     }
 }
 
@@ -135,7 +154,7 @@ void WritePumpConstants(PrintZoneWriter& out, const Project& project, std::vecto
 /// Only files with a typed zero have this group.
 void WriteGivenZeros(PrintZoneWriter& out, const Project& project) {
     std::vector<std::pair<int, int>> zeros;
-    for (int r = kFirstTableRow; r < kFirstTableRow + CountTableRows(project); ++r) {
+    for (int r = kFirstTableRow; r <= kLastTableRow; ++r) {
         const TableRowRec& row = project.TableRows[static_cast<std::size_t>(r)];
         for (const GivenColumn& column : kGivenColumns) {
             if (row.*column.given && row.*column.value == 0) zeros.emplace_back(r, column.column);
@@ -186,6 +205,7 @@ std::string ProjectFileText(const Project& project) {
     WritePumpConstants(out, project, components);
     WriteGivenZeros(out, project);
     WriteFlowsFromEnd(out, project);
+    WriteRowsBelowGap(out, project);
     KeyLine(out, kDescriptionKey);
     TextLine(out, project.ProjectDescription);
     return out.Bytes();

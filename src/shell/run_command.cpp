@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/run_command.h"
 
+#include <utility>
+
 #include "hydraulics/messages.h"
 #include "hydraulics/run_results.h"
 #include "results/messages.h"
@@ -11,14 +13,21 @@
 namespace idrova {
 namespace {
 
-/// False, told in a box, when the table is refused.
-bool FillNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
-                 MessageBoxes& boxes) {
-    if (project.settings.Mode == WorkMode::Table) {
-        return TableToNetwork(project, texts, work, boxes);
+/// A refusal that was told in a box, if there is one.
+std::optional<TableRefusal> FillNetwork(Project& project, const TableTexts& texts,
+                                        WorkNetwork& work, MessageBoxes& boxes) {
+    if (project.settings.Mode != WorkMode::Table) {
+        CopyNetwork(project, work);
+        return std::nullopt;
     }
-    CopyNetwork(project, work);
-    return true;
+    auto refusal = TableToNetwork(project, texts, work);
+    if (refusal) boxes.Show(refusal->box);
+    return refusal;
+}
+
+void AddTableNotes(const Project& project, const TableTexts& texts, Outcome& outcome) {
+    if (project.settings.Mode != WorkMode::Table) return;
+    for (Note& note : TableNotes(project, texts)) outcome.notes.push_back(std::move(note));
 }
 
 bool HasResults(const Outcome& outcome) {
@@ -90,8 +99,12 @@ void CheckPressures(Settings& settings, WorkNetwork& work, MessageBoxes& boxes) 
 RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
                      const RunHost& host) {
     RunRecord record{InputsOf(project), {}, project.settings};
-    if (!FillNetwork(project, texts, work, host.boxes)) return record;
+    if (auto refusal = FillNetwork(project, texts, work, host.boxes)) {
+        record.outcome.notes = std::move(refusal->notes);
+        return record;
+    }
     record.outcome = Compute(project.settings, work, true, host);
+    AddTableNotes(project, texts, record.outcome);
     const bool stored = HasResults(record.outcome);
     if (stored && project.settings.Mode == WorkMode::Graphic) StoreIntoProject(work, project);
     Report(work, host, record);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "table/cell_reading.h"
 #include "table/table_edit.h"
 
 namespace idrova {
@@ -70,7 +71,7 @@ std::vector<PastedCell> ReadCells(std::string_view text, int firstRow, int first
 }
 
 bool IsPressure(const PastedCell& cell) {
-    return cell.column == table_column::kStartPressure || cell.column == table_column::kEndPressure;
+    return IsPressureColumn(cell.column);
 }
 
 /// 0 for what is pasted first.
@@ -79,17 +80,10 @@ int Turn(const PastedCell& cell) {
     return cell.text.empty() ? 1 : 2;
 }
 
-}  // namespace
-
-std::string CopyBlock(const TableTexts& texts, const TableBlock& block) {
-    std::string copy;
-    for (int row = block.firstRow; row <= block.lastRow; ++row) {
-        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
-            copy += texts.At(row, column);
-            copy += column == block.lastColumn ? '\n' : '\t';
-        }
-    }
-    return copy;
+/// Whether a size that is pasted beside the empty diameter fills it.
+bool IsFilledBySize(const std::vector<PastedCell>& cells, std::size_t i) {
+    return cells[i].column == table_column::kDiameter && cells[i].text.empty() && i > 0 &&
+           cells[i - 1].row == cells[i].row && NominalSizeNamed(cells[i - 1].text) != 0;
 }
 
 /// A row that is to name another point with an unknown pressure gives up its own first, which is
@@ -105,35 +99,93 @@ void LeavePoints(Project& project, TableTexts& texts, const std::vector<PastedCe
     }
 }
 
-void PasteBlock(Project& project, TableTexts& texts, int row, int column, std::string_view text) {
-    std::vector<PastedCell> cells = ReadCells(text, row, column);
-    LeavePoints(project, texts, cells);
-    // An empty pressure on an empty cell is the same text again. Pasting it would empty what the
-    // point beside it has fetched by then, and with it the pressure of the point's other rows.
-    std::erase_if(cells, [&texts](const PastedCell& cell) {
-        return IsPressure(cell) && cell.text.empty() && texts.At(cell.row, cell.column).empty();
-    });
+/// An empty pressure on an empty cell is the same text again. Pasting it would empty what the point
+/// beside it has fetched by then, and with it the pressure of the point's other rows.
+bool LeavesCell(const TableTexts& texts, const std::vector<PastedCell>& cells, std::size_t i) {
+    const PastedCell& cell = cells[i];
+    const bool leavesPressure =
+        IsPressure(cell) && cell.text.empty() && texts.At(cell.row, cell.column).empty();
+    return leavesPressure || IsFilledBySize(cells, i);
+}
+
+void PasteCells(Project& project, TableTexts& texts, const std::vector<PastedCell>& pasted) {
+    LeavePoints(project, texts, pasted);
+    std::vector<PastedCell> cells;
+    for (std::size_t i = 0; i < pasted.size(); ++i) {
+        if (!LeavesCell(texts, pasted, i)) cells.push_back(pasted[i]);
+    }
     for (const int turn : {0, 1, 2}) {
         for (const PastedCell& cell : cells) {
             if (Turn(cell) != turn) continue;
             ChangeCell(project, texts, cell.row, cell.column, cell.text);
         }
     }
+    // Where the rows contradict each other they go on doing so, until the table is refused for it.
+    for (const PastedCell& cell : cells) {
+        if (Turn(cell) == 2) KeepPressure(project, texts, cell.row, cell.column, cell.text);
+    }
+}
+
+template <typename Visit>
+void ForCells(const TableBlock& block, const Visit& visit) {
+    for (int row = block.firstRow; row <= block.lastRow; ++row) {
+        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
+            visit(row, column);
+        }
+    }
+}
+
+}  // namespace
+
+std::string CopyBlock(const TableTexts& texts, const TableBlock& block) {
+    std::string copy;
+    ForCells(block, [&](int row, int column) {
+        copy += texts.At(row, column);
+        copy += column == block.lastColumn ? '\n' : '\t';
+    });
+    return copy;
+}
+
+PasteLoss LossOfPaste(const TableBlock& block, std::string_view text) {
+    const std::vector<PastedCell> cells = ReadCells(text, block.firstRow, block.firstColumn);
+    int lastRow = block.firstRow;
+    int lastColumn = block.firstColumn;
+    for (const PastedCell& cell : cells) {
+        if (cell.text.empty()) continue;
+        lastRow = std::max(lastRow, cell.row);
+        lastColumn = std::max(lastColumn, cell.column);
+    }
+    return {.rows = lastRow - block.firstRow + 1,
+            .columns = lastColumn - block.firstColumn + 1,
+            .rowsLost = std::max(lastRow - kLastTableRow, 0),
+            .columnsLost = std::max(lastColumn - (kTableColumns - 1), 0)};
+}
+
+void PasteBlock(Project& project, TableTexts& texts, const TableBlock& block,
+                std::string_view text) {
+    std::vector<PastedCell> cells = ReadCells(text, block.firstRow, block.firstColumn);
+    if (cells.size() == 1) {
+        const std::string value = cells.front().text;
+        cells.clear();
+        ForCells(block, [&](int row, int column) { cells.push_back({row, column, value}); });
+    }
+    PasteCells(project, texts, cells);
+}
+
+void FillDown(Project& project, TableTexts& texts, TableBlock block) {
+    if (block.firstRow == block.lastRow) --block.firstRow;
+    if (block.firstRow < kFirstTableRow) return;
+    const int from = block.firstRow++;
+    std::vector<PastedCell> cells;
+    ForCells(block, [&](int row, int column) {
+        cells.push_back({row, column, texts.At(from, column)});
+    });
+    PasteCells(project, texts, cells);
 }
 
 void ClearBlock(Project& project, TableTexts& texts, const TableBlock& block) {
-    // Points come before their pressures: the other rows of a point keep theirs.
-    for (const int column : {table_column::kStartPoint, table_column::kEndPoint}) {
-        if (column < block.firstColumn || column > block.lastColumn) continue;
-        for (int row = block.firstRow; row <= block.lastRow; ++row) {
-            ChangeCell(project, texts, row, column, "");
-        }
-    }
-    for (int row = block.firstRow; row <= block.lastRow; ++row) {
-        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
-            ChangeCell(project, texts, row, column, "");
-        }
-    }
+    // A point comes before its pressure: the other rows of the point keep theirs.
+    ForCells(block, [&](int row, int column) { ChangeCell(project, texts, row, column, ""); });
 }
 
 }  // namespace idrova

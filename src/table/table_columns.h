@@ -42,6 +42,11 @@ constexpr std::array<TableColumn, kTableColumns> kTableColumnList = {{{"nr.", 35
                                                                       {"z2 [m]", 750}}};
 constexpr int kTableRowHeight = 300;  ///< screen units
 
+/// The number that the table shows beside a row: that of the row's pipe.
+constexpr int ShownRow(int row) {
+    return row - 1;
+}
+
 /// Where the user stands in the table: the current cell, counted from 0 as the cells on the screen
 /// are, and how far ScrX and ScrY are scrolled.
 struct TablePlace {
@@ -54,10 +59,13 @@ struct TablePlace {
 /// Light red (0xRRGGBB), of an empty cell that stands for a value to compute.
 constexpr std::uint32_t kToComputeColour = 0xFF8080;
 
+constexpr bool IsPressureColumn(int column) {
+    return column == table_column::kStartPressure || column == table_column::kEndPressure;
+}
+
 /// Whether empty cells of the column stand for values to compute.
 constexpr bool EmptyMeansUnknown(int column) {
-    return column == table_column::kStartPressure || column == table_column::kEndPressure ||
-           column == table_column::kFlowRate;
+    return IsPressureColumn(column) || column == table_column::kFlowRate;
 }
 
 }  // namespace idrova

@@ -3,9 +3,11 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "base/number_text.h"
 #include "model/pipe_sizes.h"
+#include "table/cell_reading.h"
 
 namespace idrova {
 namespace {
@@ -38,13 +40,22 @@ class RowEdit {
     TableRowRec& Row() { return RowAt(row_); }
 
     void NamePoint(const RowEnd& end, double number) {
-        Row().*end.point = ToInt16(number);
-        if (const auto cell = PressureElsewhere(Row().*end.point)) SetPressure(end, *cell);
+        const std::int16_t left = std::exchange(Row().*end.point, ToInt16(number));
+        if (Row().*end.given && !PressureElsewhere(left)) {
+            SetPressure(end, {texts_.At(row_, end.pressureColumn), Row().*end.pressure});
+        } else if (left != Row().*end.point) {
+            SetPressure(end, PressureElsewhere(Row().*end.point).value_or(PressureCell()));
+        }
     }
 
     void TypePressure(const RowEnd& end, std::string_view text) {
         const CellUnit unit = UnitOf(project_.settings, end.pressureColumn);
         SetPressure(end, {std::string(text), unit.Stored(ReadNumber(text))});
+    }
+
+    void KeepPressure(const RowEnd& end, std::string_view text) {
+        const CellUnit unit = UnitOf(project_.settings, end.pressureColumn);
+        Store(row_, end, {std::string(text), unit.Stored(ReadNumber(text))});
     }
 
   private:
@@ -92,13 +103,23 @@ class RowEdit {
     int row_;
 };
 
+bool IsDataCell(int row, int column) {
+    return row >= kFirstTableRow && row <= kLastTableRow && column > table_column::kNumber &&
+           column < kTableColumns;
+}
+
+void SetNominalSize(Project& project, TableTexts& texts, int row, int size) {
+    if (size == 0) return;
+    texts.Set(row, table_column::kNominalSize, std::string(NominalSizeNames[size]) + '"');
+    ChangeCell(project, texts, row, table_column::kDiameter, InnerDiameterText(size));
+}
+
 }  // namespace
 
-void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::string_view text) {
+void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::string_view typed) {
     using namespace table_column;
-    const bool isDataCell =
-        row >= kFirstTableRow && row <= kLastTableRow && column > kNumber && column < kTableColumns;
-    if (!isDataCell || texts.At(row, column) == text) return;
+    const std::string text = CellText(column, typed);
+    if (!IsDataCell(row, column) || texts.At(row, column) == text) return;
 
     RowEdit edit(project, texts, row);
     if (column == kStartPressure) return edit.TypePressure(kStart, text);
@@ -106,39 +127,28 @@ void ChangeCell(Project& project, TableTexts& texts, int row, int column, std::s
 
     texts.Set(row, column, text);
     const double number = ReadNumber(text);
-    const float stored = UnitOf(project.settings, column).Stored(number);
-    TableRowRec& data = edit.Row();
-    switch (column) {
-        case kStartPoint:
-            return edit.NamePoint(kStart, number);
-        case kEndPoint:
-            return edit.NamePoint(kEnd, number);
-        case kDiameter:
-            data.RowDiameter = stored;
-            return;
-        case kLength:
-            data.RowLength = stored;
-            return;
-        case kFlowRate:
-            data.RowFlowRate = stored;
-            data.FlowGiven = !text.empty();
-            return;
-        case kZ1:
-            data.RowZ1 = stored;
-            return;
-        case kZ2:
-            data.RowZ2 = stored;
-            return;
-        default:
-            return;
+    if (column == kStartPoint) return edit.NamePoint(kStart, number);
+    if (column == kEndPoint) return edit.NamePoint(kEnd, number);
+    if (column == kNominalSize) {
+        return SetNominalSize(project, texts, row, NominalSizeNamed(text));
     }
+    TableRowRec& data = project.TableRows[row];
+    data.*FieldOf(column) = UnitOf(project.settings, column).Stored(number);
+    if (column == kFlowRate) data.FlowGiven = !text.empty();
+    if (column == kDiameter) texts.Set(row, kNominalSize, NominalSizeText(data.RowDiameter));
+}
+
+void KeepPressure(Project& project, TableTexts& texts, int row, int column,
+                  std::string_view typed) {
+    if (!IsDataCell(row, column) || !IsPressureColumn(column)) return;
+    RowEdit edit(project, texts, row);
+    edit.KeepPressure(column == table_column::kStartPressure ? kStart : kEnd,
+                      CellText(column, typed));
 }
 
 void ChooseNominalSize(Project& project, TableTexts& texts, int row, int size) {
-    if (size < 1 || size > kNominalSizes) return;
-    ChangeCell(project, texts, row, table_column::kNominalSize,
-               std::string(NominalSizeNames[size]) + '"');
-    ChangeCell(project, texts, row, table_column::kDiameter, InnerDiameterText(size));
+    if (size < 1 || size > kNominalSizes || !IsDataCell(row, table_column::kNominalSize)) return;
+    SetNominalSize(project, texts, row, size);
 }
 
 }  // namespace idrova

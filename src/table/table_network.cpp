@@ -2,55 +2,20 @@
 #include "table/table_network.h"
 
 #include <algorithm>
-#include <span>
 
 #include "base/number_text.h"
-#include "table/messages.h"
+#include "table/table_checks.h"
+#include "table/table_rows.h"
 
 namespace idrova {
 namespace {
 
-using Rows = std::span<const TableRowRec>;
-
-/// Rows up to the first one that misses a point.
-int CountListedRows(const Project& project) {
-    int row = kFirstTableRow;
-    while (row <= kLastTableRow) {
-        const TableRowRec& data = project.TableRows[row];
-        if (data.StartPoint == 0 || data.EndPoint == 0) break;
-        ++row;
-    }
-    return row - kFirstTableRow;
-}
-
-Rows ListedRows(const Project& project) {
-    return Rows(project.TableRows).subspan(kFirstTableRow, project.numins);
-}
-
-bool Disagree(const TableRowRec& one, const TableRowRec& other) {
-    return (one.StartPoint == other.StartPoint && one.StartPressure != other.StartPressure) ||
-           (one.EndPoint == other.EndPoint && one.EndPressure != other.EndPressure);
-}
-
-bool PressuresAgree(Rows rows) {
-    return std::ranges::none_of(rows, [rows](const TableRowRec& row) {
-        return std::ranges::any_of(
-            rows, [&row](const TableRowRec& other) { return Disagree(row, other); });
-    });
-}
-
-/// The number of points; 0 when a number is out of range or one below it is missing.
-int CountPoints(Rows rows) {
-    std::array<bool, kMaxPoints + 1> used{};
+int HighestPoint(ListedRows rows) {
     int highest = 0;
     for (const TableRowRec& row : rows) {
-        for (const int point : {row.StartPoint, row.EndPoint}) {
-            if (point < 1 || point > kMaxPoints) return 0;
-            used[point] = true;
-            highest = std::max(highest, point);
-        }
+        highest = std::max({highest, int{row.StartPoint}, int{row.EndPoint}});
     }
-    return std::ranges::count(used, true) == highest ? highest : 0;
+    return highest;
 }
 
 PipeRec PipeFromRow(const TableRowRec& row) {
@@ -88,26 +53,18 @@ void ConvertRow(const Project& project, const TableTexts& texts, int row, WorkNe
 
 }  // namespace
 
-bool TableToNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
-                    MessageBoxes& boxes) {
+std::optional<TableRefusal> TableToNetwork(Project& project, const TableTexts& texts,
+                                           WorkNetwork& work) {
     project.numins = CountListedRows(project);
-    const Rows rows = ListedRows(project);
-    if (!PressuresAgree(rows)) {
-        boxes.Show(kPressuresDiffer);
-        return false;
-    }
-    const int points = CountPoints(rows);
-    if (points == 0 && !rows.empty()) {
-        boxes.Show(kPointsLeaveGap);
-        return false;
-    }
+    const auto rows = ListedRows(project.TableRows).subspan(kFirstTableRow, project.numins);
+    if (auto refusal = CheckRows(rows)) return refusal;
     work.WorkPipeCount = project.numins;
-    work.WorkPointCount = points;
+    work.WorkPointCount = HighestPoint(rows);
     work.WorkComponents.clear();
     for (int row = kFirstTableRow; row < kFirstTableRow + project.numins; ++row) {
         ConvertRow(project, texts, row, work);
     }
-    return true;
+    return std::nullopt;
 }
 
 }  // namespace idrova

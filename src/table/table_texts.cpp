@@ -1,7 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/table_texts.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "base/number_text.h"
+#include "model/pipe_sizes.h"
+#include "table/cell_reading.h"
 
 namespace idrova {
 namespace {
@@ -10,22 +15,27 @@ bool InTable(int row, int column) {
     return row >= 1 && row <= kTableLines && column >= 0 && column < kTableColumns;
 }
 
+bool IsGivenZero(const TableRowRec& data, int column) {
+    return std::ranges::any_of(kGivenColumns, [&](const GivenColumn& given) {
+        return given.column == column && data.*given.given;
+    });
+}
+
 void FillRow(const Project& project, TableTexts& texts, int row) {
     using namespace table_column;
     const TableRowRec& data = project.TableRows[row];
-    const auto fill = [&](int column, float value, bool given = false) {
-        if (value == 0 && !given) return;
+    const auto fill = [&](int column, float value) {
+        if (texts.IsFramed(row, column) || (value == 0 && !IsGivenZero(data, column))) return;
         texts.Set(row, column, UnitOf(project.settings, column).TextOf(value));
     };
     fill(kStartPoint, data.StartPoint);
     fill(kEndPoint, data.EndPoint);
-    fill(kStartPressure, data.StartPressure, data.P1Given);
-    fill(kEndPressure, data.EndPressure, data.P2Given);
-    fill(kDiameter, data.RowDiameter);
-    fill(kLength, data.RowLength);
-    fill(kFlowRate, data.RowFlowRate, data.FlowGiven);
-    fill(kZ1, data.RowZ1);
-    fill(kZ2, data.RowZ2);
+    for (int column = 1; column < kTableColumns; ++column) {
+        if (const auto field = FieldOf(column)) fill(column, data.*field);
+    }
+    if (data.RowDiameter != 0 && !texts.IsFramed(row, kNominalSize)) {
+        texts.Set(row, kNominalSize, NominalSizeText(data.RowDiameter));
+    }
 }
 
 }  // namespace
@@ -35,7 +45,7 @@ TableTexts::TableTexts() {
         Set(1, column, kTableColumnList[column].header);
     }
     for (int row = kFirstTableRow; row <= kLastTableRow; ++row) {
-        Set(row, table_column::kNumber, GeneralText(row));
+        Set(row, table_column::kNumber, GeneralText(ShownRow(row)));
     }
 }
 
@@ -51,8 +61,62 @@ void TableTexts::Set(int row, int column, std::string_view text) {
 }
 
 bool TableTexts::IsPainted(int row, int column) const {
+    const auto namesPoint = [&](int point) { return ReadNumber(At(row, point)) != 0; };
     return row >= kFirstTableRow && InTable(row, column) && EmptyMeansUnknown(column) &&
-           At(row, column).empty();
+           At(row, column).empty() &&
+           (namesPoint(table_column::kStartPoint) || namesPoint(table_column::kEndPoint));
+}
+
+bool TableTexts::IsFramed(int row, int column) const {
+    return row >= kFirstTableRow && InTable(row, column) && !IsWholeCell(column, At(row, column));
+}
+
+bool TableTexts::IsEmptyRow(int row) const {
+    const Line& line = lines_[row];
+    return std::all_of(line.begin() + 1, line.end(), [](const auto& text) { return text.empty(); });
+}
+
+void TableTexts::MoveRow(int from, int to) {
+    for (int column = 1; column < kTableColumns; ++column) {
+        lines_[to][column] = std::exchange(lines_[from][column], {});
+    }
+}
+
+void TableTexts::ClearRow(int row) {
+    for (int column = 1; column < kTableColumns; ++column) lines_[row][column].clear();
+}
+
+float TableRowRec::*FieldOf(int column) {
+    using namespace table_column;
+    switch (column) {
+        case kStartPressure:
+            return &TableRowRec::StartPressure;
+        case kEndPressure:
+            return &TableRowRec::EndPressure;
+        case kDiameter:
+            return &TableRowRec::RowDiameter;
+        case kLength:
+            return &TableRowRec::RowLength;
+        case kFlowRate:
+            return &TableRowRec::RowFlowRate;
+        case kZ1:
+            return &TableRowRec::RowZ1;
+        case kZ2:
+            return &TableRowRec::RowZ2;
+        default:
+            return nullptr;
+    }
+}
+
+std::string HeaderOf(const Settings& settings, int column) {
+    std::string header(kTableColumnList[column].header);
+    if (!IsPressureColumn(column)) return header;
+    return header + (settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
+}
+
+std::string NominalSizeText(float diameter) {
+    const int size = NominalSizeOf(diameter);
+    return size == 0 ? "" : std::string(NominalSizeNames[size]) + '"';
 }
 
 float CellUnit::Stored(double number) const {

@@ -11,7 +11,7 @@
 namespace idrova {
 
 /// What the cells of the table editor show: lines 1 .. 100, columns 0 .. 10. Line r shows row r of
-/// the project's table; line 1 holds the headers and column 0 the line numbers.
+/// the project's table; line 1 holds the headers and column 0 the numbers of the pipes.
 class TableTexts {
   public:
     TableTexts();
@@ -21,8 +21,17 @@ class TableTexts {
     /// Nothing outside the table. Stores the text alone: an edit goes through `ChangeCell`.
     void Set(int row, int column, std::string_view text);
 
-    /// Whether the cell is painted with `kToComputeColour`.
+    /// Whether the cell is painted with `kToComputeColour`: of the rows that name a point.
     bool IsPainted(int row, int column) const;
+
+    /// Whether the cell has a frame: its text is not, as a whole, what its column holds.
+    bool IsFramed(int row, int column) const;
+
+    /// Nothing in its data cells.
+    bool IsEmptyRow(int row) const;
+    /// Puts the data cells of one row into another and empties them there.
+    void MoveRow(int from, int to);
+    void ClearRow(int row);
 
     bool operator==(const TableTexts&) const = default;
 
@@ -46,8 +55,17 @@ struct CellUnit {
 /// The unit of a column; pressures have that of the panels.
 CellUnit UnitOf(const Settings& settings, int column);
 
+/// The field of a row that a column shows; null for those that hold no quantity.
+float TableRowRec::*FieldOf(int column);
+
+/// The header of a column; those of the pressures say their unit.
+std::string HeaderOf(const Settings& settings, int column);
+
+/// What the cell of the nominal size shows beside a diameter in m; empty when it has no such size.
+std::string NominalSizeText(float diameter);
+
 /// Writes the fields that are not 0, and the zeros that are given values, into their cells. Other
-/// cells keep what they show.
+/// cells keep what they show, and so do those with a frame.
 void FillTable(const Project& project, TableTexts& texts);
 
 }  // namespace idrova

@@ -49,16 +49,22 @@ TEST(ProjectText, WhatTheOldFormatLacksHasGroupsOfItsOwn) {
     project->Cells[100].PumpConstant = 1;  // no pump
     project->TableRows[2].FlowGiven = true;
     project->TableRows[3].P1Given = true;
-    project->TableRows[4].P1Given = true;  // below the last row
+    project->TableRows[4].P1Given = true;  // in the row that ends the list
+    project->TableRows[100] = {1, 0, 2, 3, .5F, 6, 7, 8, 9, false, true, true};
     project->Pipes[2].FlowFromPoint = 3;
     const std::string text = ProjectFileText(*project);
     EXPECT_EQ(text.substr(text.find("pump constants")),
               "pump constants\r\n 1 \r\n 25            250000 \r\n"
-              "given zeros\r\n 2 \r\n 2             8 \r\n 3             2 \r\n"
+              "given zeros\r\n 3 \r\n 2             8 \r\n 3             2 \r\n"
+              " 4             2 \r\n"
               "flow from end points\r\n 1 \r\n 2 \r\n"
+              "rows below a gap\r\n 2 \r\n"
+              " 4             0             0             0             0             0           "
+              "  0             0             0             0 \r\n"
+              " 100           1             0             2             3             .5          "
+              "  6             7             8             9 \r\n"
               "Project description\r\ntwo taps, one pump\r\n");
     project->Cells[100].PumpConstant = 0;
-    project->TableRows[4].P1Given = false;
     project->Pipes[4].Diameter = 12345680;
     EXPECT_EQ(*Reread(*project), *project);
 }

@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "support/network_run.h"
-#include "support/scripted_boxes.h"
 #include "table/messages.h"
+#include "table/table_edit.h"
 
 namespace idrova {
 namespace {
@@ -26,12 +26,21 @@ class TableNetwork : public testing::Test {
         FillTable(*project, texts);
     }
 
-    bool Convert() { return TableToNetwork(*project, texts, *work, boxes); }
+    bool Convert() { return !TableToNetwork(*project, texts, *work); }
+
+    std::string Notes() const { return Lines(TableNotes(*project, texts)); }
+    static std::string Lines(const std::vector<Note>& notes) {
+        std::string lines;
+        for (const Note& note : notes) {
+            EXPECT_EQ(note.on, NoteOn::Row);
+            lines += std::to_string(note.number) + " " + note.text + "\n";
+        }
+        return lines;
+    }
 
     std::unique_ptr<Project> project = std::make_unique<Project>();
     std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
     TableTexts texts;
-    ScriptedBoxes boxes;
 };
 
 TEST_F(TableNetwork, RowsBecomePipesAndPoints) {
@@ -86,21 +95,58 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
     }
 }
 
-TEST_F(TableNetwork, RefusedTablesLeaveTheWorkingNetwork) {
-    const std::vector<std::pair<std::vector<TableRowRec>, MessageBox>> cases = {
-        {{{1, kBar, 2}, {1, 1.5F * kBar, 3}}, kPressuresDiffer},
-        {{{1, 0, 2, kBar}, {3, 0, 2, 0}}, kPressuresDiffer},
-        {{{1, 0, 2}, {2, 0, 4}}, kPointsLeaveGap},
-        {{{1, 0, -2}}, kPointsLeaveGap},
-        {{{1, 0, 2}, {401, 0, 32767}}, kPointsLeaveGap},
+TEST_F(TableNetwork, RefusedTablesNameThePlaceAndLeaveTheWorkingNetwork) {
+    const std::string gap = "The point numbers must run from 1 without gaps: ";
+    struct Case {
+        std::vector<TableRowRec> rows;
+        std::string box, notes;
     };
-    for (const auto& [rows, message] : cases) {
+    const std::vector<Case> cases = {
+        {{{1, kBar, 2}, {2, 0, 3}, {1, 1.5F * kBar, 3}},
+         std::string(kPressuresDiffer.text),
+         "3 Rows 1, 3 give point 1 different pressures\n"},
+        {{{1, 0, 2, kBar}, {3, kBar, 2, 0}, {3, 0, 2, kBar}},
+         std::string(kPressuresDiffer.text),
+         "3 Rows 1 to 3 give point 2 different pressures\n"
+         "3 Rows 2, 3 give point 3 different pressures\n"},
+        {{{1, 0, 2}, {2, 0, 4}}, gap + "3 is missing", "2 Of the point numbers 3 is missing\n"},
+        {{{2, 0, 8}},
+         gap + "1, 3 to 7 are missing",
+         "1 Of the point numbers 1, 3 to 7 are missing\n"},
+        {{{1, 0, -2}},
+         gap + "-2 is not between 1 and 400",
+         "1 Of the point numbers -2 is not between 1 and 400\n"},
+        {{{1, 0, 2}, {401, 0, 2}},
+         gap + "401 is not between 1 and 400",
+         "2 Of the point numbers 401 is not between 1 and 400\n"},
+    };
+    for (const auto& [rows, box, notes] : cases) {
         Load(rows);
         work->WorkPipeCount = 7;
-        boxes.Expect(message);
-        EXPECT_FALSE(Convert());
+        const auto refusal = TableToNetwork(*project, texts, *work);
+        ASSERT_TRUE(refusal);
+        EXPECT_EQ(refusal->box, MessageBox(box, "Coherence check"));
+        EXPECT_EQ(Lines(refusal->notes), notes);
         EXPECT_EQ(work->WorkPipeCount, 7);
     }
+}
+
+TEST_F(TableNetwork, NotesTellWhatIsNotComputedOrReadAsItStands) {
+    Load({{1, kBar, 2, 2 * kBar}, {2, 0, 3}, {3, 0, 4}});
+    EXPECT_EQ(Notes(), "2 Rows 1, 2 give point 2 different pressures: that of row 2 counts\n");
+    Load({{1, kBar, 2}, {2, 0, 3}, {.EndPoint = 3}});
+    EXPECT_EQ(Notes(), "3 Row 3 lacks a point: it is not computed\n");
+    ChangeCell(*project, texts, 8, 7, "x");
+    EXPECT_EQ(Notes(), "7 Row 7 stands below row 3, which lacks a point: it is not computed\n");
+    Load({{1, 0, 2}});
+    ChangeCell(*project, texts, 2, 2, "2.5bar");
+    ChangeCell(*project, texts, 2, 3, "2nd");
+    ChangeCell(*project, texts, 2, 5, "DN50");
+    ChangeCell(*project, texts, 2, 8, "x");
+    project->settings.PressureUnitFactor = kPascalPerMilliBar;
+    EXPECT_EQ(Notes(),
+              "1 Row 1: P1 \"2.5bar\" is read as 2500, a \"2nd\" is read as 2, "
+              "diameter \"DN50\" is no size, flow rate \"x\" is read as 0\n");
 }
 
 TEST_F(TableNetwork, FullAndEmptyTables) {

@@ -7,9 +7,11 @@
 #include <random>
 #include <string_view>
 
+#include "hydraulics/messages.h"
 #include "main_window.h"
 #include "projectfile/messages.h"
 #include "projectfile/project_file.h"
+#include "table/messages.h"
 #include "table/table_columns.h"
 
 namespace idrova {
@@ -56,11 +58,13 @@ class TableWindow : public MainWindow {
 TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     const QAbstractItemModelTester sound(View().model(),
                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
-    EXPECT_EQ(View().model()->headerData(98, Qt::Vertical), "100");
+    EXPECT_EQ(View().model()->headerData(98, Qt::Vertical), "99");
     EXPECT_FALSE(Cell(5, kNumber).flags() & Qt::ItemIsEditable);
-    EXPECT_EQ(Cell(5, kFlowRate).data(Qt::BackgroundRole).value<QColor>(), QColor(0xFF8080));
-    Put(5, kFlowRate, "0");
-    EXPECT_FALSE(Cell(5, kFlowRate).data(Qt::BackgroundRole).isValid());
+    EXPECT_FALSE(Cell(2, kFlowRate).data(Qt::BackgroundRole).isValid());
+    Put(2, kEndPoint, "1");
+    EXPECT_EQ(Cell(2, kFlowRate).data(Qt::BackgroundRole).value<QColor>(), QColor(0xFF8080));
+    Put(2, kFlowRate, "0");
+    EXPECT_FALSE(Cell(2, kFlowRate).data(Qt::BackgroundRole).isValid());
 
     Keys(2, kStartPoint, "1\t3\t2\t");
     EXPECT_EQ(View().currentIndex(), Cell(2, kEndPressure));
@@ -72,9 +76,14 @@ TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
     Keys(2, kEndPressure, "#5\n");
     EXPECT_EQ(Text(2, kEndPressure), "5") << "F2 edits the cell";
-    Keys(2, kLength, "12");
+    Keys(2, kLength, "1,5");
     Choose("p_mbar");
-    EXPECT_EQ(project.TableRows[2].RowLength, 12) << "a command takes what is being typed";
+    EXPECT_EQ(project.TableRows[2].RowLength, 1.5F) << "a command takes what is being typed";
+    Keys(2, kLength, "12");
+    boxes.Expect(kSelectAFluid);
+    Child<QAbstractButton>("Command1").click();
+    EXPECT_EQ(project.TableRows[2].RowLength, 12) << "and so does the computation";
+    EXPECT_EQ(View().model()->headerData(kEndPressure, Qt::Horizontal), "P2 [mbar]");
 }
 
 TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
@@ -96,7 +105,6 @@ TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
     close(open("2"), Qt::Key_Return);
     EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "2\"53.8") << "keys search the list";
     Put(4, kNominalSize, "1 1/2");
-    Put(4, kDiameter, "40");
     for (const char* keys : {"25", "6", "#"}) {
         QComboBox& list = open(keys);
         EXPECT_EQ(list.currentIndex(), 5) << "nothing is chosen, with or without the inch mark";
@@ -110,7 +118,8 @@ TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
         if (key == Qt::Key_F3) Choose("p_mbar");
         close(list, key);
     }
-    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "1 1/240");
+    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "1 1/2\"42.5");
+    Put(4, kDiameter, "42.50");
     close(open("#"), Qt::Key_Return);
     EXPECT_EQ(Text(4, kDiameter), "42.5") << "the same size again counts";
 }
@@ -148,6 +157,50 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
     program->changed();
     Press("&Undo");
     EXPECT_EQ(Text(2, kLength), "10") << "and that is forgotten once only";
+}
+
+TEST_F(TableWindow, RowsBelowAGapAreShadedNamedAndMovedUp) {
+    const auto paste = [this](const QString& text, int row, int column, int lastRow) {
+        QApplication::clipboard()->setText(text);
+        Select(row, column, lastRow, column);
+        Press("&Paste");
+    };
+    const auto ground = [this](int row) { return Cell(row, kLength).data(Qt::BackgroundRole); };
+    paste("1\t\t2\n2\t\t3\n3\t\t4\n", 2, kStartPoint, 2);
+    auto& bar = Child<QWidget>("GapBar");
+    EXPECT_FALSE(bar.isVisible() || ground(4).isValid());
+    Select(3, kStartPoint, 3, kStartPoint);
+    Press("&Insert rows");
+    EXPECT_EQ(Shown("LabelGap"), "Rows 3, 4 stand below the empty row 2: they are not computed");
+    EXPECT_TRUE(bar.isVisible() && ground(4).isValid() && !ground(3).isValid());
+    QTest::keyClick(&View(), Qt::Key_Backspace);
+    Child<QAbstractButton>("CommandCloseUp").click();
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(Text(3, kStartPoint) + Text(4, kStartPoint), "23");
+    Press("Delete &rows");
+    EXPECT_EQ(Text(3, kStartPoint), "3");
+    QTest::keyClick(&View(), Qt::Key_Backspace);
+    EXPECT_EQ(Text(3, kStartPoint), "");
+
+    paste("7", 2, kLength, 4);
+    paste("x", 5, kLength, 5);
+    Select(5, kLength, 6, kLength);
+    Press("Fill d&own");
+    EXPECT_EQ(Text(4, kLength) + Text(6, kLength), "7x");
+    EXPECT_TRUE(Cell(6, kLength).data(Qt::UserRole).toBool()) << "with a frame";
+    Press("Cu&t");
+    EXPECT_EQ(Text(5, kLength) + Text(6, kLength) + QApplication::clipboard()->text(), "x\nx\n");
+    const TableTexts before = program->table;
+    const MessageBox question = PartLeftOut({3, 1, 2, 0});
+    boxes.Expect(question, Answer::No).Expect(question, Answer::Yes);
+    paste("1\n2\n3\n", 100, kLength, 100);
+    EXPECT_EQ(program->table, before);
+    paste("1\n2\n3\n", 100, kLength, 100);
+    EXPECT_EQ(Text(100, kLength), "1");
+    boxes.Expect(kNoRoomForRows);
+    Press("&Insert rows");
+    Press("&Undo", 20);
+    EXPECT_EQ(program->table, TableTexts());
 }
 
 TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {

@@ -92,7 +92,7 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     EXPECT_FALSE(IsMarked());
     const std::string report = Stored();
     ChangeCell(project, program->table, 2, 3, "7");
-    boxes.Expect(kPointsLeaveGap);
+    boxes.Expect(PointsLeaveGap("2 to 6 are missing"));
     program->work.WorkPipes[1].FlowRate = -1;
     Do("Command1");
     EXPECT_EQ(program->work.WorkPipes[1].FlowRate, -1);

@@ -3,8 +3,9 @@
 
 #include <QVBoxLayout>
 
-#include "table/table_texts.h"
+#include "table/table_rows.h"
 #include "ui/program.h"
+#include "ui/table/gap_bar.h"
 #include "ui/table/table_model.h"
 #include "ui/table/table_view.h"
 
@@ -12,20 +13,24 @@ namespace idrova {
 
 FrmTable::FrmTable(Program& program)
     : ChildWindow("FrmTable", "Idrova - Insertion with table"),
-      model_(program.tableModel),
-      TxtTab(new TableView(model_, program.tablePlace)) {
+      program_(program),
+      TxtTab(new TableView(program.tableModel, program.tablePlace, program.boxes)),
+      gap_(new GapBar(program.tableModel)) {
     FillTable(program.project, program.table);
-    model_.ShowState();
     StayOnEscape();
-    connect(&model_, &TableModel::dataChanged, this, [&program] { program.changed(); });
+    connect(&program.tableModel, &TableModel::dataChanged, this, [&program] { program.changed(); });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(gap_);
     column->addWidget(TxtTab);
     setFocusProxy(TxtTab);
+    ShowState();
 }
 
 void FrmTable::ShowState() {
-    model_.ShowState();
+    program_.tableModel.ShowState();
+    gap_->ShowGap(NoteOfGap(program_.project, program_.table));
 }
 
 void FrmTable::TakeEdits() {

@@ -5,7 +5,7 @@
 
 namespace idrova {
 
-class TableModel;
+class GapBar;
 class TableView;
 struct Program;
 
@@ -18,8 +18,9 @@ class FrmTable : public ChildWindow {
     void TakeEdits() override;
 
   private:
-    TableModel& model_;
+    Program& program_;
     TableView* TxtTab;
+    GapBar* gap_;
 };
 
 }  // namespace idrova

@@ -3,7 +3,10 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QPainter>
 #include <QPersistentModelIndex>
 #include <QTimer>
 #include <utility>
@@ -11,10 +14,14 @@
 #include "table/table_columns.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/name_list.h"
+#include "ui/table/table_model.h"
 
 namespace idrova {
 
 namespace {
+
+const QColor kFrameColour(0xE6, 0x51, 0x00);  ///< on light and dark grounds
+constexpr int kFrameWidth = 2;                ///< pixels
 
 /// A list of sizes that opens at once, and in which nothing is chosen unless it is open: a closed
 /// list takes keys and the wheel for a choice, and would write a size that nobody saw.
@@ -65,6 +72,16 @@ class OpenSizeList : public QComboBox {
 
 }  // namespace
 
+void TableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const {
+    QStyledItemDelegate::paint(painter, option, index);
+    if (!index.data(TableModel::kFramedRole).toBool()) return;
+    painter->save();
+    painter->setPen(QPen(kFrameColour, kFrameWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+    painter->restore();
+}
+
 QWidget* TableDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                      const QModelIndex& index) const {
     if (index.column() != table_column::kNominalSize) {
@@ -97,6 +114,12 @@ bool TableDelegate::eventFilter(QObject* editor, QEvent* event) {
     // The view takes the edit at once; here it would be taken later, from an editor that is gone.
     if (key != nullptr && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
         return false;
+    }
+    if (event->type() == QEvent::KeyPress && key != nullptr && key->text() == "," &&
+        qobject_cast<QLineEdit*>(editor) != nullptr) {
+        QKeyEvent period(QEvent::KeyPress, Qt::Key_Period, key->modifiers(), ".");
+        QCoreApplication::sendEvent(editor, &period);
+        return true;
     }
     return QStyledItemDelegate::eventFilter(editor, event);
 }

@@ -7,7 +7,7 @@
 namespace idrova {
 
 /// Edits the cells of the table: the nominal size by a list placed over its cell, all others as
-/// text.
+/// text, in which a comma writes the period. Draws the frames.
 class TableDelegate : public QStyledItemDelegate {
   public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -18,6 +18,8 @@ class TableDelegate : public QStyledItemDelegate {
     /// The list was closed without a choice.
     std::function<void(QWidget* list)> listLeft;
 
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override;
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "table/table_edit.h"
+#include "table/table_rows.h"
 #include "ui/kit/qt_text.h"
 
 namespace idrova {
@@ -20,13 +21,8 @@ struct TableState {
     TableTexts texts;
 };
 
-QString HeaderTip(const Settings& settings, int section) {
-    QString header = ToQt(kTableColumnList[section].header);
-    const bool isPressure =
-        section == table_column::kStartPressure || section == table_column::kEndPressure;
-    if (!isPressure) return header;
-    return header + (settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
-}
+/// Of rows that are not computed; on light and dark grounds.
+const QColor kNotComputed(128, 128, 128, 90);
 
 }  // namespace
 
@@ -77,8 +73,11 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         case Qt::EditRole:
             return ToQt(texts_.At(row, index.column()));
         case Qt::BackgroundRole:
-            if (!texts_.IsPainted(row, index.column())) return {};
-            return QColor(QRgb{kToComputeColour});
+            return Ground(row, index.column());
+        case Qt::ToolTipRole:
+            return Tip(row, index.column());
+        case kFramedRole:
+            return texts_.IsFramed(row, index.column());
         case Qt::TextAlignmentRole:
             return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
         default:
@@ -90,10 +89,19 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? index(section, table_column::kNumber).data() : QVariant();
     }
-    if (section < 0 || section >= kTableColumns) return {};
-    if (role == Qt::DisplayRole) return ToQt(kTableColumnList[section].header);
-    if (role == Qt::ToolTipRole) return HeaderTip(project_.settings, section);
+    if (section < 0 || section >= kTableColumns || role != Qt::DisplayRole) return {};
+    return ToQt(HeaderOf(project_.settings, section));
+}
+
+QVariant TableModel::Ground(int row, int column) const {
+    if (row > lastListed_ + 1 && !texts_.IsEmptyRow(row)) return kNotComputed;
+    if (texts_.IsPainted(row, column)) return QColor(QRgb{kToComputeColour});
     return {};
+}
+
+QString TableModel::Tip(int row, int column) const {
+    if (!texts_.IsFramed(row, column)) return {};
+    return column == table_column::kNominalSize ? "No size" : "Not a number as a whole";
 }
 
 Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
@@ -118,17 +126,38 @@ std::string TableModel::Copy(const TableBlock& block) const {
     return CopyBlock(texts_, block);
 }
 
-void TableModel::Paste(const QModelIndex& from, const std::string& text) {
-    Apply("paste", [&] { PasteBlock(project_, texts_, RowOf(from), from.column(), text); });
+void TableModel::Paste(const TableBlock& block, const std::string& text) {
+    Apply("paste", [&] { PasteBlock(project_, texts_, block, text); });
+}
+
+void TableModel::FillDown(const TableBlock& block) {
+    Apply("fill down", [&] { idrova::FillDown(project_, texts_, block); });
 }
 
 void TableModel::Clear(const TableBlock& block) {
     Apply("delete", [&] { ClearBlock(project_, texts_, block); });
 }
 
+bool TableModel::InsertRows(int row, int count) {
+    bool done = false;
+    Apply("insert rows", [&] { done = idrova::InsertRows(project_, texts_, row, count); });
+    return done;
+}
+
+void TableModel::DeleteRows(int firstRow, int lastRow) {
+    Apply("delete rows", [&] { idrova::DeleteRows(project_, texts_, firstRow, lastRow); });
+}
+
+void TableModel::CloseUp() {
+    Apply("close up", [&] { idrova::CloseUp(project_, texts_); });
+}
+
 void TableModel::ShowState() {
     const float unit = project_.settings.PressureUnitFactor;
-    if (std::exchange(shownUnit_, unit) != unit) undo_.clear();
+    if (std::exchange(shownUnit_, unit) != unit) {
+        undo_.clear();
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, kTableColumns - 1);
+    }
     if (shown_ != texts_) Announce();
 }
 
@@ -147,6 +176,7 @@ void TableModel::Apply(const QString& name, const std::function<void()>& edit) {
 
 void TableModel::Announce() {
     shown_ = texts_;
+    lastListed_ = kFirstTableRow + CountListedRows(project_) - 1;
     // One pressure can reach every row.
     Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
 }

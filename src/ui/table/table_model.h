@@ -14,6 +14,9 @@ namespace idrova {
 /// runs the rule of the cells and can be undone for the whole run, whatever windows come and go.
 class TableModel : public QAbstractTableModel {
   public:
+    /// Role of what is true for a cell with a frame.
+    static constexpr int kFramedRole = Qt::UserRole;
+
     /// Both live longer than the model.
     TableModel(Project& project, TableTexts& texts);
 
@@ -28,8 +31,14 @@ class TableModel : public QAbstractTableModel {
     void ChooseSize(const QModelIndex& cell, int position);
 
     std::string Copy(const TableBlock& block) const;
-    void Paste(const QModelIndex& from, const std::string& text);
+    void Paste(const TableBlock& block, const std::string& text);
+    void FillDown(const TableBlock& block);
     void Clear(const TableBlock& block);
+
+    /// Whole rows. False when the table has no room for more.
+    bool InsertRows(int row, int count);
+    void DeleteRows(int firstRow, int lastRow);
+    void CloseUp();
 
     /// Shows what differs from what is shown. In another pressure unit nothing can be undone any
     /// more.
@@ -46,10 +55,13 @@ class TableModel : public QAbstractTableModel {
 
     void Apply(const QString& name, const std::function<void()>& edit);
     void Announce();
+    QVariant Ground(int row, int column) const;
+    QString Tip(int row, int column) const;
 
     Project& project_;
     TableTexts& texts_;
     TableTexts shown_;
+    int lastListed_ = 0;   ///< row
     float shownUnit_ = 0;  ///< Pa per unit
     QUndoStack undo_;
 };

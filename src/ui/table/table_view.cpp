@@ -13,7 +13,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "model/grid.h"
+#include "table/messages.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/qt_text.h"
 #include "ui/table/table_delegate.h"
@@ -26,10 +26,6 @@ namespace {
 constexpr int kUnitsPerPixel = 15;
 constexpr int kLineMargin = 4;  ///< pixels, of a line of text in its cell, both sides together
 constexpr int kHeaderFlags = Qt::AlignCenter | Qt::TextWordWrap;
-
-QString Header(int column) {
-    return ToQt(kTableColumnList[column].header);
-}
 
 /// Around the text of a header, both sides together, with the line that parts it from the next.
 int HeaderMargin(const QHeaderView& header) {
@@ -48,7 +44,8 @@ int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
 
 }  // namespace
 
-TableView::TableView(TableModel& model, TablePlace& place) : model_(model), place_(place) {
+TableView::TableView(TableModel& model, TablePlace& place, MessageBoxes& boxes)
+    : model_(model), place_(place), boxes_(boxes) {
     Named(this, "TxtTab");
     Named(verticalScrollBar(), "ScrY");
     Named(horizontalScrollBar(), "ScrX");
@@ -73,6 +70,7 @@ TableView::TableView(TableModel& model, TablePlace& place) : model_(model), plac
     SizeLines();
     AddCommands();
     setCurrentIndex(model.index(place.line, place.column));
+    connect(&model, &QAbstractItemModel::headerDataChanged, this, &TableView::SizeColumns);
     connect(this, &QAbstractItemView::clicked, this, [this](const QModelIndex& cell) {
         if (cell.column() == table_column::kNominalSize) edit(cell);
     });
@@ -87,7 +85,7 @@ void TableView::MakeHeaders() {
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setDefaultAlignment(Qt::Alignment::fromInt(kHeaderFlags));
     auto* corner = findChild<QAbstractButton*>();
-    auto* label = new QLabel(Header(table_column::kNumber), corner);
+    auto* label = new QLabel(ToQt(kTableColumnList[table_column::kNumber].header), corner);
     label->setAlignment(Qt::AlignCenter);
     label->setFont(horizontalHeader()->font());
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -101,18 +99,20 @@ void TableView::SizeColumns() {
     header.setMinimumSectionSize(kTableColumnList[0].width / kUnitsPerPixel);
     int height = 0;
     for (int column = 0; column < kTableColumns; ++column) {
-        const int width = ColumnWidth(header, column, Header(column));
+        const QString words = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        const int width = ColumnWidth(header, column, words);
         setColumnWidth(column, width);
         const QRect room(0, 0, width - HeaderMargin(header), QWIDGETSIZE_MAX);
-        height = std::max(
-            height, header.fontMetrics().boundingRect(room, kHeaderFlags, Header(column)).height());
+        height =
+            std::max(height, header.fontMetrics().boundingRect(room, kHeaderFlags, words).height());
     }
     header.setFixedHeight(height + HeaderMargin(header));
 }
 
 void TableView::SizeLines() {
     QHeaderView& header = *verticalHeader();
-    const QString longest = Header(table_column::kNumber) + ' ' + QString::number(kLastTableRow);
+    const QString longest =
+        ToQt(kTableColumnList[table_column::kNumber].header) + ' ' + QString::number(kLastTableRow);
     header.setFixedWidth(ColumnWidth(header, table_column::kNumber, longest));
     header.setDefaultSectionSize(
         std::max(kTableRowHeight / kUnitsPerPixel, fontMetrics().height() + kLineMargin));
@@ -120,17 +120,21 @@ void TableView::SizeLines() {
 
 void TableView::AddCommands() {
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    AddCommand("&Undo", QKeySequence("Ctrl+Z"), &TableView::Undo);
-    AddCommand("&Redo", QKeySequence("Ctrl+Y"), &TableView::Redo);
-    AddCommand("&Copy", QKeySequence("Ctrl+C"), &TableView::Copy);
-    AddCommand("&Paste", QKeySequence("Ctrl+V"), &TableView::Paste);
-    AddCommand("&Delete", QKeySequence("Del"), &TableView::Delete);
+    AddCommand("&Undo", {QKeySequence("Ctrl+Z")}, &TableView::Undo);
+    AddCommand("&Redo", {QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}, &TableView::Redo);
+    AddCommand("Cu&t", {QKeySequence("Ctrl+X")}, &TableView::Cut);
+    AddCommand("&Copy", {QKeySequence("Ctrl+C")}, &TableView::Copy);
+    AddCommand("&Paste", {QKeySequence("Ctrl+V")}, &TableView::Paste);
+    AddCommand("Fill d&own", {QKeySequence("Ctrl+D")}, &TableView::FillDown);
+    AddCommand("&Delete", {QKeySequence("Del"), QKeySequence("Backspace")}, &TableView::Delete);
+    AddCommand("&Insert rows", {QKeySequence("Ctrl++")}, &TableView::InsertRows);
+    AddCommand("Delete &rows", {QKeySequence("Ctrl+-")}, &TableView::DeleteRows);
 }
 
-void TableView::AddCommand(const QString& caption, const QKeySequence& keys,
+void TableView::AddCommand(const QString& caption, const QList<QKeySequence>& keys,
                            void (TableView::*command)()) {
     auto* action = new QAction(caption, this);
-    action->setShortcut(keys);
+    action->setShortcuts(keys);
     action->setShortcutContext(Qt::WidgetShortcut);
     connect(action, &QAction::triggered, this, command);
     addAction(action);
@@ -168,6 +172,11 @@ std::optional<TableBlock> TableView::Selected() const {
     return block;
 }
 
+void TableView::Cut() {
+    Copy();
+    Delete();
+}
+
 void TableView::Copy() {
     if (const auto block = Selected()) {
         QApplication::clipboard()->setText(ToQt(model_.Copy(*block)));
@@ -176,13 +185,30 @@ void TableView::Copy() {
 
 void TableView::Paste() {
     const auto block = Selected();
-    const QString text = QApplication::clipboard()->text();
-    if (!block || text.isEmpty()) return;
-    model_.Paste(model_.index(block->firstRow - kFirstTableRow, block->firstColumn), FromQt(text));
+    const std::string text = FromQt(QApplication::clipboard()->text());
+    if (!block || text.empty()) return;
+    const PasteLoss loss = LossOfPaste(*block, text);
+    const bool fits = loss.rowsLost + loss.columnsLost == 0;
+    if (fits || boxes_.Show(PartLeftOut(loss)) == Answer::Yes) model_.Paste(*block, text);
+}
+
+void TableView::FillDown() {
+    if (const auto block = Selected()) model_.FillDown(*block);
 }
 
 void TableView::Delete() {
     if (const auto block = Selected()) model_.Clear(*block);
+}
+
+void TableView::InsertRows() {
+    const auto block = Selected();
+    if (!block) return;
+    const int count = block->lastRow - block->firstRow + 1;
+    if (!model_.InsertRows(block->firstRow, count)) boxes_.Show(kNoRoomForRows);
+}
+
+void TableView::DeleteRows() {
+    if (const auto block = Selected()) model_.DeleteRows(block->firstRow, block->lastRow);
 }
 
 void TableView::Undo() {

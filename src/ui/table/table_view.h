@@ -4,6 +4,7 @@
 #include <QTableView>
 #include <optional>
 
+#include "base/message_boxes.h"
 #include "table/table_block.h"
 #include "table/table_columns.h"
 
@@ -15,8 +16,8 @@ class TableModel;
 /// and deleted, edits undone. The line numbers stay beside the cells as the headers do above them.
 class TableView : public QTableView {
   public:
-    /// Starts at `place` and leaves there where it ended. Both live longer than the view.
-    TableView(TableModel& model, TablePlace& place);
+    /// Starts at `place` and leaves there where it ended. All live longer than the view.
+    TableView(TableModel& model, TablePlace& place, MessageBoxes& boxes);
 
     /// Takes what is being typed into a cell as if it had been finished.
     void TakeEdit();
@@ -32,7 +33,8 @@ class TableView : public QTableView {
 
   private:
     void AddCommands();
-    void AddCommand(const QString& caption, const QKeySequence& keys, void (TableView::*command)());
+    void AddCommand(const QString& caption, const QList<QKeySequence>& keys,
+                    void (TableView::*command)());
     void MakeHeaders();
     void SizeColumns();
     void SizeLines();
@@ -40,15 +42,20 @@ class TableView : public QTableView {
     /// by itself the view would put the last ones at the other edge and cut these.
     void ShowWholeCells();
     std::optional<TableBlock> Selected() const;
+    void Cut();
     void Copy();
     void Paste();
+    void FillDown();
     void Delete();
+    void InsertRows();
+    void DeleteRows();
     void Undo();
     void Redo();
     void MoveDown(int rows);
 
     TableModel& model_;
     TablePlace& place_;
+    MessageBoxes& boxes_;
 };
 
 }  // namespace idrova
