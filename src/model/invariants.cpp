@@ -83,7 +83,7 @@ void CheckPipe(const Project& project, std::size_t slot, Faults& faults) {
         faults.Check(holds, "pipe", slot, rule);
         return holds;
     };
-    check(AreFinite({pipe.FlowRate, pipe.Length, pipe.Diameter, pipe.OuterSize}),
+    check(AreFinite({pipe.FlowRate, pipe.Length, pipe.Diameter, pipe.OuterSize, pipe.LossSum}),
           "have finite numbers");
     check(pipe.IsEnd(pipe.FlowFromPoint), "count its flow from an end");
     if (!pipe.IsDrawn()) {
@@ -131,7 +131,7 @@ void CheckCell(const Project& project, std::size_t slot, Faults& faults) {
 
 void CheckTableRow(const TableRowRec& row, std::size_t slot, Faults& faults) {
     faults.Check(AreFinite({row.StartPressure, row.EndPressure, row.RowDiameter, row.RowLength,
-                            row.RowFlowRate, row.RowZ1, row.RowZ2}),
+                            row.RowFlowRate, row.RowZ1, row.RowZ2, row.RowLossSum}),
                  "table row", slot, "have finite numbers");
     for (const GivenColumn& column : kGivenColumns) {
         faults.Check(row.*column.given || row.*column.value == 0, "table row", slot,

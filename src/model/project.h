@@ -34,6 +34,7 @@ struct PipeRec {
     std::int16_t Z1 = 0, Z2 = 0;     ///< heights of the ends, whole metres
     float OuterSize = 0;             ///< outside diameter, or side b, m
     std::int16_t FlowFromPoint = 0;  ///< the end that a positive flow leaves
+    float LossSum = 0;               ///< sum of the loss coefficients of the pipe's own fittings
 
     bool IsDrawn() const { return X1 > 0; }
     bool IsEnd(int point) const { return StartPoint == point || EndPoint == point; }
@@ -90,6 +91,7 @@ struct TableRowRec {
     float RowFlowRate = 0;       ///< kg/s
     float RowZ1 = 0, RowZ2 = 0;  ///< m
     bool P1Given = false, P2Given = false, FlowGiven = false;
+    float RowLossSum = 0;  ///< sum of the loss coefficients of the pipe's own fittings
 
     bool operator==(const TableRowRec&) const = default;
 };

@@ -13,6 +13,7 @@ constexpr std::size_t kLargestProjectFile = std::size_t{16} * 1024 * 1024;
 constexpr std::string_view kPumpConstantsKey = "pump constants";
 constexpr std::string_view kGivenZerosKey = "given zeros";
 constexpr std::string_view kFlowFromEndKey = "flow from end points";
+constexpr std::string_view kPipeLossesKey = "pipe losses";
 constexpr std::string_view kRowsBelowGapKey = "rows below a gap";
 constexpr std::string_view kDescriptionKey = "Project description";
 

@@ -211,19 +211,22 @@ void ReadRowsBelowGap(ProjectLines& lines, ProjectContent& content) {
     }
 }
 
+/// In the list or below its gap; a fault of `line` when there is none.
+TableRowRec* FindRow(ProjectLines& lines, int line, ProjectContent& content, int row) {
+    const auto listed = static_cast<std::size_t>(row - kFirstTableRow);
+    if (listed < content.rows.size()) return &content.rows[listed];
+    const auto loose =
+        std::ranges::find(content.rowsBelowGap, row, &ProjectContent::LooseRow::number);
+    if (loose != content.rowsBelowGap.end()) return &loose->record;
+    lines.FailAt(line, "the file has no such row");
+    return nullptr;
+}
+
 void MarkGivenZeros(ProjectLines& lines, const std::vector<GivenZero>& zeros,
                     ProjectContent& content) {
     for (const GivenZero& zero : zeros) {
-        const auto listed = static_cast<std::size_t>(zero.row - kFirstTableRow);
-        const auto loose =
-            std::ranges::find(content.rowsBelowGap, zero.row, &ProjectContent::LooseRow::number);
-        if (listed < content.rows.size()) {
-            content.rows[listed].*zero.given = true;
-        } else if (loose != content.rowsBelowGap.end()) {
-            loose->record.*zero.given = true;
-        } else {
-            lines.FailAt(zero.line, "the file has no such row");
-        }
+        TableRowRec* const row = FindRow(lines, zero.line, content, zero.row);
+        if (row != nullptr) row->*zero.given = true;
     }
 }
 
@@ -236,6 +239,43 @@ void ReadFlowsFromEnd(ProjectLines& lines, ProjectContent& content) {
         if (lines.Failed()) return;
         PipeRec& pipe = content.pipes[static_cast<std::size_t>(number - 1)].record;
         pipe.FlowFromPoint = pipe.EndPoint;
+    }
+}
+
+/// Losses of the pipe of a row which may not have been read yet.
+struct RowLosses {
+    int row;
+    float sum;
+    int line;
+};
+
+std::vector<RowLosses> ReadPipeLosses(ProjectLines& lines, ProjectContent& content) {
+    std::vector<RowLosses> losses;
+    const int pipes = static_cast<int>(content.pipes.size());
+    const int listed = kFirstTableRow + static_cast<int>(content.rows.size()) - 1;
+    const int count = lines.Count(kMaxPipes + kTableSlots);
+    for (int i = 0; i < count && !lines.Failed(); ++i) {
+        lines.Numbers(3);
+        const int pipe = lines.Whole(0, pipes);
+        const int row = pipe == 0 ? lines.Whole(kFirstTableRow, std::max(listed, kLastTableRow))
+                                  : lines.Whole(0, 0);
+        const float sum = lines.Single();
+        if (sum < 0) lines.Fail("the sum of the loss coefficients must not be negative");
+        if (lines.Failed()) return losses;
+        if (pipe == 0) {
+            losses.push_back({row, sum, lines.LineNumber()});
+        } else {
+            content.pipes[static_cast<std::size_t>(pipe - 1)].record.LossSum = sum;
+        }
+    }
+    return losses;
+}
+
+void PutRowLosses(ProjectLines& lines, const std::vector<RowLosses>& losses,
+                  ProjectContent& content) {
+    for (const auto& [number, sum, line] : losses) {
+        TableRowRec* const row = FindRow(lines, line, content, number);
+        if (row != nullptr) row->RowLossSum = sum;
     }
 }
 
@@ -270,8 +310,11 @@ Result<ProjectContent> ParseProject(std::string_view text, int gridSize) {
     std::vector<GivenZero> zeros;
     if (lines.PassKey(kGivenZerosKey)) zeros = ReadGivenZeros(lines, content);
     if (lines.PassKey(kFlowFromEndKey)) ReadFlowsFromEnd(lines, content);
+    std::vector<RowLosses> losses;
+    if (lines.PassKey(kPipeLossesKey)) losses = ReadPipeLosses(lines, content);
     if (lines.PassKey(kRowsBelowGapKey)) ReadRowsBelowGap(lines, content);
     MarkGivenZeros(lines, zeros, content);
+    PutRowLosses(lines, losses, content);
     ReadDescription(lines, content);
     if (lines.Failed()) return Failure{lines.Fault()};
     return content;

@@ -178,6 +178,27 @@ void WriteFlowsFromEnd(PrintZoneWriter& out, const Project& project) {
     for (const int pipe : pipes) NumberLine(out, pipe);
 }
 
+/// Only files with a pipe or a table row that has losses of its own have this group: pipe or 0, row
+/// or 0, sum of the coefficients.
+void WritePipeLosses(PrintZoneWriter& out, const Project& project) {
+    struct Entry {
+        int pipe, row;
+        float sum;
+    };
+    std::vector<Entry> entries;
+    for (int r = kFirstTableRow; r <= kLastTableRow; ++r) {
+        const float sum = project.TableRows[static_cast<std::size_t>(r)].RowLossSum;
+        if (sum != 0) entries.push_back({0, r, sum});
+    }
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
+        if (pipe.LossSum != 0) entries.push_back({number, 0, pipe.LossSum});
+    }
+    if (entries.empty()) return;
+    KeyLine(out, kPipeLossesKey);
+    NumberLine(out, static_cast<int>(entries.size()));
+    for (const auto& [pipe, row, sum] : entries) NumberLine(out, pipe, row, sum);
+}
+
 }  // namespace
 
 int CountTableRows(const Project& project) {
@@ -205,6 +226,7 @@ std::string ProjectFileText(const Project& project) {
     WritePumpConstants(out, project, components);
     WriteGivenZeros(out, project);
     WriteFlowsFromEnd(out, project);
+    WritePipeLosses(out, project);
     WriteRowsBelowGap(out, project);
     KeyLine(out, kDescriptionKey);
     TextLine(out, project.ProjectDescription);

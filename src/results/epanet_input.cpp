@@ -47,6 +47,7 @@ class EpanetWriter {
     explicit EpanetWriter(const RunRecord& run)
         : settings_(run.settings), work_(*run.results), plan_(PlanNetwork(work_)) {
         std::iota(node_.begin(), node_.end(), 0);
+        for (const auto& [number, pipe] : DrawnPipes(work_)) minorLoss_[number] = pipe.LossSum;
         for (const Component& component : plan_.components) {
             if (component.high != 0) PlaceComponent(component);
         }

@@ -71,26 +71,23 @@ class ReportPrinter {
     }
 
     void Points() {
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            const PointRec& point = work_.WorkPoints[i];
-            if (point.IsDrawn()) Point(i, point);
-        }
+        for (const auto& [number, point] : DrawnPoints(work_)) Point(number, point);
         EmptyLine();
     }
 
     void PressureDifferences() {
-        ForDrawnPipes([this](int number, const PipeRec& pipe) {
+        for (const auto& [number, pipe] : DrawnPipes(work_)) {
             const PipeFigures figures = FiguresOf(pipe, work_, settings_);
             out_.Text("pipe" + StrText(number)).NextZone();
             out_.Text("P" + StrText(int{pipe.StartPoint}) + "-P" + StrText(int{pipe.EndPoint}));
             out_.NextZone().Text("[Pa]").NextZone().Number(figures.drop).NextZone();
             out_.Text("[Pa/m]").NextZone().Number(figures.dropPerMetre).EndLine();
-        });
+        }
         EmptyLine();
     }
 
     void PipeBlocks() {
-        ForDrawnPipes([this](int number, const PipeRec& pipe) { PipeBlock(number, pipe); });
+        for (const auto& [number, pipe] : DrawnPipes(work_)) PipeBlock(number, pipe);
     }
 
     void Pumps() {
@@ -147,6 +144,7 @@ class ReportPrinter {
             .EndLine();
         SectionLine(pipe);
         Row("   Lenght [m]", pipe.Length);
+        if (pipe.LossSum != 0) Row("   Sum of loss coefficients", pipe.LossSum);
         out_.Text("   Height [m] Z1").NextZone().Number(int{pipe.Z1}).NextZone();
         out_.Text("Z2").NextZone().Number(int{pipe.Z2}).EndLine();
         PatternRow("   Speed [m/s]", figures.speed);
@@ -162,14 +160,6 @@ class ReportPrinter {
         out_.Text("   Side a [mm]").NextZone().Number(side).NextZone();
         out_.Text("   Side b [mm]").NextZone();
         out_.Number(ScaledSingle(pipe.OuterSize, kMillimetresPerMetre)).EndLine();
-    }
-
-    template <typename Print>
-    void ForDrawnPipes(const Print& print) {
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (pipe.IsDrawn()) print(i, pipe);
-        }
     }
 
     template <typename Print>

@@ -23,6 +23,7 @@ PipeRec PipeFromRow(const TableRowRec& row) {
     pipe.Diameter = row.RowDiameter;
     pipe.FlowRate = row.RowFlowRate;
     pipe.Length = row.RowLength;
+    pipe.LossSum = row.RowLossSum;
     pipe.StartPoint = row.StartPoint;
     pipe.EndPoint = row.EndPoint;
     pipe.FlowFromPoint = row.StartPoint;

@@ -52,12 +52,19 @@ TEST(ProjectText, WhatTheOldFormatLacksHasGroupsOfItsOwn) {
     project->TableRows[4].P1Given = true;  // in the row that ends the list
     project->TableRows[100] = {1, 0, 2, 3, .5F, 6, 7, 8, 9, false, true, true};
     project->Pipes[2].FlowFromPoint = 3;
+    project->Pipes[2].LossSum = 1.67F;
+    project->Pipes[3].LossSum = 1;  // deleted
+    project->TableRows[3].RowLossSum = 2.5F;
+    project->TableRows[100].RowLossSum = 1;
     const std::string text = ProjectFileText(*project);
     EXPECT_EQ(text.substr(text.find("pump constants")),
               "pump constants\r\n 1 \r\n 25            250000 \r\n"
               "given zeros\r\n 3 \r\n 2             8 \r\n 3             2 \r\n"
               " 4             2 \r\n"
               "flow from end points\r\n 1 \r\n 2 \r\n"
+              "pipe losses\r\n 3 \r\n"
+              " 0             3             2.5 \r\n 0             100           1 \r\n"
+              " 2             0             1.67 \r\n"
               "rows below a gap\r\n 2 \r\n"
               " 4             0             0             0             0             0           "
               "  0             0             0             0 \r\n"
@@ -65,6 +72,7 @@ TEST(ProjectText, WhatTheOldFormatLacksHasGroupsOfItsOwn) {
               "  6             7             8             9 \r\n"
               "Project description\r\ntwo taps, one pump\r\n");
     project->Cells[100].PumpConstant = 0;
+    project->Pipes[3].LossSum = 0;
     project->Pipes[4].Diameter = 12345680;
     EXPECT_EQ(*Reread(*project), *project);
 }

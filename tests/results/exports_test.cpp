@@ -255,7 +255,8 @@ TEST(Exports, EpanetInputOfWhatIsUnusual) {
     run.settings.Roughness = 0;
     run.settings.SectionType = Section::Rectangular;
     for (int i = 1; i <= 7; ++i) work.WorkPipes[i].OuterSize = .2F;
-    EXPECT_THAT(section("PIPES"), HasSubstr("pipe1 P1 P2 50 152.3375 1e-06 0"));
+    work.WorkPipes[1].LossSum = 1.5F;
+    EXPECT_THAT(section("PIPES"), HasSubstr("pipe1 P1 P2 50 152.3375 1e-06 1.5"));
 
     run.settings.EquationType = Equation::Compressible;
     EXPECT_EQ(EpanetInput(run, "", "").Error(), "EPANET computes liquids only");

@@ -37,6 +37,7 @@ TEST(Report, IsPrintedLineByLine) {
     work->WorkPipes[1] = {.5F, 12.5F, .0279F, 1, 2, 639, 0, 0, 0, 0, 3, 0, 1};
     work->WorkPipes[2] = {1, 1, 1, gone, gone, gone, gone, gone, gone, 0, 0, 0, gone};
     work->WorkPipes[3] = {-.25F, 8, .028F, 4, 2, 639, 0, 0, 0, -2, 3, .0654F, 2};
+    work->WorkPipes[3].LossSum = 1.67F;
     work->WorkPointCount = 4;
     work->WorkPoints = {{{}, {202650, 639}, {151987.5F, 639}, {1, gone}, {-1234.5F, 639}}};
     work->WorkPressureUnknown = {false, false, true, true, true};
@@ -74,6 +75,7 @@ TEST(Report, IsPrintedLineByLine) {
         "   Flow rate [kg/h],[mc/h]  -900          -.901623 ",
         "   Diameter [mm]             28           ",
         "   Lenght [m]  8 ",
+        "   Sum of loss coefficients  1.67 ",
         "   Height [m] Z1            -2            Z2             3 ",
         "   Speed [m/s]              -.407",
         "   Reynolds   -11345.853",

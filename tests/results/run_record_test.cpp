@@ -34,6 +34,7 @@ TEST(RunRecord, ResultsAreOutOfDateWhenWhatTheyDependOnDiffers) {
         {[](auto& p) { p.PressureUnknown[2] = false; }, true, "which pressures are given"},
         {[](auto& p) { p.Pipes[1].Z2 = 5; }, true, "a height"},
         {[](auto& p) { p.Pipes[2].Length = 5; }, true, "a length"},
+        {[](auto& p) { p.Pipes[2].LossSum = 5; }, true, "the losses of a pipe's own fittings"},
         {[](auto& p) { p.Pipes[2].X1 = kDeleted; }, true, "a pipe deleted"},
         {[](auto& p) { p.Cells[7].Param1 = 5; }, true, "a component"},
         {[](auto& p) { p.Cells[7].Placed = false; }, true, "a component deleted"},
