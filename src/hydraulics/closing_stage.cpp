@@ -31,13 +31,15 @@ class Closing {
         result_.solution = std::move(start);
     }
 
-    ClosingStage Run() {
+    ClosingStage Run(const KeepOn& keepOn) {
         result_.misfit = Evaluate(result_.solution);
         while (result_.passes < kClosingPasses && std::isfinite(result_.misfit)) {
             ++result_.passes;
             if (!FindStep()) break;
             const bool last = IsSmall();
             if (!Move() || last) break;
+            result_.stopped = !keepOn(result_.passes);
+            if (result_.stopped) break;
         }
         if (!result_.solution.IsFinite()) {
             result_.misfit = std::numeric_limits<double>::infinity();
@@ -46,19 +48,11 @@ class Closing {
     }
 
   private:
-    template <typename Visit>
-    void ForDrawnPipes(Visit visit) const {
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            if (work_.WorkPipes[i].IsDrawn()) visit(i);
-        }
-    }
-
-    PressureLaw LawOfPipe(const Solution& at, int i) const {
-        const PipeRec& pipe = work_.WorkPipes[i];
+    PressureLaw LawOfPipe(const Solution& at, int i, const PipeRec& pipe) const {
         const double start = at.Pressure(plan_, pipe.StartPoint);
         const double end = at.Pressure(plan_, pipe.EndPoint);
-        return work_.WorkFlowUnknown[i] ? PipeLaw(settings_, pipe, 0, at.Flow(plan_, i), start, end)
-                                        : GivenFlowLaw(settings_, pipe, 0, start, end);
+        return work_.WorkFlowUnknown[i] ? PipeLaw(settings_, pipe, at.Flow(plan_, i), start, end)
+                                        : GivenFlowLaw(settings_, pipe, start, end);
     }
 
     PressureLaw LawOfComponent(const Solution& at, const Component& component) const {
@@ -80,10 +74,9 @@ class Closing {
         system_.Clear();
         row_ = 0;
         double squares = 0;
-        ForDrawnPipes([&](int i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            squares += Law(at, LawOfPipe(at, i), pipe.StartPoint, pipe.EndPoint, i);
-        });
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            squares += Law(at, LawOfPipe(at, i, pipe), pipe.StartPoint, pipe.EndPoint, i);
+        }
         for (std::size_t k = 0; k < plan_.components.size(); ++k) {
             const Component& component = plan_.components[k];
             if (component.high == 0) {
@@ -118,48 +111,37 @@ class Closing {
     void Add(int unknown, double coefficient) { system_.Add(row_, unknown, coefficient); }
 
     /// A term of a linear equation, which a whole step satisfies.
-    void AddTerm(const Solution& at, int unknown, double coefficient) {
-        Add(unknown, coefficient);
-        system_.AddRight(row_, -coefficient * at.values[unknown]);
+    void AddTerm(const Solution& at, int row, int unknown, double coefficient) {
+        system_.Add(row, unknown, coefficient);
+        system_.AddRight(row, -coefficient * at.values[unknown]);
+    }
+
+    void Give(const Solution& at, int unknown, double value) {
+        ++row_;
+        AddTerm(at, row_, unknown, 1);
+        system_.AddRight(row_, value);
     }
 
     void GivenValues(const Solution& at) {
-        ForDrawnPipes([&](int i) {
-            if (work_.WorkFlowUnknown[i]) return;
-            ++row_;
-            AddTerm(at, plan_.flowUnknown[i], 1);
-            system_.AddRight(row_, std::abs(work_.WorkPipes[i].FlowRate));
-        });
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (!work_.WorkPoints[i].IsDrawn() || work_.WorkPressureUnknown[i]) continue;
-            ++row_;
-            AddTerm(at, plan_.pressureUnknown[i], 1);
-            system_.AddRight(row_, work_.WorkPoints[i].Pressure);
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            if (!work_.WorkFlowUnknown[i]) Give(at, plan_.flowUnknown[i], std::abs(pipe.FlowRate));
+        }
+        for (const auto [i, point] : DrawnPoints(work_)) {
+            if (!work_.WorkPressureUnknown[i]) Give(at, plan_.pressureUnknown[i], point.Pressure);
         }
     }
 
     /// The sum of the flows that reach a junction, or a component, is 0.
     void Balances(const Solution& at) {
-        std::array<int, kMaxPoints + 1> rowOf{};
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (plan_.pipesAtPoint[i] > 1) rowOf[i] = ++row_;
+        for (const JunctionTerm& term : plan_.junctionTerms) {
+            AddTerm(at, row_ + term.junction, plan_.flowUnknown[term.pipe], term.sign);
         }
-        const int next = row_;
-        ForDrawnPipes([&](int i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (pipe.StartPoint == pipe.EndPoint) return;
-            for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
-                row_ = rowOf[point];
-                if (row_ == 0) continue;
-                AddTerm(at, plan_.flowUnknown[i], pipe.FlowFromPoint == point ? -1 : 1);
-            }
-        });
-        row_ = next;
+        row_ += plan_.junctions;
         for (const Component& component : plan_.components) {
             ++row_;
             if (component.pipeB == 0) continue;
-            AddTerm(at, plan_.flowUnknown[component.pipeA], component.signA);
-            AddTerm(at, plan_.flowUnknown[component.pipeB], component.signB);
+            AddTerm(at, row_, plan_.flowUnknown[component.pipeA], component.signA);
+            AddTerm(at, row_, plan_.flowUnknown[component.pipeB], component.signB);
         }
     }
 
@@ -238,23 +220,19 @@ class Closing {
 }  // namespace
 
 ClosingStage RunClosingStage(const Settings& settings, const NetworkPlan& plan,
-                             const WorkNetwork& work, Solution start) {
-    return Closing(settings, plan, work, std::move(start)).Run();
+                             const WorkNetwork& work, Solution start, const KeepOn& keepOn) {
+    return Closing(settings, plan, work, std::move(start)).Run(keepOn);
 }
 
 Solution PlainStart(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work) {
     Solution start;
     start.values.resize(static_cast<std::size_t>(plan.Order()) + 1);
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
-        const double area = SectionGeometry(settings, pipe.Diameter, pipe.OuterSize).area;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        const double area = SectionOf(settings, pipe).area;
         start.values[plan.flowUnknown[i]] = area * settings.FluidDensity;
     }
     const double mean = MeanGivenPressure(work);
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        if (work.WorkPoints[i].IsDrawn()) start.values[plan.pressureUnknown[i]] = mean;
-    }
+    for (const auto [i, point] : DrawnPoints(work)) start.values[plan.pressureUnknown[i]] = mean;
     return start;
 }
 

@@ -18,7 +18,7 @@ double LaggedRise(const CellRec& pump, double q) {
 
 double LaggedDrop(const Settings& settings, const CellRec& loss, const PipeRec& pipeA, double q) {
     if (loss.Param2 != 0) return loss.Param2;
-    const double area = SectionGeometry(settings, pipeA.Diameter, pipeA.OuterSize).area;
+    const double area = SectionOf(settings, pipeA).area;
     const double v = q / (settings.FluidDensity * area);
     return loss.Param1 * 0.5 * settings.FluidDensity * v * v;
 }
@@ -51,7 +51,7 @@ PressureLaw FixedDropLaw(const Settings& settings, double drop, const PipeRec& p
 
 PressureLaw CoefficientLaw(const Settings& settings, double coefficient, const PipeRec& pipeA,
                            double through, const ByEndPressures& density) {
-    const double area = SectionGeometry(settings, pipeA.Diameter, pipeA.OuterSize).area;
+    const double area = SectionOf(settings, pipeA).area;
     const double perFlow = coefficient / 2 * std::abs(through) / (area * area * density.value);
     const double drop = perFlow * through;
     const double byDensity = -drop / density.value;
@@ -75,7 +75,7 @@ bool OpensUpwards(const CellRec& pump) {
 }
 
 double FullDropFlow(const Settings& settings, const PipeRec& pipeA) {
-    const SectionSize section = SectionGeometry(settings, pipeA.Diameter, pipeA.OuterSize);
+    const SectionSize section = SectionOf(settings, pipeA);
     return kFullDropShare * FlowAtReynolds(settings, section, kCreepingReynolds);
 }
 

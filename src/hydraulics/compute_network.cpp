@@ -34,53 +34,37 @@ FlowGuesses StartGuesses(const WorkNetwork& work, std::uint32_t seed) {
     return guesses;
 }
 
-RunProgress ProgressOf(int pass, double residual, double closenessSoFar) {
-    RunProgress progress;
-    progress.closeness =
-        residual == 0 ? closenessSoFar : std::min(100.0, 100 * double{kTotalTolerance} / residual);
-    progress.passes = std::min(100.0, 100.0 * pass / kPassLimit);
-    return progress;
+/// Turns passes into calls of the progress call, and its answers into going on.
+PassReport ReportTo(const RunOptions& options) {
+    return [&options, progress = RunProgress{}](int pass, double residual) mutable {
+        if (residual != 0) {
+            progress.closeness = std::min(100.0, 100 * double{kTotalTolerance} / residual);
+        }
+        progress.passes = std::min(100.0, 100.0 * pass / kPassLimit);
+        return options.progress(progress);
+    };
 }
 
-/// Hands the passes on to the progress call and remembers that it has stopped the run.
-class Progress {
-  public:
-    explicit Progress(const RunOptions& options) : options_(options) {}
-
-    void Report(int pass, double residual) {
-        const RunProgress progress = ProgressOf(pass, residual, closeness_);
-        closeness_ = progress.closeness;
-        if (!stopped_) stopped_ = !options_.progress(progress);
-    }
-
-    bool Stopped() const { return stopped_; }
-
-  private:
-    const RunOptions& options_;
-    double closeness_ = 0;
-    bool stopped_ = false;
-};
-
 StageResult Solve(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
-                  const RunOptions& options, Progress& progress) {
-    return SolveNetwork(
-        settings, plan, work, StartGuesses(work, options.seed.value_or(ClockSeed())),
-        [&progress](int pass, double residual) { progress.Report(pass, residual); });
+                  const RunOptions& options) {
+    const FlowGuesses start = StartGuesses(work, options.seed.value_or(ClockSeed()));
+    return SolveNetwork(settings, plan, work, start, ReportTo(options));
 }
 
 RunEnd EndOf(const StageResult& result) {
-    if (!result.finite) return RunEnd::NotFinite;
+    if (result.stopped) return RunEnd::Stopped;
     if (result.singular) return RunEnd::Singular;
+    if (!result.finite) return RunEnd::NotFinite;
     return result.settled ? RunEnd::Settled : RunEnd::Unsettled;
 }
 
 void DescribeResiduals(const WorkNetwork& work, const StageResult& result, Outcome& outcome) {
     outcome.residual = result.residual;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeResidual& pipe = result.pipes[i];
-        if (pipe.settled) continue;
-        if (outcome.worstPipe != 0 && pipe.relative <= outcome.worstResidual) continue;
-        outcome.worstResidual = pipe.relative;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        const PipeResidual& residual = result.pipes[i];
+        if (residual.settled) continue;
+        if (outcome.worstPipe != 0 && residual.relative <= outcome.worstResidual) continue;
+        outcome.worstResidual = residual.relative;
         outcome.worstPipe = i;
     }
 }
@@ -114,19 +98,20 @@ Outcome ComputeNetwork(const Settings& settings, WorkNetwork& work, const RunOpt
     if (auto refusal = CheckSystem(settings, plan, work)) return Ended(RunEnd::Refused, refusal);
 
     const auto started = std::chrono::steady_clock::now();
-    Progress progress(options);
-    StageResult result = Solve(settings, plan, work, options, progress);
+    StageResult result = Solve(settings, plan, work, options);
     Outcome outcome;
     outcome.seconds =
         std::chrono::duration<double>(std::chrono::steady_clock::now() - started).count();
     outcome.passes = result.passes;
-    outcome.end = progress.Stopped() ? RunEnd::Stopped : EndOf(result);
-    if (outcome.end == RunEnd::Stopped || outcome.end == RunEnd::NotFinite) return outcome;
-
-    DescribeResiduals(work, result, outcome);
-    CleanUpZeroFlows(settings, plan, work, result);
+    outcome.end = EndOf(result);
+    if (result.stopped) return outcome;
+    outcome.stored = result.finite;
+    if (outcome.stored) {
+        DescribeResiduals(work, result, outcome);
+        CleanUpZeroFlows(settings, plan, work, result);
+    }
     outcome.notes = ResultNotes(settings, plan, work, result);
-    StoreResults(plan, work, result);
+    if (outcome.stored) StoreResults(plan, work, result);
     return outcome;
 }
 

@@ -21,21 +21,25 @@ enum class RunEnd {
     Stopped,    ///< the progress call has stopped the run: nothing was stored
     Settled,    ///< the results are a solution
     Unsettled,  ///< the results are the last pass, not a solution
-    Singular,   ///< the equations have no single solution: the results are the last pass
+    Singular,   ///< the equations have no single solution: the results are the last pass, if finite
     NotFinite,  ///< no finite solution: nothing was stored
 };
 
 /// What became of a run.
 struct Outcome {
     RunEnd end = RunEnd::Refused;
+    bool stored = false;               ///< the working network holds results
     std::array<int, 2> passes{};       ///< of the first and of the closing stage; 0 when not run
     double residual = 0;               ///< summed relative residual of the last pass
     double worstResidual = 0;          ///< the largest residual of an unsettled pipe
     int worstPipe = 0;                 ///< its number; 0 when every pipe has settled
     std::optional<Refusal> refusal{};  ///< of a run that the engine has refused
-    std::vector<Note> notes{};         ///< what the user should know
+    std::vector<Note> notes{};         ///< what the user should know, remarks last
     double seconds = 0;                ///< that the run took
 };
+
+/// How many notes a user has to look at: remarks do not count.
+int WarningCount(const Outcome& outcome);
 
 /// The outcome in a few words, for the status bar.
 std::string OutcomeLine(const Outcome& outcome);

@@ -8,7 +8,7 @@
 
 #include "hydraulics/fluid_density.h"
 #include "hydraulics/network_system.h"
-#include "hydraulics/pipe_drop.h"
+#include "hydraulics/pipe_law.h"
 #include "hydraulics/plain_elimination.h"
 #include "hydraulics/sparse_solver.h"
 
@@ -27,7 +27,7 @@ class Stage {
         moved_.fill(true);
         state_.guess = start;
         const double mean = MeanGivenPressure(work);
-        state_.meanPressure.fill(MeanAbsolutePressure(settings, mean, mean));
+        state_.meanPressure.fill(MeanPressureAt(settings, mean, mean).value);
     }
 
     FirstStage Run(const PassReport& report) {
@@ -39,34 +39,25 @@ class Stage {
             if (!result_.finite) return std::move(result_);
             const bool guessesRest = Relax();
             const bool pressuresRest = RefreshMeanPressures();
-            report(result_.passes, residual_);
+            result_.stopped = !report(result_.passes, residual_);
             result_.settled = pressuresRest && (residual_ < kTotalTolerance || guessesRest);
-            ended = result_.settled || result_.passes > kPassLimit;
+            ended = result_.stopped || result_.settled || result_.passes > kPassLimit;
         }
         return std::move(result_);
     }
 
   private:
-    template <typename Visit>
-    void ForUnknownFlows(Visit visit) const {
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            if (work_.WorkPipes[i].IsDrawn() && work_.WorkFlowUnknown[i]) visit(i);
-        }
-    }
-
     double Drop(int i, double flow) const {
-        const PipeRec& pipe = work_.WorkPipes[i];
-        return PipeDrop(settings_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                        state_.meanPressure[i]);
+        return DropWithLosses(settings_, work_.WorkPipes[i], flow, state_.meanPressure[i]);
     }
 
     void SolvePass() {
-        ForUnknownFlows([this](int i) {
-            if (!moved_[i]) return;
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            if (!work_.WorkFlowUnknown[i] || !moved_[i]) continue;
             const double guess = state_.guess[i];
             const double resistance = guess == 0 ? 0 : std::abs(Drop(i, guess) / guess);
             state_.resistance[i] = static_cast<float>(resistance);
-        });
+        }
         AssembleNetworkSystem(settings_, plan_, work_, state_, system_);
         if (solver_.Run(system_, found_) == Solve::Singular) EliminatePlainly(system_, found_);
         result_.solution.values.assign(1, 0);
@@ -78,15 +69,16 @@ class Stage {
     bool Relax() {
         bool atRest = true;
         residual_ = 0;
-        ForUnknownFlows([&](int i) {
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            if (!work_.WorkFlowUnknown[i]) continue;
             const double q = result_.solution.Flow(plan_, i);
             const double relative = Residual(i, q);
             residual_ += relative;
             moved_[i] = relative > kPipeTolerance;
-            if (!moved_[i]) return;
+            if (!moved_[i]) continue;
             state_.guess[i] = (q + state_.guess[i]) / 2;
             atRest = false;
-        });
+        }
         return atRest;
     }
 
@@ -102,12 +94,11 @@ class Stage {
     bool RefreshMeanPressures() {
         if (settings_.EquationType != Equation::Compressible) return true;
         bool atRest = true;
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (!pipe.IsDrawn()) continue;
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
             const double mean =
-                MeanAbsolutePressure(settings_, result_.solution.Pressure(plan_, pipe.StartPoint),
-                                     result_.solution.Pressure(plan_, pipe.EndPoint));
+                MeanPressureAt(settings_, result_.solution.Pressure(plan_, pipe.StartPoint),
+                               result_.solution.Pressure(plan_, pipe.EndPoint))
+                    .value;
             double& kept = state_.meanPressure[i];
             moved_[i] = moved_[i] || mean != kept;
             if (std::abs(mean - kept) / kept > kMeanPressureTolerance) atRest = false;
@@ -143,9 +134,9 @@ FirstStage RunFirstStage(const Settings& settings, const NetworkPlan& plan, cons
 double MeanGivenPressure(const WorkNetwork& work) {
     double sum = 0;
     int given = 0;
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        if (!work.WorkPoints[i].IsDrawn() || work.WorkPressureUnknown[i]) continue;
-        sum += work.WorkPoints[i].Pressure;
+    for (const auto [i, point] : DrawnPoints(work)) {
+        if (work.WorkPressureUnknown[i]) continue;
+        sum += point.Pressure;
         ++given;
     }
     return given == 0 ? 0 : sum / given;

@@ -17,13 +17,15 @@ using FlowGuesses = std::array<double, kMaxPipes + 1>;
 constexpr int kPassLimit = 50;            ///< the loop ends when it has gone beyond
 constexpr float kTotalTolerance = 1e-4F;  ///< on the summed relative residual
 
-using PassReport = std::function<void(int pass, double residual)>;
+/// Called after each pass, with 0 for the residual where none is measured; false stops the run.
+using PassReport = std::function<bool(int pass, double residual)>;
 
 /// Where the first stage ended: near the solution, as a rule.
 struct FirstStage {
     int passes = 0;
     bool finite = true;
     bool settled = false;  ///< by its own residuals
+    bool stopped = false;
     Solution solution;
 };
 

@@ -22,10 +22,6 @@ ByEndPressures MeanPressureAt(const Settings& settings, double start, double end
     return start > end ? ByEndPressures{least, 0.5, 0} : ByEndPressures{least, 0, 0.5};
 }
 
-double MeanAbsolutePressure(const Settings& settings, double start, double end) {
-    return MeanPressureAt(settings, start, end).value;
-}
-
 double GasDensity(const Settings& settings, double pressure) {
     const double kelvin = settings.FluidTemperature + kCelsiusToKelvin;
     return settings.FluidDensity * (pressure / kAtmosphere) * (kCelsiusToKelvin / kelvin) /

@@ -15,7 +15,6 @@ struct ByEndPressures {
 /// Absolute mean pressure of a pipe's ends in Pa for the gas law, from two pressures as the
 /// project holds them; no less than half of the higher end's, nor than 1000 Pa.
 ByEndPressures MeanPressureAt(const Settings& settings, double start, double end);
-double MeanAbsolutePressure(const Settings& settings, double start, double end);
 
 /// Density in kg/m3 of a gas at an absolute pressure in Pa and the fluid's temperature: its
 /// molar mass follows from its density at 0 degrees Celsius and 101325 Pa.

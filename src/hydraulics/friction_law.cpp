@@ -9,7 +9,6 @@ namespace {
 
 constexpr double kExplicitEnd = 4950;  ///< Re; narrower, the drop would fall between the two
 constexpr double kColebrookStart = 5050;
-constexpr double kPerDecade = 4 / std::numbers::ln10;  ///< of Colebrook's natural logarithm
 constexpr double kLastStep = 1e-5;  ///< relative; the step after it is below rounding
 
 /// 1 / sqrt(f) and its derivative by ln(Re).
@@ -31,15 +30,15 @@ InverseRoot ColebrookRoot(double reynolds, double relativeRoughness) {
     double x = ExplicitRoot(reynolds, relativeRoughness).value;
     for (int pass = 0; pass < 20; ++pass) {
         const double argument = a + b * x;
-        const double misfit = x + kPerDecade * std::log(argument) - 3.48;
-        const double pull = kPerDecade * b / argument;
+        const double misfit = x + kPerLog * std::log(argument) - 3.48;
+        const double pull = kPerLog * b / argument;
         const double first = 1 + pull;
         const double second = -pull * b / argument;
         const double step = misfit / (first - misfit * second / (2 * first));
         x -= step;
         if (std::abs(step) <= kLastStep * x) break;
     }
-    const double pull = kPerDecade * b / (a + b * x);
+    const double pull = kPerLog * b / (a + b * x);
     return {x, pull * x / (1 + pull)};
 }
 

@@ -27,29 +27,23 @@ class Parts {
 
 int PipeWithoutGivenPressure(const NetworkPlan& plan, const WorkNetwork& work) {
     Parts parts;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (pipe.IsDrawn()) parts.Join(pipe.StartPoint, pipe.EndPoint);
-    }
+    for (const auto [i, pipe] : DrawnPipes(work)) parts.Join(pipe.StartPoint, pipe.EndPoint);
     for (const Component& component : plan.components) parts.Join(component.high, component.low);
 
     std::array<bool, kMaxPoints + 1> hasPressure{};
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        if (work.WorkPoints[i].IsDrawn() && !work.WorkPressureUnknown[i]) {
-            hasPressure[parts.Of(i)] = true;
-        }
+    for (const auto [i, point] : DrawnPoints(work)) {
+        if (!work.WorkPressureUnknown[i]) hasPressure[parts.Of(i)] = true;
     }
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (pipe.IsDrawn() && !hasPressure[parts.Of(pipe.StartPoint)]) return i;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!hasPressure[parts.Of(pipe.StartPoint)]) return i;
     }
     return 0;
 }
 
 bool IsOverdetermined(const WorkNetwork& work, int number) {
     const PipeRec& pipe = work.WorkPipes[number];
-    return pipe.IsDrawn() && !work.WorkFlowUnknown[number] &&
-           !work.WorkPressureUnknown[pipe.StartPoint] && !work.WorkPressureUnknown[pipe.EndPoint];
+    return !work.WorkFlowUnknown[number] && !work.WorkPressureUnknown[pipe.StartPoint] &&
+           !work.WorkPressureUnknown[pipe.EndPoint];
 }
 
 }  // namespace idrova

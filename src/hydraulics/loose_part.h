@@ -11,7 +11,7 @@ namespace idrova {
 /// solver only sees when its last pivot happens to come out as an exact zero.
 int PipeWithoutGivenPressure(const NetworkPlan& plan, const WorkNetwork& work);
 
-/// True when flow and both end pressures of a drawn pipe are given: one of the three is too many.
+/// True when flow and both end pressures of a pipe are given: one of the three is too many.
 bool IsOverdetermined(const WorkNetwork& work, int number);
 
 }  // namespace idrova

@@ -33,8 +33,8 @@ EndPoints PointsInCell(const WorkNetwork& work, int cell) {
 
 int LastPipeAt(const WorkNetwork& work, int point) {
     int last = 0;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (work.WorkPipes[i].IsDrawn() && work.WorkPipes[i].IsEnd(point)) last = i;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (pipe.IsEnd(point)) last = i;
     }
     return last;
 }
@@ -79,15 +79,8 @@ Component PlanComponent(const WorkComponent& placed, const WorkNetwork& work) {
     return component;
 }
 
-void CountPipe(const PipeRec& pipe, NetworkPlan& plan) {
-    ++plan.pipesAtPoint[pipe.StartPoint];
-    if (pipe.EndPoint != pipe.StartPoint) ++plan.pipesAtPoint[pipe.EndPoint];
-}
-
 void NumberPipes(const WorkNetwork& work, NetworkPlan& plan) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (!work.WorkPipes[i].IsDrawn()) continue;
-        CountPipe(work.WorkPipes[i], plan);
+    for (const auto [i, pipe] : DrawnPipes(work)) {
         plan.flowUnknown[i] = ++plan.unknowns;
         ++plan.equations;
         if (!work.WorkFlowUnknown[i]) ++plan.knownTerms;
@@ -95,12 +88,31 @@ void NumberPipes(const WorkNetwork& work, NetworkPlan& plan) {
 }
 
 void NumberPoints(const WorkNetwork& work, NetworkPlan& plan) {
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        if (plan.pipesAtPoint[i] > 1) ++plan.equations;
-        if (!work.WorkPoints[i].IsDrawn()) continue;
+    for (const auto [i, point] : DrawnPoints(work)) {
         plan.pressureUnknown[i] = ++plan.unknowns;
         if (!work.WorkPressureUnknown[i]) ++plan.knownTerms;
     }
+}
+
+/// A pipe that returns to its own start adds nothing to the balance there.
+void PlanJunctions(const WorkNetwork& work, NetworkPlan& plan) {
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        ++plan.pipesAtPoint[pipe.StartPoint];
+        if (pipe.EndPoint != pipe.StartPoint) ++plan.pipesAtPoint[pipe.EndPoint];
+    }
+    std::array<int, kMaxPoints + 1> junctionAt{};
+    for (int i = 1; i <= work.WorkPointCount; ++i) {
+        if (plan.pipesAtPoint[i] > 1) junctionAt[i] = ++plan.junctions;
+    }
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (pipe.StartPoint == pipe.EndPoint) continue;
+        for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
+            if (junctionAt[point] == 0) continue;
+            plan.junctionTerms.push_back(
+                {junctionAt[point], i, pipe.FlowFromPoint == point ? -1 : 1});
+        }
+    }
+    plan.equations += plan.junctions;
 }
 
 }  // namespace
@@ -109,6 +121,7 @@ NetworkPlan PlanNetwork(const WorkNetwork& work) {
     NetworkPlan plan;
     NumberPipes(work, plan);
     NumberPoints(work, plan);
+    PlanJunctions(work, plan);
     for (const WorkComponent& placed : work.WorkComponents) {
         plan.components.push_back(PlanComponent(placed, work));
         plan.equations += 2;

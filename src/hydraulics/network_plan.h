@@ -20,6 +20,13 @@ struct Component {
                           ///< from upstream to downstream (loss)
 };
 
+/// The flow of a pipe in the balance of a junction: the sum of all such terms is 0.
+struct JunctionTerm {
+    int junction = 0;  ///< from 1
+    int pipe = 0;
+    int sign = 1;  ///< +1 when a positive flow reaches the junction
+};
+
 /// What stays the same through a run: the numbers of the unknowns, the counts, the components.
 struct NetworkPlan {
     std::array<int, kMaxPipes + 1> flowUnknown{};       ///< of each drawn pipe, from 1; else 0
@@ -28,7 +35,9 @@ struct NetworkPlan {
     int unknowns = 0;
     int equations = 0;
     int knownTerms = 0;
-    std::vector<Component> components;  ///< one for each of the working network, in its order
+    int junctions = 0;                        ///< points in which several drawn pipes end
+    std::vector<JunctionTerm> junctionTerms;  ///< by pipe
+    std::vector<Component> components;        ///< one for each of the working network, in its order
 
     int Order() const { return equations + knownTerms; }
 };

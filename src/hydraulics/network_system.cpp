@@ -26,15 +26,15 @@ class Assembly {
 
     void Run() {
         system_.Clear();
-        ForDrawnPipes([this](int i) {
-            if (!work_.WorkFlowUnknown[i]) KnownFlowLaw(i);
-        });
-        ForDrawnPipes([this](int i) {
-            if (work_.WorkFlowUnknown[i]) UnknownFlowLaw(i);
-        });
-        ForDrawnPipes([this](int i) {
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            if (!work_.WorkFlowUnknown[i]) KnownFlowLaw(i, pipe);
+        }
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            if (work_.WorkFlowUnknown[i]) UnknownFlowLaw(i, pipe);
+        }
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
             if (!work_.WorkFlowUnknown[i]) KnownFlow(i);
-        });
+        }
         KnownPressures();
         Continuity();
         for (const Component& component : plan_.components) {
@@ -44,13 +44,6 @@ class Assembly {
     }
 
   private:
-    template <typename Visit>
-    void ForDrawnPipes(Visit visit) {
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            if (work_.WorkPipes[i].IsDrawn()) visit(i);
-        }
-    }
-
     void Add(int unknown, double coefficient) { system_.Add(row_, unknown, coefficient); }
     void AddRight(double term) { system_.AddRight(row_, term); }
 
@@ -88,23 +81,19 @@ class Assembly {
 
     /// pS - pT = s drop + rho g (zT - zS). With both pressures given the row stays without
     /// coefficients, which makes the system singular: one of the three is too many.
-    void KnownFlowLaw(int i) {
+    void KnownFlowLaw(int i, const PipeRec& pipe) {
         ++row_;
-        const PipeRec& pipe = work_.WorkPipes[i];
         const PipeEnds ends = EndsOf(pipe);
         AddRight(Hydrostatic(pipe));
         if (ends.startUnknown == 0 && ends.endUnknown == 0) return;
-        double flow = pipe.FlowRate;
-        const double drop = PipeDrop(settings_, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                                     state_.meanPressure[i]);
+        const double drop = DropWithLosses(settings_, pipe, pipe.FlowRate, state_.meanPressure[i]);
         PressureDifference(ends);
         AddRight(pipe.DirectionSign() * drop);
     }
 
     /// pS - pT - s R q = rho g (zT - zS); multiplied by s when both pressures are given.
-    void UnknownFlowLaw(int i) {
+    void UnknownFlowLaw(int i, const PipeRec& pipe) {
         ++row_;
-        const PipeRec& pipe = work_.WorkPipes[i];
         const PipeEnds ends = EndsOf(pipe);
         const int s = pipe.DirectionSign();
         const double resistance = state_.resistance[i];
@@ -127,30 +116,20 @@ class Assembly {
     }
 
     void KnownPressures() {
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (!work_.WorkPoints[i].IsDrawn() || work_.WorkPressureUnknown[i]) continue;
+        for (const auto [i, point] : DrawnPoints(work_)) {
+            if (work_.WorkPressureUnknown[i]) continue;
             ++row_;
             Add(plan_.pressureUnknown[i], 1);
-            AddRight(work_.WorkPoints[i].Pressure);
+            AddRight(point.Pressure);
         }
     }
 
     /// The sum of the flows that reach a junction is 0.
     void Continuity() {
-        std::array<int, kMaxPoints + 1> rowOf{};
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (plan_.pipesAtPoint[i] > 1) rowOf[i] = ++row_;
+        for (const JunctionTerm& term : plan_.junctionTerms) {
+            system_.Add(row_ + term.junction, plan_.flowUnknown[term.pipe], term.sign);
         }
-        const int next = row_;
-        ForDrawnPipes([&](int i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (pipe.StartPoint == pipe.EndPoint) return;
-            for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
-                row_ = rowOf[point];
-                if (row_ != 0) Add(plan_.flowUnknown[i], pipe.FlowFromPoint == point ? -1 : 1);
-            }
-        });
-        row_ = next;
+        row_ += plan_.junctions;
     }
 
     void ComponentPressure(const Component& component) {

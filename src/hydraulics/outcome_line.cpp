@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include <algorithm>
 #include <cmath>
 
 #include "base/number_text.h"
@@ -13,12 +14,16 @@ std::string WorstPipe(const Outcome& outcome) {
     return ": pipe " + GeneralText(outcome.worstPipe) + ", " + PercentText(outcome.worstResidual);
 }
 
-std::string NoteCount(std::size_t notes) {
+std::string NoteCount(int notes) {
     if (notes == 0) return "";
-    return ", " + GeneralText(static_cast<int>(notes)) + (notes == 1 ? " note" : " notes");
+    return ", " + GeneralText(notes) + (notes == 1 ? " note" : " notes");
 }
 
 }  // namespace
+
+int WarningCount(const Outcome& outcome) {
+    return static_cast<int>(std::ranges::count(outcome.notes, NoteWeight::Warning, &Note::weight));
+}
 
 std::string OutcomeLine(const Outcome& outcome) {
     switch (outcome.end) {
@@ -29,7 +34,7 @@ std::string OutcomeLine(const Outcome& outcome) {
         case RunEnd::Stopped:
             return "Stopped";
         case RunEnd::Settled:
-            return "Computed" + NoteCount(outcome.notes.size());
+            return "Computed" + NoteCount(WarningCount(outcome));
         case RunEnd::Unsettled:
             return "Not settled" + WorstPipe(outcome);
         case RunEnd::Singular:

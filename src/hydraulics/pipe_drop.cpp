@@ -12,7 +12,6 @@ namespace {
 constexpr double kRegimeThreshold = 5000;
 constexpr int kMaxFrictionPasses = 1000;
 constexpr double kFrictionTolerance = 1e-5;
-constexpr double kPerLog = 4 / std::numbers::ln10;  ///< 4 log10(x) over ln(x)
 
 double ExplicitArgument(double reynolds, double relativeRoughness) {
     return 10 / reynolds + 0.2 * relativeRoughness;
@@ -63,6 +62,10 @@ SectionSize SectionGeometry(const Settings& settings, double d1, double d2) {
         diameter = 1.3 * std::pow(d1 * d2, 0.625) / std::pow(d1 + d2, 0.25);
     }
     return {kPi * (diameter / 2) * (diameter / 2), diameter};
+}
+
+SectionSize SectionOf(const Settings& settings, const PipeRec& pipe) {
+    return SectionGeometry(settings, pipe.Diameter, pipe.OuterSize);
 }
 
 double ReynoldsNumber(const Settings& settings, const SectionSize& section, double flow) {

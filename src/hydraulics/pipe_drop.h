@@ -1,15 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/settings.h"
+#include <numbers>
+
+#include "model/project.h"
 
 namespace idrova {
 
 /// The pi of every circular area in the program, four decimals.
 constexpr double kPi = 3.1415;
 
-constexpr double kAtmosphere = 101325.0;  ///< Pa absolute, where a gauge pressure is 0
+constexpr double kAtmosphere = kPascalPerBar;  ///< Pa absolute, where a gauge pressure is 0
 constexpr double kCelsiusToKelvin = 273.15;
+
+constexpr double kPerLog = 4 / std::numbers::ln10;  ///< 4 log10(x), as Colebrook has it, over ln(x)
 
 /// Natural logarithm over ln 10.
 double Log10(double x);
@@ -22,6 +26,9 @@ struct SectionSize {
 /// Flow area and hydraulic diameter of a pipe of diameter `d1` or sides `d1` x `d2` (m). A
 /// rectangle counts as the circle of Huebscher's equal-friction diameter (1948), area included.
 SectionSize SectionGeometry(const Settings& settings, double d1, double d2);
+
+/// Of a pipe, by its own sizes.
+SectionSize SectionOf(const Settings& settings, const PipeRec& pipe);
 
 /// Reynolds number of a mass flow (kg/s), never negative.
 double ReynoldsNumber(const Settings& settings, const SectionSize& section, double flow);

@@ -28,24 +28,29 @@ PressureLaw WithColumn(const PipeRec& pipe, const LawAt& drop, const ByEndPressu
 
 }  // namespace
 
-PressureLaw PipeLaw(const Settings& settings, const PipeRec& pipe, double lossSum, double flow,
-                    double start, double end) {
-    const SectionSize section = SectionGeometry(settings, pipe.Diameter, pipe.OuterSize);
+PressureLaw PipeLaw(const Settings& settings, const PipeRec& pipe, double flow, double start,
+                    double end) {
+    const SectionSize section = SectionOf(settings, pipe);
     const LawAt friction = FrictionLaw(settings, section, pipe.Length, flow);
-    const LawAt losses = LossLaw(lossSum, section.area, flow);
+    const LawAt losses = LossLaw(pipe.LossSum, section.area, flow);
     return WithColumn(pipe, {friction.value + losses.value, friction.slope + losses.slope},
                       DensityAt(settings, start, end));
 }
 
-PressureLaw GivenFlowLaw(const Settings& settings, const PipeRec& pipe, double lossSum,
-                         double start, double end) {
-    const double flow = std::abs(pipe.FlowRate);
-    const double area = SectionGeometry(settings, pipe.Diameter, pipe.OuterSize).area;
+PressureLaw GivenFlowLaw(const Settings& settings, const PipeRec& pipe, double start, double end) {
     const ByEndPressures density = DensityAt(settings, start, end);
-    const double friction = PipeDrop(settings, pipe.Diameter, pipe.OuterSize, flow, pipe.Length,
-                                     MeanAbsolutePressure(settings, start, end)) *
-                            density.value;
-    return WithColumn(pipe, {friction + LossLaw(lossSum, area, flow).value, 0}, density);
+    const double drop =
+        DropWithLosses(settings, pipe, pipe.FlowRate, MeanPressureAt(settings, start, end).value);
+    return WithColumn(pipe, {drop * density.value, 0}, density);
+}
+
+double DropWithLosses(const Settings& settings, const PipeRec& pipe, double flow,
+                      double meanPressure) {
+    const bool gas = settings.EquationType == Equation::Compressible;
+    const double density = gas ? GasDensity(settings, meanPressure) : settings.FluidDensity;
+    const double area = SectionOf(settings, pipe).area;
+    return PipeDrop(settings, pipe.Diameter, pipe.OuterSize, flow, pipe.Length, meanPressure) +
+           LossLaw(pipe.LossSum, area, std::abs(flow)).value / density;
 }
 
 }  // namespace idrova

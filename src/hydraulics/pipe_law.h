@@ -15,14 +15,18 @@ struct PressureLaw {
     double byEnd = 0;
 };
 
-/// p(start) - p(end) of a pipe: friction, its own losses and the weight of its column. `flow` in
-/// kg/s from the pipe's `FlowFromPoint`, pressures in Pa as the project holds them. `lossSum` is
-/// the sum of the loss coefficients of the pipe's own fittings, on the velocity in the pipe.
-PressureLaw PipeLaw(const Settings& settings, const PipeRec& pipe, double lossSum, double flow,
-                    double start, double end);
+/// p(start) - p(end) of a pipe: friction, the losses of its own fittings, on the velocity in the
+/// pipe, and the weight of its column. `flow` in kg/s from the pipe's `FlowFromPoint`, pressures in
+/// Pa as the project holds them.
+PressureLaw PipeLaw(const Settings& settings, const PipeRec& pipe, double flow, double start,
+                    double end);
 
 /// The same at the pipe's given flow, without its sign; the friction is `PipeDrop`'s.
-PressureLaw GivenFlowLaw(const Settings& settings, const PipeRec& pipe, double lossSum,
-                         double start, double end);
+PressureLaw GivenFlowLaw(const Settings& settings, const PipeRec& pipe, double start, double end);
+
+/// `PipeDrop` and what the pipe's own fittings take, Pa, at a flow in kg/s of either sign and a
+/// mean absolute pressure in Pa.
+double DropWithLosses(const Settings& settings, const PipeRec& pipe, double flow,
+                      double meanPressure);
 
 }  // namespace idrova

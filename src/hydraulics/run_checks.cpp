@@ -7,7 +7,9 @@
 #include "base/number_text.h"
 #include "hydraulics/fluid_density.h"
 #include "hydraulics/linear_system.h"
+#include "hydraulics/loose_part.h"
 #include "hydraulics/pipe_drop.h"
+#include "hydraulics/pipe_law.h"
 
 namespace idrova {
 namespace {
@@ -20,8 +22,8 @@ bool IsCoherent(const Settings& settings, const PipeRec& pipe, const PointRec& s
     const double given = static_cast<double>(start.Pressure) - end.Pressure;
     const double computed =
         pipe.DirectionSign() *
-        PipeDrop(settings, pipe.Diameter, pipe.OuterSize, pipe.FlowRate, pipe.Length,
-                 MeanAbsolutePressure(settings, start.Pressure, end.Pressure));
+        DropWithLosses(settings, pipe, pipe.FlowRate,
+                       MeanPressureAt(settings, start.Pressure, end.Pressure).value);
     if (given == 0) return std::abs(computed) <= kCoherenceAtRest;
     return std::abs(computed - given) / std::abs(given) <= kCoherence;
 }
@@ -45,9 +47,7 @@ std::optional<Refusal> CheckFluid(const Settings& settings) {
 }
 
 std::optional<Refusal> CheckPipeData(const Settings& settings, const WorkNetwork& work) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
         if (pipe.Length <= 0) return Refusal{RefusalKind::ZeroLength, {i}};
         if (HasNoSize(settings, pipe)) return Refusal{RefusalKind::ZeroDiameter, {i}};
     }
@@ -66,16 +66,11 @@ std::optional<Refusal> CheckCounts(const NetworkPlan& plan) {
 
 std::optional<Refusal> CheckCoherence(const Settings& settings, const WorkNetwork& work) {
     Refusal refusal{RefusalKind::Incoherent};
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn() || work.WorkFlowUnknown[i]) continue;
-        if (work.WorkPressureUnknown[pipe.StartPoint]) continue;
-        if (work.WorkPressureUnknown[pipe.EndPoint]) continue;
-        if (IsCoherent(settings, pipe, work.WorkPoints[pipe.StartPoint],
-                       work.WorkPoints[pipe.EndPoint])) {
-            continue;
-        }
-        refusal.pipes.push_back(i);
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!IsOverdetermined(work, i)) continue;
+        const PointRec& start = work.WorkPoints[pipe.StartPoint];
+        const PointRec& end = work.WorkPoints[pipe.EndPoint];
+        if (!IsCoherent(settings, pipe, start, end)) refusal.pipes.push_back(i);
     }
     if (refusal.pipes.empty()) return std::nullopt;
     return refusal;

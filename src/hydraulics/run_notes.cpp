@@ -7,6 +7,8 @@
 
 #include "base/number_text.h"
 #include "hydraulics/component_law.h"
+#include "hydraulics/fluid_density.h"
+#include "hydraulics/friction_law.h"
 #include "hydraulics/loose_part.h"
 #include "hydraulics/pipe_drop.h"
 #include "hydraulics/run_results.h"
@@ -15,7 +17,10 @@
 namespace idrova {
 namespace {
 
-constexpr double kRoughest = 0.05;  ///< of the diameter: what the friction formulas were made for
+constexpr double kRoughest = 0.05;    ///< of the diameter: what the friction formulas were made for
+constexpr double kFastest = 0.3;      ///< of the speed of sound, from where a gas's inertia counts
+constexpr double kLaminarEnd = 2300;  ///< Re
+constexpr double kNegligibleDrop = 0.01;  ///< of the largest
 
 using Notes = std::vector<Note>;
 
@@ -23,28 +28,33 @@ Note OnPipe(int pipe, const std::string& before, const std::string& after) {
     return {before + GeneralText(pipe) + after, NoteOn::Pipe, pipe};
 }
 
-Note OnCell(int cell, const std::string& before, const std::string& after) {
-    return {before + GeneralText(cell) + after, NoteOn::Cell, cell};
+/// A component by the place that the headers of the drawing give it.
+Note OnCell(const WorkNetwork& work, int cell, const std::string& what, const std::string& after) {
+    const int column = (cell - 1) % work.GridSize + 1;
+    const int row = (cell - 1) / work.GridSize + 1;
+    return {what + " in column " + GeneralText(column) + ", row " + GeneralText(row) + after,
+            NoteOn::Cell, cell};
 }
 
 void NoteUnsettled(const WorkNetwork& work, const StageResult& result, Notes& notes) {
     std::vector<std::pair<double, Note>> unsettled;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeResidual& pipe = result.pipes[i];
-        if (pipe.belowVacuum || pipe.settled) continue;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        const PipeResidual& residual = result.pipes[i];
+        if (residual.belowVacuum || residual.settled) continue;
         unsettled.emplace_back(
-            pipe.relative, OnPipe(i, "Pipe ", " has not settled: " + PercentText(pipe.relative)));
+            residual.relative,
+            OnPipe(i, "Pipe ", " has not settled: " + PercentText(residual.relative)));
     }
     for (const auto& [cell, relative] : result.unsettledComponents) {
-        unsettled.emplace_back(relative, OnCell(cell, "The component in cell ",
+        unsettled.emplace_back(relative, OnCell(work, cell, "The component",
                                                 " has not settled: " + PercentText(relative)));
     }
     std::ranges::stable_sort(unsettled, std::greater(), &std::pair<double, Note>::first);
     for (auto& [relative, note] : unsettled) notes.push_back(std::move(note));
 }
 
-void NoteGivenFlow(const WorkNetwork& work, int i, Notes& notes) {
-    if (work.WorkPipes[i].FlowRate < 0 && !work.WorkFlowUnknown[i]) {
+void NoteGivenFlow(const WorkNetwork& work, int i, const PipeRec& pipe, Notes& notes) {
+    if (pipe.FlowRate < 0 && !work.WorkFlowUnknown[i]) {
         notes.push_back(
             OnPipe(i, "Pipe ", " has a negative flow given, which was taken as positive"));
     }
@@ -56,9 +66,8 @@ void NoteGivenFlow(const WorkNetwork& work, int i, Notes& notes) {
 }
 
 void NotePipes(const WorkNetwork& work, const StageResult& result, Notes& notes) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (!work.WorkPipes[i].IsDrawn()) continue;
-        NoteGivenFlow(work, i, notes);
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        NoteGivenFlow(work, i, pipe, notes);
         if (result.pipes[i].belowVacuum) {
             notes.push_back(OnPipe(i, "The gas in pipe ", " would fall below a vacuum"));
         }
@@ -68,10 +77,12 @@ void NotePipes(const WorkNetwork& work, const StageResult& result, Notes& notes)
 /// The narrowest pipe, if its wall is too rough for the friction formulas.
 void NoteRoughness(const Settings& settings, const WorkNetwork& work, Notes& notes) {
     int narrowest = 0;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn() || settings.Roughness <= kRoughest * pipe.Diameter) continue;
-        if (narrowest == 0 || pipe.Diameter < work.WorkPipes[narrowest].Diameter) narrowest = i;
+    double least = settings.Roughness / kRoughest;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        const double diameter = SectionOf(settings, pipe).hydraulicDiameter;
+        if (diameter >= least) continue;
+        least = diameter;
+        narrowest = i;
     }
     if (narrowest == 0) return;
     notes.push_back(
@@ -84,8 +95,8 @@ void NoteVacuum(const Settings& settings, const NetworkPlan& plan, const WorkNet
     if (settings.EquationType == Equation::Compressible) return;
     int lowest = 0;
     double least = -kAtmosphere - settings.BasePressure;
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        if (!work.WorkPoints[i].IsDrawn() || result.Pressure(plan, i) >= least) continue;
+    for (const auto [i, point] : DrawnPoints(work)) {
+        if (result.Pressure(plan, i) >= least) continue;
         least = result.Pressure(plan, i);
         lowest = i;
     }
@@ -108,9 +119,7 @@ struct Heights {
 
 void NoteHeights(const WorkNetwork& work, Notes& notes) {
     std::array<Heights, kMaxPoints + 1> heights;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
         heights[pipe.StartPoint].Add(pipe.Z1);
         heights[pipe.EndPoint].Add(pipe.Z2);
     }
@@ -123,28 +132,101 @@ void NoteHeights(const WorkNetwork& work, Notes& notes) {
     }
 }
 
-void NotePump(const Component& component, double flow, Notes& notes) {
+void NotePump(const WorkNetwork& work, const Component& component, double flow, Notes& notes) {
     CellRec pump = component.record;
     pump.Result = ToSingle(flow);
+    const auto add = [&](const std::string& what, const std::string& after) {
+        notes.push_back(OnCell(work, component.cell, what, after));
+    };
     if (component.throughSign * flow < 0) {
-        notes.push_back(OnCell(component.cell, "The pump in cell ", " runs backwards"));
+        add("The pump", " runs backwards");
     } else if (!IsInRange(pump)) {
-        notes.push_back(OnCell(component.cell, "The pump in cell ", " works out of its range"));
+        add("The pump", " works out of its range");
     }
     if (OpensUpwards(pump)) {
-        notes.push_back(OnCell(component.cell, "The curve of the pump in cell ",
-                               " opens upwards: there may be two working points"));
+        add("The curve of the pump", " opens upwards: there may be two working points");
     }
 }
 
-void NoteComponent(const Settings& settings, const Component& component, const PipeRec& pipeA,
+void NoteComponent(const Settings& settings, const WorkNetwork& work, const Component& component,
                    double flow, Notes& notes) {
     const CellRec& cell = component.record;
     if (!cell.Placed) return;
-    if (cell.Kind == CellKind::Pump) return NotePump(component, flow, notes);
-    if (cell.Param2 == 0 || std::abs(flow) >= FullDropFlow(settings, pipeA)) return;
-    notes.push_back(OnCell(component.cell, "The fixed drop in cell ",
+    if (cell.Kind == CellKind::Pump) return NotePump(work, component, flow, notes);
+    if (cell.Param2 == 0) return;
+    if (std::abs(flow) >= FullDropFlow(settings, work.WorkPipes[component.pipeA])) return;
+    notes.push_back(OnCell(work, component.cell, "The fixed drop",
                            " holds the flow still: less than it is there to drive the flow"));
+}
+
+/// At the end where the gas is thinner, with sound at constant temperature: the isothermal law
+/// leaves out a drop by about the square of it.
+double SpeedOfSoundShare(const Settings& settings, const PipeRec& pipe, double flow,
+                         double lowerEnd) {
+    const double pressure = kAtmosphere + settings.BasePressure + lowerEnd;
+    const double density = GasDensity(settings, pressure);
+    return std::abs(flow) / SectionOf(settings, pipe).area / std::sqrt(pressure * density);
+}
+
+/// The fastest pipe of a gas, where its inertia counts.
+void NoteMach(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+              const StageResult& result, Notes& notes) {
+    if (settings.EquationType != Equation::Compressible) return;
+    int fastest = 0;
+    double most = kFastest;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (result.pipes[i].belowVacuum) continue;
+        const double lower =
+            std::min(result.Pressure(plan, pipe.StartPoint), result.Pressure(plan, pipe.EndPoint));
+        const double share = SpeedOfSoundShare(settings, pipe, result.Flow(plan, i), lower);
+        if (!(share > most)) continue;
+        most = share;
+        fastest = i;
+    }
+    if (fastest == 0) return;
+    notes.push_back(OnPipe(fastest, "The gas in pipe ",
+                           " reaches " + PercentText(most) +
+                               " of the speed of sound: above 30 % its inertia, which is left"
+                               " out, counts"));
+}
+
+/// The friction formula over the laminar law, less 1, where a pipe is laminar; else 0. Where the
+/// flow is unknown the drop below Re 50 is proportional to it, as that of the law is.
+double LaminarDeviation(const Settings& settings, const PipeRec& pipe, double flow, bool unknown) {
+    const SectionSize section = SectionOf(settings, pipe);
+    if (flow == 0 || ReynoldsNumber(settings, section, flow) >= kLaminarEnd) return 0;
+    double q = std::abs(flow);
+    if (unknown) q = std::max(q, FlowAtReynolds(settings, section, kCreepingReynolds));
+    return FrictionFactor(settings, pipe.Diameter, pipe.OuterSize, q) *
+               ReynoldsNumber(settings, section, q) / 16 -
+           1;
+}
+
+/// Of the laminar pipes that count, how many there are and which is farthest off.
+void NoteLaminar(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
+                 const StageResult& result, Notes& notes) {
+    int count = 0;
+    int farthest = 0;
+    double most = 0;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!(result.pipes[i].drop > kNegligibleDrop * result.largestDrop)) continue;
+        const double off =
+            LaminarDeviation(settings, pipe, result.Flow(plan, i), work.WorkFlowUnknown[i]);
+        if (off == 0) continue;
+        ++count;
+        if (std::abs(off) <= std::abs(most)) continue;
+        most = off;
+        farthest = i;
+    }
+    if (count == 0) return;
+    const bool alone = count == 1;
+    Note note = OnPipe(farthest, "The flow in pipe ",
+                       (alone ? "" : ", and in " + GeneralText(count - 1) + " more,") +
+                           " is laminar (Re below 2300): the friction formula gives " +
+                           (alone ? "" : "up to ") + PercentText(std::abs(most)) +
+                           (most < 0 ? " less" : " more") + " than the laminar law");
+    note.weight = NoteWeight::Remark;
+    notes.push_back(note);
 }
 
 void NoteNetwork(const NetworkPlan& plan, const WorkNetwork& work, const StageResult& result,
@@ -171,15 +253,18 @@ std::vector<Note> ResultNotes(const Settings& settings, const NetworkPlan& plan,
     Notes notes;
     NoteUnsettled(work, result, notes);
     NoteNetwork(plan, work, result, notes);
-    NoteVacuum(settings, plan, work, result, notes);
+    if (result.finite) NoteVacuum(settings, plan, work, result, notes);
     NotePipes(work, result, notes);
-    for (const Component& component : plan.components) {
-        if (component.pipeA == 0) continue;
-        NoteComponent(settings, component, work.WorkPipes[component.pipeA],
-                      result.Flow(plan, component.pipeA), notes);
+    if (result.finite) {
+        NoteMach(settings, plan, work, result, notes);
+        for (const Component& component : plan.components) {
+            if (component.pipeA == 0) continue;
+            NoteComponent(settings, work, component, result.Flow(plan, component.pipeA), notes);
+        }
     }
     NoteHeights(work, notes);
     NoteRoughness(settings, work, notes);
+    if (result.finite) NoteLaminar(settings, plan, work, result, notes);
     return notes;
 }
 

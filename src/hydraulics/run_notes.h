@@ -13,7 +13,8 @@
 namespace idrova {
 
 /// What the user should know of the data and the solution: first what has not settled, the worst
-/// before the others. To be called before the results replace the given values.
+/// before the others, last what is only a remark. To be called before the results replace the given
+/// values.
 std::vector<Note> ResultNotes(const Settings& settings, const NetworkPlan& plan,
                               const WorkNetwork& work, const StageResult& result);
 

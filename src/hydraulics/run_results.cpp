@@ -26,9 +26,8 @@ void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const W
     const FlowScale scale = FlowScaleOf(settings, plan, work, result.solution);
     const double negligible = kNegligibleFlow * scale.largest + scale.rounding;
     const double weight = settings.FluidDensity * kGravity;
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn() || !work.WorkFlowUnknown[i]) continue;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!work.WorkFlowUnknown[i]) continue;
         const double start = result.Pressure(plan, pipe.StartPoint) + weight * pipe.Z1;
         const double end = result.Pressure(plan, pipe.EndPoint) + weight * pipe.Z2;
         if (RelativeDifference(start, end) >= kSameHead) continue;
@@ -38,13 +37,9 @@ void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const W
 }
 
 void StoreResults(const NetworkPlan& plan, WorkNetwork& work, const StageResult& result) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        PipeRec& pipe = work.WorkPipes[i];
-        if (pipe.IsDrawn()) pipe.FlowRate = ToSingle(result.Flow(plan, i));
-    }
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        PointRec& point = work.WorkPoints[i];
-        if (point.IsDrawn()) point.Pressure = ToSingle(result.Pressure(plan, i));
+    for (const auto [i, pipe] : DrawnPipes(work)) pipe.FlowRate = ToSingle(result.Flow(plan, i));
+    for (const auto [i, point] : DrawnPoints(work)) {
+        point.Pressure = ToSingle(result.Pressure(plan, i));
     }
     for (std::size_t i = 0; i < plan.components.size(); ++i) {
         const int pipeA = plan.components[i].pipeA;
@@ -68,9 +63,7 @@ std::vector<int> PumpsOutOfRange(const WorkNetwork& work) {
 
 float AddBasePressure(const Settings& settings, WorkNetwork& work) {
     float lowest = 0;
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        PointRec& point = work.WorkPoints[i];
-        if (!point.IsDrawn()) continue;
+    for (const auto [i, point] : DrawnPoints(work)) {
         point.Pressure += settings.BasePressure;
         lowest = std::min(lowest, point.Pressure);
     }

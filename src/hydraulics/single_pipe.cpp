@@ -84,6 +84,7 @@ void BuildSinglePipeNetwork(const SinglePipe& pipe, WorkNetwork& work) {
     record.FlowRate = ToSingle(pipe.flowRate);
     record.Length = ToSingle(pipe.length);
     record.Diameter = ToSingle(pipe.diameter);
+    record.LossSum = ToSingle(pipe.lossSum);
     record.StartPoint = 1;
     record.EndPoint = 2;
     record.FlowFromPoint = pipe.direction == FlowDirection::From1To2 ? 1 : 2;

@@ -24,6 +24,7 @@ struct SinglePipe {
     double length = 0;     ///< m
     double flowRate = 0;   ///< kg/s, positive along `direction`
     double diameter = 0;   ///< inside, m
+    double lossSum = 0;    ///< of the loss coefficients of its own fittings
     FlowDirection direction = FlowDirection::From1To2;
     PipeQuantity unknown = PipeQuantity::FlowRate;
 };

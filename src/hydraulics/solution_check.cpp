@@ -17,23 +17,16 @@ constexpr double kOfDrop = 1e-6;  ///< what a law may be off by, of the largest 
 constexpr double kOfHead = 1e-9;  ///< and of the largest head
 constexpr double kOfFlow = 1e-9;  ///< what a junction may be off by, of the largest flow
 
-template <typename Visit>
-void ForDrawnPipes(const WorkNetwork& work, Visit visit) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        if (work.WorkPipes[i].IsDrawn()) visit(i, work.WorkPipes[i]);
-    }
-}
-
 double LargestHead(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                    const Solution& at) {
     double largest = 0;
-    ForDrawnPipes(work, [&](int, const PipeRec& pipe) {
+    for (const auto [i, pipe] : DrawnPipes(work)) {
         const double start = at.Pressure(plan, pipe.StartPoint);
         const double end = at.Pressure(plan, pipe.EndPoint);
         const double weight = DensityAt(settings, start, end).value * kGravity;
         largest = std::max({largest, std::abs(start) + std::abs(weight * pipe.Z1),
                             std::abs(end) + std::abs(weight * pipe.Z2)});
-    });
+    }
     return largest;
 }
 
@@ -44,13 +37,15 @@ class Check {
         : settings_(settings), plan_(plan), work_(work), result_(result) {}
 
     void Run() {
-        ForDrawnPipes(work_, [&](int i, const PipeRec& pipe) {
-            largestDrop_ = std::max(largestDrop_, std::abs(Drop(i, pipe)));
-        });
-        tolerance_ = kOfDrop * largestDrop_ +
+        for (const auto [i, pipe] : DrawnPipes(work_)) {
+            const double drop = std::abs(Drop(i, pipe));
+            result_.pipes[i].drop = drop;
+            result_.largestDrop = std::max(result_.largestDrop, drop);
+        }
+        tolerance_ = kOfDrop * result_.largestDrop +
                      kOfHead * LargestHead(settings_, plan_, work_, result_.solution);
-        result_.settled = std::isfinite(largestDrop_);
-        ForDrawnPipes(work_, [&](int i, const PipeRec& pipe) { CheckPipe(i, pipe); });
+        result_.settled = std::isfinite(result_.largestDrop);
+        for (const auto [i, pipe] : DrawnPipes(work_)) CheckPipe(i, pipe);
         for (const Component& component : plan_.components) CheckComponent(component);
         std::ranges::stable_sort(result_.unsettledComponents, std::greater(),
                                  &UnsettledComponent::relative);
@@ -63,9 +58,9 @@ class Check {
 
     PressureLaw LawOf(int i, const PipeRec& pipe) const {
         if (!work_.WorkFlowUnknown[i]) {
-            return GivenFlowLaw(settings_, pipe, 0, Start(pipe), End(pipe));
+            return GivenFlowLaw(settings_, pipe, Start(pipe), End(pipe));
         }
-        return PipeLaw(settings_, pipe, 0, result_.Flow(plan_, i), Start(pipe), End(pipe));
+        return PipeLaw(settings_, pipe, result_.Flow(plan_, i), Start(pipe), End(pipe));
     }
 
     double Drop(int i, const PipeRec& pipe) const {
@@ -75,17 +70,16 @@ class Check {
 
     /// Of the largest drop in the network.
     double Relative(double misfit) const {
-        return largestDrop_ == 0 ? 1 : std::abs(misfit) / largestDrop_;
+        return result_.largestDrop == 0 ? 1 : std::abs(misfit) / result_.largestDrop;
     }
 
     void CheckPipe(int i, const PipeRec& pipe) {
         PipeResidual& residual = result_.pipes[i];
         const double misfit = Start(pipe) - End(pipe) - LawOf(i, pipe).value;
-        residual = {.relative = misfit == 0 ? 0 : Relative(misfit),
-                    .belowVacuum = IsBelowVacuum(pipe),
-                    .settled = std::abs(misfit) <= tolerance_};
+        residual.relative = misfit == 0 ? 0 : Relative(misfit);
+        residual.belowVacuum = IsBelowVacuum(pipe);
+        residual.settled = std::abs(misfit) <= tolerance_ && !residual.belowVacuum;
         result_.residual += residual.relative;
-        residual.settled = residual.settled && !residual.belowVacuum;
         result_.settled = result_.settled && residual.settled;
     }
 
@@ -93,7 +87,7 @@ class Check {
         if (settings_.EquationType != Equation::Compressible) return false;
         const double base = kAtmosphere + settings_.BasePressure;
         const double mean = base + (Start(pipe) + End(pipe)) / 2;
-        return mean < MeanAbsolutePressure(settings_, Start(pipe), End(pipe)) ||
+        return mean < MeanPressureAt(settings_, Start(pipe), End(pipe)).value ||
                base + std::min(Start(pipe), End(pipe)) < 0;
     }
 
@@ -111,19 +105,18 @@ class Check {
     }
 
     void CheckBalance() {
-        std::array<double, kMaxPoints + 1> gain{};
-        ForDrawnPipes(work_, [&](int i, const PipeRec& pipe) {
-            const double flow = pipe.DirectionSign() * result_.Flow(plan_, i);
-            gain[pipe.StartPoint] -= flow;
-            gain[pipe.EndPoint] += flow;
-        });
+        std::vector<double> gain(static_cast<std::size_t>(plan_.junctions) + 1);
+        for (const JunctionTerm& term : plan_.junctionTerms) {
+            gain[term.junction] += term.sign * result_.Flow(plan_, term.pipe);
+        }
         const FlowScale scale = FlowScaleOf(settings_, plan_, work_, result_.solution);
         const double tolerance = kOfFlow * scale.largest + scale.rounding;
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (plan_.pipesAtPoint[i] > 1) Balance(gain[i], tolerance);
-        }
+        for (const double sum : gain) Balance(sum, tolerance);
         for (const Component& component : plan_.components) {
-            if (component.high != 0) Balance(gain[component.high] + gain[component.low], tolerance);
+            if (component.pipeB == 0) continue;
+            Balance(component.signA * result_.Flow(plan_, component.pipeA) +
+                        component.signB * result_.Flow(plan_, component.pipeB),
+                    tolerance);
         }
         result_.settled = result_.settled && result_.balanced;
     }
@@ -136,7 +129,6 @@ class Check {
     const NetworkPlan& plan_;
     const WorkNetwork& work_;
     StageResult& result_;
-    double largestDrop_ = 0;
     double tolerance_ = 0;  ///< Pa
 };
 
@@ -152,13 +144,13 @@ FlowScale FlowScaleOf(const Settings& settings, const NetworkPlan& plan, const W
     const double rounding =
         std::numeric_limits<double>::epsilon() * LargestHead(settings, plan, work, solution);
     FlowScale scale;
-    ForDrawnPipes(work, [&](int i, const PipeRec& pipe) {
-        const SectionSize section = SectionGeometry(settings, pipe.Diameter, pipe.OuterSize);
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        const SectionSize section = SectionOf(settings, pipe);
         const double resistance = FrictionLaw(settings, section, pipe.Length, 0).slope;
         const double moved = resistance > 0 ? rounding * settings.FluidDensity / resistance : 0;
         scale.largest = std::max(scale.largest, std::abs(solution.Flow(plan, i)));
         scale.rounding = std::max(scale.rounding, moved);
-    });
+    }
     return scale;
 }
 

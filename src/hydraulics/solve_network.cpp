@@ -14,14 +14,12 @@ namespace {
 
 /// Solving only reproduces what is given to its last digits.
 void KeepGivenValues(const NetworkPlan& plan, const WorkNetwork& work, Solution& solution) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        const PipeRec& pipe = work.WorkPipes[i];
-        if (!pipe.IsDrawn() || work.WorkFlowUnknown[i]) continue;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (work.WorkFlowUnknown[i]) continue;
         solution.values[plan.flowUnknown[i]] = std::abs(pipe.FlowRate);
     }
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        const PointRec& point = work.WorkPoints[i];
-        if (!point.IsDrawn() || work.WorkPressureUnknown[i]) continue;
+    for (const auto [i, point] : DrawnPoints(work)) {
+        if (work.WorkPressureUnknown[i]) continue;
         solution.values[plan.pressureUnknown[i]] = point.Pressure;
     }
 }
@@ -45,11 +43,14 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
     StageResult result;
     const bool unique = HasUniqueSolution(settings, plan, work);
     int passes = 0;
+    bool stopped = first.stopped;
     bool closed = false;
     double misfit = 0;
     const auto close = [&](Solution from) {
-        ClosingStage closing = RunClosingStage(settings, plan, work, std::move(from));
+        const KeepOn keepOn = [&](int pass) { return report(first.passes + passes + pass, 0); };
+        ClosingStage closing = RunClosingStage(settings, plan, work, std::move(from), keepOn);
         passes += closing.passes;
+        stopped = closing.stopped;
         if (!std::isfinite(closing.misfit) || (closed && !(closing.misfit < misfit))) return;
         closed = true;
         misfit = closing.misfit;
@@ -58,9 +59,10 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
     std::array starts = {first.solution, PlainStart(settings, plan, work)};
     if (!first.settled) std::swap(starts[0], starts[1]);
     for (const Solution& from : starts) {
-        if (unique && !result.settled) close(from);
+        if (unique && !stopped && !result.settled) close(from);
     }
-    if (!closed) result = Checked(settings, plan, work, std::move(first.solution));
+    if (!closed && !stopped) result = Checked(settings, plan, work, std::move(first.solution));
+    result.stopped = stopped;
     result.singular = !unique;
     result.passes = {first.passes, passes};
     return result;

@@ -22,6 +22,7 @@ struct Solution {
 /// How well a pipe's law holds.
 struct PipeResidual {
     double relative = 0;       ///< misfit over the largest drop in the network
+    double drop = 0;           ///< by friction and its own losses, Pa, not negative
     bool belowVacuum = false;  ///< of a gas: its mean pressure is at the bound, or an end has no
                                ///< absolute pressure left
     bool settled = true;
@@ -35,11 +36,13 @@ struct UnsettledComponent {
 /// What a run ended with, held against the laws.
 struct StageResult {
     std::array<int, 2> passes{};  ///< of the first stage, of the closing stage
+    bool stopped = false;         ///< between two passes: there is no solution
     bool finite = true;           ///< false: the solution holds numbers that are not finite
     bool singular = false;        ///< the equations have no single solution
     bool settled = false;         ///< the solution satisfies every law
     bool balanced = true;         ///< the flows balance at every junction
     double residual = 0;          ///< sum of the pipes' relative misfits
+    double largestDrop = 0;       ///< of a pipe, Pa
     std::array<PipeResidual, kMaxPipes + 1> pipes{};
     std::vector<UnsettledComponent> unsettledComponents;  ///< the worst first
     Solution solution;

@@ -15,7 +15,7 @@ constexpr double kSmallestPivot = 1e-13;  ///< of the largest, rows and columns 
 bool HasUniqueSolution(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work) {
     PassState state;
     state.resistance.fill(1);
-    state.meanPressure.fill(MeanAbsolutePressure(settings, 0, 0));
+    state.meanPressure.fill(MeanPressureAt(settings, 0, 0).value);
     LinearSystem system(plan.Order());
     AssembleNetworkSystem(settings, plan, work, state, system);
     SparseSolver solver;

@@ -14,6 +14,7 @@ void CopyNetwork(const Project& project, WorkNetwork& work) {
     std::copy_n(project.FlowUnknown.begin(), pipes, work.WorkFlowUnknown.begin());
     std::copy_n(project.Points.begin(), points, work.WorkPoints.begin());
     std::copy_n(project.PressureUnknown.begin(), points, work.WorkPressureUnknown.begin());
+    work.GridSize = project.GridSize;
     work.WorkComponents.clear();
     for (int cell = 1; cell <= project.CellCount(); ++cell) {
         const CellRec& record = project.Cells[cell];

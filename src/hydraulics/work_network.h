@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "model/drawn_records.h"
 #include "model/project.h"
 
 namespace idrova {
@@ -27,7 +28,21 @@ struct WorkNetwork {
     std::vector<WorkComponent> WorkComponents;  ///< of a drawing, in cell order
     int WorkPipeCount = 0;
     int WorkPointCount = 0;
+    int GridSize = 0;  ///< of a drawing: cells in a row, for the places of components
 };
+
+inline DrawnRecords<PipeRec> DrawnPipes(WorkNetwork& work) {
+    return {work.WorkPipes.data(), work.WorkPipeCount};
+}
+inline DrawnRecords<const PipeRec> DrawnPipes(const WorkNetwork& work) {
+    return {work.WorkPipes.data(), work.WorkPipeCount};
+}
+inline DrawnRecords<PointRec> DrawnPoints(WorkNetwork& work) {
+    return {work.WorkPoints.data(), work.WorkPointCount};
+}
+inline DrawnRecords<const PointRec> DrawnPoints(const WorkNetwork& work) {
+    return {work.WorkPoints.data(), work.WorkPointCount};
+}
 
 /// Where the records of pipes and points that are on no drawing stand, so that they take part.
 constexpr std::int16_t kAnyPlace = 10;

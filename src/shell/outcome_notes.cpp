@@ -13,7 +13,7 @@ OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age) {
     OutcomeView view{OutcomeLine(outcome), EffortText(outcome)};
     if (!view.tip.empty()) view.tip += ". ";
     view.tip += "A click shows all notes on the last computation";
-    if (!outcome.notes.empty()) view.ground = OutcomeGround::Noted;
+    if (WarningCount(outcome) > 0) view.ground = OutcomeGround::Noted;
     if (!IsTrustworthy(outcome.end)) view.ground = OutcomeGround::Faulty;
     if (age == ResultAge::Current) return view;
     view.tip = view.text + ". " + view.tip;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/run_command.h"
 
+#include <algorithm>
+
 #include <utility>
 
 #include "hydraulics/messages.h"
@@ -25,34 +27,18 @@ std::optional<TableRefusal> FillNetwork(Project& project, const TableTexts& text
     return refusal;
 }
 
+/// Before what is only a remark.
 void AddTableNotes(const Project& project, const TableTexts& texts, Outcome& outcome) {
     if (project.settings.Mode != WorkMode::Table) return;
-    for (Note& note : TableNotes(project, texts)) outcome.notes.push_back(std::move(note));
-}
-
-bool HasResults(const Outcome& outcome) {
-    switch (outcome.end) {
-        case RunEnd::Settled:
-        case RunEnd::Unsettled:
-        case RunEnd::Singular:
-            return true;
-        case RunEnd::Refused:
-        case RunEnd::Empty:
-        case RunEnd::Stopped:
-        case RunEnd::NotFinite:
-            return false;
-    }
-    return false;
+    std::vector<Note> notes = TableNotes(project, texts);
+    const auto remarks = std::ranges::find(outcome.notes, NoteWeight::Remark, &Note::weight);
+    outcome.notes.insert(remarks, notes.begin(), notes.end());
 }
 
 /// Deleted pipes and points keep what they held.
 void StoreIntoProject(const WorkNetwork& work, Project& project) {
-    for (int i = 1; i <= work.WorkPipeCount; ++i) {
-        project.Pipes[i].FlowRate = work.WorkPipes[i].FlowRate;
-    }
-    for (int i = 1; i <= work.WorkPointCount; ++i) {
-        project.Points[i].Pressure = work.WorkPoints[i].Pressure;
-    }
+    for (const auto [i, pipe] : DrawnPipes(work)) project.Pipes[i].FlowRate = pipe.FlowRate;
+    for (const auto [i, point] : DrawnPoints(work)) project.Points[i].Pressure = point.Pressure;
     for (const WorkComponent& component : work.WorkComponents) {
         project.Cells[component.cell].Result = component.record.Result;
     }
@@ -70,14 +56,15 @@ Outcome Compute(const Settings& settings, WorkNetwork& work, bool pipeDataChecke
 void Report(const WorkNetwork& work, const RunHost& host, RunRecord& record) {
     const Outcome& outcome = record.outcome;
     Status written = Done{};
-    if (HasResults(outcome)) {
+    if (outcome.stored) {
         record.results = work;
         record.time = CurrentReportTime();
         written = host.writeReport(record.settings, work);
     }
     host.endProgress();
     if (outcome.refusal) host.boxes.Show(RefusalBox(*outcome.refusal));
-    if (outcome.end == RunEnd::NotFinite) host.boxes.Show(kDoesNotSettle);
+    const bool solved = outcome.end == RunEnd::NotFinite || outcome.end == RunEnd::Singular;
+    if (solved && !outcome.stored) host.boxes.Show(kDoesNotSettle);
     if (!written) host.boxes.Show({written.Error(), kResultsTitle});
 }
 
@@ -105,7 +92,7 @@ RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& wor
     }
     record.outcome = Compute(project.settings, work, true, host);
     AddTableNotes(project, texts, record.outcome);
-    const bool stored = HasResults(record.outcome);
+    const bool stored = record.outcome.stored;
     if (stored && project.settings.Mode == WorkMode::Graphic) StoreIntoProject(work, project);
     Report(work, host, record);
     if (!stored) return record;

@@ -76,21 +76,25 @@ class LawCheck {
                (x * x * Density(pipe));
     }
 
-    /// From start to end, by the direction of the flow. A given flow has the formulas alone.
+    /// From start to end, by the direction of the flow.
     double Drop(int i) const {
         const PipeRec& pipe = work_.WorkPipes[i];
         const double q = std::abs(pipe.FlowRate);
         const double sign = Sign({pipe.EndPoint, &pipe}) * (pipe.FlowRate < 0 ? -1 : 1);
-        if (q == 0) return 0;
-        if (!work_.WorkFlowUnknown[i]) return sign * Formula(pipe, q, q >= FlowAt(pipe, 5000));
+        return q == 0 ? 0 : sign * (Friction(i, pipe, q) + Loss(pipe.LossSum, pipe, q));
+    }
+
+    /// A given flow has the formulas alone.
+    double Friction(int i, const PipeRec& pipe, double q) const {
+        if (!work_.WorkFlowUnknown[i]) return Formula(pipe, q, q >= FlowAt(pipe, 5000));
         const double creeping = FlowAt(pipe, 50);
-        if (q < creeping) return sign * Formula(pipe, creeping, false) * q / creeping;
+        if (q < creeping) return Formula(pipe, creeping, false) * q / creeping;
         const double from = FlowAt(pipe, 4950);
         const double to = FlowAt(pipe, 5050);
-        if (q <= from || q >= to) return sign * Formula(pipe, q, q >= to);
+        if (q <= from || q >= to) return Formula(pipe, q, q >= to);
         const double start = Formula(pipe, from, false);
         const double end = Formula(pipe, to, true);
-        return sign * (start + (end - start) * (q - from) / (to - from));
+        return start + (end - start) * (q - from) / (to - from);
     }
 
     void Hold(const char* what, int number, double misfit, double tolerance) {
@@ -123,7 +127,7 @@ class LawCheck {
         const bool isPump = cell.Kind == CellKind::Pump && cell.Placed;
         const double toB = isPump ? DeliverySide(cell, *a.second, *b.second) : Sign(a);
         const double flow = toB * Sign(a) * a.second->FlowRate;
-        double fall = isPump ? -Rise(cell, flow) : Loss(cell, *a.second, flow);
+        double fall = isPump ? -Rise(cell, flow) : LossOf(cell, *a.second, flow);
         if (!cell.Placed) fall = 0;
         const double misfit = toB * (Pressure(a.first) - Pressure(b.first)) - fall;
         // A steep curve shows the rounding of the flow.
@@ -140,11 +144,15 @@ class LawCheck {
         return pump.Param1 * q * q + pump.Param2 * q + pump.PumpConstant;
     }
 
-    double Loss(const CellRec& loss, const PipeRec& pipe, double flow) const {
+    double Loss(double coefficient, const PipeRec& pipe, double flow) const {
+        return coefficient / 2 * flow * std::abs(flow) / (Density(pipe) * Area(pipe) * Area(pipe));
+    }
+
+    double LossOf(const CellRec& loss, const PipeRec& pipe, double flow) const {
         if (loss.Param2 != 0) {
             return loss.Param2 * std::clamp(flow / (0.01 * FlowAt(pipe, 50)), -1.0, 1.0);
         }
-        return loss.Param1 / 2 * flow * std::abs(flow) / (Density(pipe) * Area(pipe) * Area(pipe));
+        return Loss(loss.Param1, pipe, flow);
     }
 
     /// 1 when the pump delivers to the piece `b`, -1 when to the piece `a`.

@@ -26,29 +26,23 @@ double Misfit(const LinearSystem& system, const std::vector<double>& x) {
 }
 
 /// A few coefficients a row, over twelve decades, some places filled twice; every time anew.
-void Fill(LinearSystem& system, std::mt19937& random) {
-    std::mt19937 places(7);
-    std::uniform_real_distribution<double> decade(-6, 6);
-    const int n = system.Order();
-    system.Clear();
-    for (int row = 1; row <= n; ++row) {
-        system.Add(row, row % n + 1, std::pow(10, decade(random)));
-        for (int k = 0; k < 4; ++k) {
-            const int unknown = static_cast<int>(places() % static_cast<unsigned>(n)) + 1;
-            system.Add(row, unknown, decade(random));
-        }
-        system.AddRight(row, decade(random));
-    }
-}
-
 TEST(LinearSystems, AreSolvedWithKeptPivotsAndWithout) {
+    std::uniform_real_distribution<double> decade(-6, 6);
     for (const int n : {1, 2, 17, 190}) {
         LinearSystem system(n);
         SparseSolver solver;
         std::mt19937 random(3);
         std::vector<double> x;
         for (int time = 0; time < 40; ++time) {
-            Fill(system, random);
+            std::mt19937 places(7);
+            system.Clear();
+            for (int row = 1; row <= n; ++row) {
+                system.Add(row, row % n + 1, std::pow(10, decade(random)));
+                for (int k = 0; k < 4; ++k) {
+                    system.Add(row, static_cast<int>(places() % n) + 1, decade(random));
+                }
+                system.AddRight(row, decade(random));
+            }
             ASSERT_EQ(solver.Run(system, x), Solve::Solved);
             EXPECT_LT(Misfit(system, x), 1e-9) << n << ", time " << time;
             EXPECT_GT(solver.SmallestPivot(), 0);
@@ -59,40 +53,35 @@ TEST(LinearSystems, AreSolvedWithKeptPivotsAndWithout) {
     }
 }
 
+LinearSystem TwoByTwo(double a, double b, double c, double d, double right) {
+    LinearSystem system(2);
+    system.Add(1, 1, a);
+    system.Add(1, 2, b);
+    if (c != 0) system.Add(2, 1, c);
+    if (d != 0) system.Add(2, 2, d);
+    system.AddRight(1, 1);
+    system.AddRight(2, right);
+    return system;
+}
+
 TEST(LinearSystems, SingularOnesAreTold) {
+    std::vector<double> x;
     for (const double corner : {4.0, 4.0 + 1e-14, 5.0}) {
-        LinearSystem system(2);
-        for (const auto& [row, unknown, value] :
-             {LinearSystem::Coefficient{1, 1, 1}, {1, 2, 2}, {2, 1, 2}, {2, 2, corner}}) {
-            system.Add(row, unknown, value);
-        }
-        system.AddRight(1, 3);
-        std::vector<double> x;
         SparseSolver solver;
-        const bool singular = corner == 4;
-        EXPECT_EQ(solver.Run(system, x) == Solve::Singular, singular);
-        EXPECT_EQ(EliminatePlainly(system, x) == Solve::Singular, singular);
+        const Solve expected = corner == 4 ? Solve::Singular : Solve::Solved;
+        EXPECT_EQ(solver.Run(TwoByTwo(1, 2, 2, corner, 0), x), expected);
+        EXPECT_EQ(EliminatePlainly(TwoByTwo(1, 2, 2, corner, 0), x), expected);
         EXPECT_EQ(solver.SmallestPivot() < 1e-13, corner < 5);
     }
-    LinearSystem emptyRow(2);
-    emptyRow.Add(1, 1, 1);
-    emptyRow.Add(1, 2, 1);
-    std::vector<double> x;
+    const LinearSystem emptyRow = TwoByTwo(1, 1, 0, 0, 0);
     EXPECT_EQ(SparseSolver().Run(emptyRow, x), Solve::Singular);
     EXPECT_EQ(EliminatePlainly(emptyRow, x), Solve::Singular);
 }
 
 /// Among equal candidates the last in row-major order is the pivot: the others leave rounding.
 TEST(LinearSystems, PlainEliminationPivotsOnTheLastOfEquals) {
-    LinearSystem system(2);
-    system.Add(1, 1, 1);
-    system.Add(1, 2, 1);
-    system.Add(2, 1, 1);
-    system.Add(2, 2, -1);
-    system.AddRight(1, 1);
-    system.AddRight(2, 1e-17);
     std::vector<double> x;
-    ASSERT_EQ(EliminatePlainly(system, x), Solve::Solved);
+    ASSERT_EQ(EliminatePlainly(TwoByTwo(1, 1, 1, -1, 1e-17), x), Solve::Solved);
     EXPECT_EQ(x[0], 0.5);
     EXPECT_EQ(x[1], 0.5);
 }

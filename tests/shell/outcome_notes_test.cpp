@@ -8,12 +8,13 @@ namespace {
 
 TEST(OutcomeNotes, WordsAndGroundTellWhetherToTrust) {
     const Note note{"Mind the step"};
+    const Note remark{.text = "A fine step", .weight = NoteWeight::Remark};
     const struct {
         Outcome outcome;
         const char *text = "", *effort = "";
         OutcomeGround ground = OutcomeGround::Plain;
     } cases[] = {
-        {{.end = RunEnd::Settled, .passes = {12, 3}, .seconds = .00144},
+        {{.end = RunEnd::Settled, .passes = {12, 3}, .notes = {remark}, .seconds = .00144},
          "Computed",
          "12 + 3 passes, 1.4 ms",
          OutcomeGround::Plain},

@@ -21,6 +21,25 @@ inline NetworkBuilder CutPipe(CellKind kind, float length = 100, float diameter 
     return network;
 }
 
+struct PipeSize {
+    float length, diameter, lossSum = 0;
+};
+
+/// Two pipes with a component of the two or three numbers between them, between two pressures.
+inline NetworkBuilder CutPipe(PipeSize first, CellKind kind, std::array<float, 3> numbers,
+                              PipeSize second, float from, float to = 0) {
+    NetworkBuilder network = CutPipe(kind, first.length, first.diameter);
+    network->Pipes[2].Length = second.length;
+    network->Pipes[2].Diameter = second.diameter;
+    CellRec& cell = network->Cells[network->Points[2].Cell];
+    cell.Param1 = numbers[0];
+    cell.Param2 = numbers[1];
+    cell.PumpConstant = numbers[2];
+    network.SetPressure(1, from);
+    network.SetPressure(4, to);
+    return network;
+}
+
 inline void MakeAir(Project& project) {
     project.settings.FluidDensity = 1.2929;  // at 0 degrees Celsius and one atmosphere
     project.settings.FluidViscosity = 1.8e-5;
