@@ -2,7 +2,6 @@
 #include "shell/run_command.h"
 
 #include <algorithm>
-
 #include <utility>
 
 #include "hydraulics/messages.h"
