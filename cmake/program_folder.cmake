@@ -10,7 +10,7 @@ foreach(program IN ITEMS idrova idrova-calc)
     endif()
 endforeach()
 
-file(COPY data/IMG DESTINATION ${program_folder})
+file(COPY data/IMG data/samples DESTINATION ${program_folder})
 # Databases that were edited there stay.
 file(GLOB databases CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}/data data/*.dat)
 foreach(database IN LISTS databases)

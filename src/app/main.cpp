@@ -4,8 +4,10 @@
 #include <QDir>
 #include <QIcon>
 #include <QStandardPaths>
+#include <algorithm>
 #include <filesystem>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "model/version.h"
@@ -22,15 +24,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// Usage and version are printed without a display.
+bool AsksForText(int argc, char* argv[]) {
+    return std::any_of(argv, argv + argc, [](std::string_view argument) {
+        return argument == "--help" || argument == "-h" || argument == "--help-all" ||
+               argument == "--version" || argument == "-v";
+    });
+}
+
 /// The project files named on the command line, as full paths. Ends the program after --help,
 /// --version and unknown options.
-std::vector<fs::path> NamedFiles() {
+std::vector<fs::path> NamedFiles(const QCoreApplication& application) {
+    QCoreApplication::setApplicationName("idrova");
+    QCoreApplication::setApplicationVersion(idrova::ToQt(idrova::VersionText()));
     QCommandLineParser parser;
     parser.setApplicationDescription("Checks fluid distribution piping.");
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument("PROJECT.iv", "A project to open.", "[PROJECT.iv]");
-    parser.process(*QApplication::instance());
+    parser.process(application);
     std::vector<fs::path> files;
     for (const QString& name : parser.positionalArguments()) {
         files.push_back(fs::absolute(idrova::PathFromQt(name)).lexically_normal());
@@ -38,8 +50,12 @@ std::vector<fs::path> NamedFiles() {
     return files;
 }
 
+fs::path Executable() {
+    return idrova::PathFromQt(QCoreApplication::applicationFilePath());
+}
+
 fs::path EnterWorkingFolder(idrova::MessageBoxes& boxes) {
-    const fs::path executable = idrova::PathFromQt(QApplication::applicationFilePath());
+    const fs::path executable = Executable();
     const QString data = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     fs::path folder = idrova::WorkingFolder(executable, idrova::PathFromQt(data));
     const fs::path shared = executable.parent_path().parent_path() / "share" / "idrova";
@@ -59,17 +75,17 @@ fs::path ProjectsFolder() {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+    if (AsksForText(argc, argv)) NamedFiles(QCoreApplication(argc, argv));
     QApplication application(argc, argv);
+    const std::vector<fs::path> files = NamedFiles(application);
     idrova::PrepareInput();
-    QApplication::setApplicationName("idrova");
-    QApplication::setApplicationVersion(idrova::ToQt(idrova::VersionText()));
     QApplication::setDesktopFileName(idrova::kApplicationId);
     QApplication::setWindowIcon(idrova::LogoIcon());
     QApplication::setQuitOnLastWindowClosed(false);
 
     idrova::QtMessageBoxes boxes;
-    const std::vector<fs::path> files = NamedFiles();
     const auto program = std::make_unique<idrova::Program>(EnterWorkingFolder(boxes), boxes);
+    program->shipped = idrova::FindShippedFiles(Executable());
     program->lastFolder = ProjectsFolder();
     std::unique_ptr<idrova::MDI> mdi;
     idrova::FrmStart(boxes, [&] {

@@ -28,6 +28,7 @@ struct RecordDb {
     std::array<Record, kMaxRecords + 1> slots;  ///< 1 .. `count`; slot 0 holds no record
     int count = 0;
     RecordFault fault = RecordFault::None;  ///< of the file as it was last loaded
+    std::string told;                       ///< why it could not be loaded then; empty when it was
 
     bool Holds(int slot) const { return slot >= 1 && slot <= count; }
     bool IsFull() const { return count == static_cast<int>(kMaxRecords); }
@@ -118,8 +119,8 @@ void TellFault(RecordFault before, RecordFault now, std::string_view file, int g
                std::string_view title, MessageBoxes& boxes);
 
 /// Reads the database again; an absent file is created empty. A faulty file is told once in the
-/// life of `db`, so keep one for the whole run. False when the file cannot be read or created:
-/// told, and `db` stays as it was.
+/// life of `db`, and so is why it cannot be read or created; so keep one for the whole run. False
+/// in the second case: `db` stays as it was.
 template <typename Record>
 bool LoadRecords(RecordDb<Record>& db, const std::filesystem::path& folder, std::string_view title,
                  MessageBoxes& boxes) {
@@ -127,7 +128,8 @@ bool LoadRecords(RecordDb<Record>& db, const std::filesystem::path& folder, std:
     Result<RecordDb<Record>> fresh =
         created ? ReadRecords<Record>(folder) : Result<RecordDb<Record>>(Failure{created.Error()});
     if (!fresh) {
-        boxes.Show({fresh.Error(), title});
+        if (db.told != fresh.Error()) boxes.Show({fresh.Error(), title});
+        db.told = fresh.Error();
         return false;
     }
     TellFault(db.fault, fresh->fault, Record::kFile, fresh->count, title, boxes);

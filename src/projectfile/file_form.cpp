@@ -28,25 +28,51 @@ std::string WithExtension(const std::string& path) {
     return path.ends_with(kExtension) ? path : path + std::string(kExtension);
 }
 
-FileChange SaveAs(const FileForm& form, Project& project, MessageBoxes& boxes) {
-    const SaveOutcome saved = SaveProject(project, project.ProjectName, boxes);
-    if (saved == SaveOutcome::Failed) return {};
-    return {.done = true, .title = form.Text3};
+/// The name of the file that a form means to open.
+std::string NameToOpen(const std::string& path) {
+    std::error_code ignored;
+    std::string extended = WithExtension(path);
+    const bool onlyAsTyped = !std::filesystem::exists(extended, ignored) &&
+                             std::filesystem::is_regular_file(path, ignored);
+    return onlyAsTyped ? path : extended;
 }
 
-FileChange OpenAs(const FileForm& form, Project& project, MessageBoxes& boxes) {
+FileChange Open(const std::string& title, Project& project, MessageBoxes& boxes) {
     switch (OpenProject(project, project.ProjectName, boxes)) {
         case OpenOutcome::Opened:
-            return {.done = true, .title = form.Text3, .network = NetworkChange::Replaced};
+            return {.done = true, .title = title, .network = NetworkChange::Replaced};
         case OpenOutcome::TooOld:
             return {.done = true, .title = kNewProject, .network = NetworkChange::Emptied};
         case OpenOutcome::Missing:
-            return {.done = true, .title = form.Text3};
+            return {.done = true, .title = title};
         case OpenOutcome::Malformed:
         case OpenOutcome::Unreadable:
             break;
     }
     return {};
+}
+
+FileChange OpenAs(std::string path, const std::string& title, const std::string& description,
+                  Project& project, MessageBoxes& boxes) {
+    std::string formerName = std::exchange(project.ProjectName, std::move(path));
+    std::string formerDescription = std::exchange(project.ProjectDescription, description);
+    FileChange change = Open(title, project, boxes);
+    if (!change.done) project.ProjectName = std::move(formerName);
+    if (change.network == NetworkChange::None) {
+        project.ProjectDescription = std::move(formerDescription);
+    }
+    return change;
+}
+
+FileChange SaveAs(const FileForm& form, Project& project, MessageBoxes& boxes) {
+    std::string formerDescription = std::exchange(project.ProjectDescription, form.description);
+    std::string path = WithExtension(form.path);
+    if (SaveProject(project, path, boxes) != SaveOutcome::Saved) {
+        project.ProjectDescription = std::move(formerDescription);
+        return {};
+    }
+    project.ProjectName = std::move(path);
+    return {.done = true, .title = form.name};
 }
 
 }  // namespace
@@ -59,49 +85,47 @@ FileForm StartFileForm(FilePurpose purpose, const std::filesystem::path& folder,
                        const Project& project) {
     FileForm form;
     form.purpose = purpose;
-    form.folder = form.Text2 = folder.string();
-    if (purpose == FilePurpose::Save) form.Text4 = project.ProjectDescription;
+    form.folder = form.path = folder.string();
+    if (purpose == FilePurpose::Save) form.description = project.ProjectDescription;
     return form;
 }
 
 void ChooseFolder(FileForm& form, const std::filesystem::path& folder) {
     form.folder = folder.string();
-    form.Text2 = form.Text3.empty() ? form.folder : JoinPath(form.folder, form.Text3);
+    form.path = form.name.empty() ? form.folder : JoinPath(form.folder, form.name);
 }
 
 void TypeFilter(FileForm& form, std::string_view text) {
-    form.Text1 = text;
+    form.filter = text;
     if (!HasForbiddenCharacter(text)) form.pattern = text;
 }
 
 void TypeName(FileForm& form, std::string_view text, MessageBoxes& boxes) {
-    form.Text3 = text;
+    form.name = text;
     if (HasForbiddenCharacter(text)) {
         boxes.Show(kNameNotAllowed);
-        form.Text3.clear();
+        form.name.clear();
     }
-    form.Text2 = JoinPath(form.folder, form.Text3);
+    form.path = JoinPath(form.folder, form.name);
 }
 
 void ClickFile(FileForm& form, std::string_view name, MessageBoxes& boxes) {
     TypeName(form, name, boxes);
-    form.Text4 = DescriptionIn(JoinPath(form.folder, name));
+    form.description = DescriptionIn(JoinPath(form.folder, name));
 }
 
 void DoubleClickFile(FileForm& form, std::string_view name) {
-    form.Text2 = JoinPath(form.folder, name);
+    form.path = JoinPath(form.folder, name);
 }
 
 FileChange ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes) {
-    if (form.Text3.empty()) return {};
-    std::string formerName = std::exchange(project.ProjectName, WithExtension(form.Text2));
-    std::string formerDescription = std::exchange(project.ProjectDescription, form.Text4);
-    const bool opens = form.purpose == FilePurpose::Open;
-    FileChange change = opens ? OpenAs(form, project, boxes) : SaveAs(form, project, boxes);
-    if (!change.done) project.ProjectName = std::move(formerName);
-    const bool missing = opens && change.network == NetworkChange::None;
-    if (!change.done || missing) project.ProjectDescription = std::move(formerDescription);
-    return change;
+    if (form.name.empty()) return {};
+    if (form.purpose == FilePurpose::Save) return SaveAs(form, project, boxes);
+    return OpenAs(NameToOpen(form.path), form.name, form.description, project, boxes);
+}
+
+FileChange OpenNamedFile(const std::filesystem::path& path, Project& project, MessageBoxes& boxes) {
+    return OpenAs(path.string(), path.filename().string(), DescriptionIn(path), project, boxes);
 }
 
 std::filesystem::path NearestFolder(std::filesystem::path folder) {

@@ -12,15 +12,15 @@ namespace idrova {
 
 enum class FilePurpose { Open, Save };
 
-/// What the project file window shows; the texts are named after its controls.
+/// What the project file window shows.
 struct FileForm {
     FilePurpose purpose = FilePurpose::Open;
     std::string folder;            ///< the chosen folder
     std::string pattern = "*.iv";  ///< what the file list shows
-    std::string Text1 = "*.iv";    ///< filter
-    std::string Text2;             ///< full path
-    std::string Text3;             ///< file name
-    std::string Text4;             ///< project description
+    std::string filter = "*.iv";   ///< as typed
+    std::string path;              ///< folder and name
+    std::string name;              ///< of the file
+    std::string description;       ///< of the project
 };
 
 std::string_view FileFormCaption(FilePurpose purpose);
@@ -51,9 +51,13 @@ struct FileChange {
 };
 
 /// Opens or saves. The project takes the name of the form, and its description unless the file to
-/// open does not exist. Not done: without a name, and with
-/// a file that cannot be written or read, or is malformed, which is told in a box.
+/// open does not exist. ".iv" is appended to the name, unless only a file of the very name can be
+/// opened. Not done: without a name, with an old file that is not to be replaced, and with one that
+/// cannot be written or read, or is malformed, which is told in a box.
 FileChange ConfirmFileForm(const FileForm& form, Project& project, MessageBoxes& boxes);
+
+/// Opens a file whose name is taken as it stands.
+FileChange OpenNamedFile(const std::filesystem::path& path, Project& project, MessageBoxes& boxes);
 
 /// `folder`, or the closest folder above it that exists.
 std::filesystem::path NearestFolder(std::filesystem::path folder);

@@ -28,6 +28,14 @@ inline MessageBox FolderUnreadable(const std::string& folder) {
     return {"The folder " + folder + " cannot be read", "Project files"};
 }
 
+inline std::string UnsavedKept(const std::string& file) {
+    return "Unsaved work is kept in " + file;
+}
+
+inline std::string UnsavedLost(const std::string& reason) {
+    return "Unsaved work could not be kept: " + reason;
+}
+
 inline MessageBox ProjectMalformed(const std::string& fault) {
     return {"The file is not a valid project, " + fault, "Open file"};
 }

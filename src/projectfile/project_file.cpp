@@ -100,6 +100,7 @@ bool NewProject(Project& project, MessageBoxes& boxes) {
     if (boxes.Show(kLeaveProject) != Answer::Ok) return false;
     ResetProject(project);
     project.ProjectName = kNewProject;
+    project.ProjectDescription.clear();
     return true;
 }
 

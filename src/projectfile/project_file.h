@@ -30,8 +30,8 @@ SaveOutcome SaveProject(Project& project, const std::filesystem::path& path, Mes
 /// Saves to the project's own file. Nothing when it has none yet: the file window is then needed.
 std::optional<SaveOutcome> SaveToOwnFile(Project& project, MessageBoxes& boxes);
 
-/// Asks, then empties the network and detaches the file; settings, table rows and description
-/// stay. False when the user wants to keep the project.
+/// Asks, then empties the network and detaches file and description; settings and table rows stay.
+/// False when the user wants to keep the project.
 bool NewProject(Project& project, MessageBoxes& boxes);
 
 /// Saves without the question, for programs that may not ask.

@@ -2,8 +2,10 @@
 #include "projectfile/unsaved_copy.h"
 
 #include <algorithm>
+#include <span>
 
 #include "base/file.h"
+#include "projectfile/messages.h"
 #include "projectfile/project_file.h"
 #include "projectfile/project_keys.h"
 
@@ -11,10 +13,13 @@ namespace idrova {
 
 namespace {
 
+/// Slots that are not in use may hold what an earlier network left there.
 bool IsEmpty(const Project& project) {
+    const auto pipes =
+        std::span(project.Pipes).subspan(1, static_cast<std::size_t>(project.numtubo));
+    const auto rows = std::span(project.TableRows).subspan(kFirstTableRow, kMaxTableRows);
     const auto isBlank = [](const TableRowRec& row) { return row == TableRowRec(); };
-    return std::ranges::none_of(project.Pipes, &PipeRec::IsDrawn) &&
-           std::ranges::all_of(project.TableRows, isBlank);
+    return std::ranges::none_of(pipes, &PipeRec::IsDrawn) && std::ranges::all_of(rows, isBlank);
 }
 
 bool Holds(const std::filesystem::path& file, const std::string& text) {
@@ -31,10 +36,14 @@ std::optional<std::string> UnsavedText(const Project& project) {
     return text;
 }
 
-void KeepUnsaved(const std::optional<std::string>& text, const std::filesystem::path& folder) {
+Result<std::string> KeepUnsaved(const std::optional<std::string>& text,
+                                const std::filesystem::path& folder) {
+    if (!text) return std::string();
     const std::filesystem::path copy = folder / kUnsavedFile;
-    if (!text || Holds(copy, *text)) return;
-    static_cast<void>(WriteWholeFile(copy, *text, OldFile::KeptBeside));
+    if (Holds(copy, *text)) return UnsavedKept(copy.string());
+    const Status written = WriteWholeFile(copy, *text, OldFile::KeptBeside);
+    if (!written) return Failure{UnsavedLost(written.Error())};
+    return UnsavedKept(copy.string());
 }
 
 }  // namespace idrova

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/result.h"
 #include "model/project.h"
 
 namespace idrova {
@@ -19,7 +20,9 @@ constexpr std::string_view kUnsavedFile = "unsaved.iv";
 std::optional<std::string> UnsavedText(const Project& project);
 
 /// Writes the copy once the project has been left, so that the copy before it can be what is
-/// opened. A folder that cannot be written gets none, untold: leaving is not to be held up.
-void KeepUnsaved(const std::optional<std::string>& text, const std::filesystem::path& folder);
+/// opened. Returns what to tell the user: where the copy is, nothing when there was nothing to
+/// keep, or why it could not be kept.
+Result<std::string> KeepUnsaved(const std::optional<std::string>& text,
+                                const std::filesystem::path& folder);
 
 }  // namespace idrova

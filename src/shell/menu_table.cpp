@@ -223,7 +223,7 @@ constexpr MenuEntry kMenuTable[] = {
      .parent = "Help",
      .caption = "Help",
      .shortcut = "F1",
-     .tip = "Where the user manual is"},
+     .tip = "Show the user manual"},
 };
 
 std::string_view CheckedMode(WorkMode mode) {
@@ -248,6 +248,10 @@ std::span<const MenuEntry> MenuTable() {
 
 std::string CaptionWithMnemonic(const MenuEntry& entry) {
     return std::string(entry.caption).insert(entry.mnemonic, "&");
+}
+
+bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
+    return entry.name != "Veloce" || mode == WorkMode::Graphic;
 }
 
 bool IsChecked(const MenuEntry& entry, const Settings& settings, const ShellState& shell) {

@@ -15,6 +15,15 @@ ModeView ViewOf(WorkMode mode) {
     return {.window = "FrmCel", .drawingTools = true, .calculate = true};
 }
 
+std::array<std::string_view, 4> ModeHints(WorkMode mode) {
+    if (mode == WorkMode::SinglePipe) {
+        return {"option Unknown:", "choose what is to be computed",
+                "type the other values:", "the unknown one is computed at once"};
+    }
+    return {"type into a cell:", "a value; an empty pressure or flow rate is to be computed",
+            "key F5:", "compute the table"};
+}
+
 void EnterMode(WorkMode mode, Project& project, ShellState& shell) {
     project.settings.Mode = mode;
     shell.HintsShown = mode == WorkMode::Graphic;

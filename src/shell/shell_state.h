@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <string_view>
 
 #include "model/project.h"
@@ -21,6 +22,9 @@ struct ModeView {
 };
 
 ModeView ViewOf(WorkMode mode);
+
+/// The four lines of the hint window in a mode without a drawing: what to do, what it does, twice.
+std::array<std::string_view, 4> ModeHints(WorkMode mode);
 
 /// Switches the mode. The network and the table stay as they are; only graphic mode has hints.
 void EnterMode(WorkMode mode, Project& project, ShellState& shell);

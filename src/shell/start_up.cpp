@@ -24,6 +24,18 @@ fs::path WorkingFolder(const fs::path& executable, const fs::path& userDataFolde
     return fs::is_directory(beside / "IMG", ignored) ? beside : userDataFolder;
 }
 
+ShippedFiles FindShippedFiles(const fs::path& executable) {
+    const fs::path beside = executable.parent_path();
+    const fs::path share = beside.parent_path() / "share";
+    const auto firstThere = [](const fs::path& one, const fs::path& other) {
+        std::error_code ignored;
+        if (fs::exists(one, ignored)) return one;
+        return fs::exists(other, ignored) ? other : fs::path();
+    };
+    return {.samples = firstThere(beside / "samples", share / "idrova" / "samples"),
+            .manual = firstThere(beside / kManualFile, share / "doc" / "idrova" / kManualFile)};
+}
+
 Status PrepareWorkingFolder(const fs::path& folder, const fs::path& shared) {
     std::error_code error;
     if (fs::exists(folder, error)) return Done{};

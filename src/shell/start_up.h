@@ -27,6 +27,15 @@ std::string VersionLine();
 std::filesystem::path WorkingFolder(const std::filesystem::path& executable,
                                     const std::filesystem::path& userDataFolder);
 
+/// What the program was delivered with. A path is empty when there is no such thing.
+struct ShippedFiles {
+    std::filesystem::path samples;  ///< folder of sample projects
+    std::filesystem::path manual;
+};
+
+/// Looks beside the executable, then in the shared folders of an installation.
+ShippedFiles FindShippedFiles(const std::filesystem::path& executable);
+
 /// Makes the folder when there is none and gives it, at that first use, the sample databases and
 /// the icons of `shared`. An existing folder keeps what it has.
 Status PrepareWorkingFolder(const std::filesystem::path& folder,

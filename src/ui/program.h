@@ -16,6 +16,7 @@
 #include "physdata/fluids.h"
 #include "results/run_record.h"
 #include "shell/shell_state.h"
+#include "shell/start_up.h"
 #include "table/table_columns.h"
 #include "table/table_texts.h"
 #include "ui/table/table_model.h"
@@ -30,6 +31,7 @@ struct Program {
 
     const std::filesystem::path folder;  ///< databases, results and configuration live here
     MessageBoxes& boxes;
+    ShippedFiles shipped;              ///< offered by the file window and by "Help"
     std::filesystem::path lastFolder;  ///< where the project file window starts
 
     Project project;

@@ -22,7 +22,7 @@ class FileCommands : public testing::Test {
     FileChange Confirm(FilePurpose purpose, std::string_view name) {
         FileForm form = StartFileForm(purpose, folder.Path(), *project);
         TypeName(form, name, boxes);
-        form.Text4 = "typed";
+        form.description = "typed";
         return ConfirmFileForm(form, *project, boxes);
     }
     /// Name and description of the project.
@@ -36,52 +36,48 @@ class FileCommands : public testing::Test {
 
 TEST_F(FileCommands, NamesAndFiltersHaveForbiddenCharacters) {
     FileForm form = StartFileForm(FilePurpose::Save, "/home", *project);
-    EXPECT_EQ(FileFormCaption(form.purpose), "Idrova - Save project");
-    EXPECT_EQ(FileFormCaption(FilePurpose::Open), "Idrova - Open project");
-    EXPECT_EQ(form.Text1 + " " + form.Text2, "*.iv /home");
-    EXPECT_EQ(form.Text4, project->ProjectDescription) << "saving elsewhere keeps it";
+    EXPECT_EQ(form.filter + " " + form.path, "*.iv /home");
+    EXPECT_EQ(form.description, project->ProjectDescription) << "saving elsewhere keeps it";
     TypeName(form, "plant", boxes);
-    EXPECT_EQ(form.Text2, "/home/plant");
+    EXPECT_EQ(form.path, "/home/plant");
     ChooseFolder(form, "/");
-    EXPECT_EQ(form.Text2, "/plant");
+    EXPECT_EQ(form.path, "/plant");
     for (const std::string bad : {"a:b", "a;b", "a/b", "a\\b"}) {
         boxes.Expect({"Name not allowed", "Save project"});
         TypeName(form, bad, boxes);
         TypeFilter(form, bad);
-        EXPECT_EQ(form.Text3 + form.pattern, "*.iv");
+        EXPECT_EQ(form.name + form.pattern, "*.iv");
     }
     TypeFilter(form, "p*");
     DoubleClickFile(form, "a.iv");
-    EXPECT_EQ(form.pattern + form.Text2 + form.Text3, "p*/a.iv");
+    EXPECT_EQ(form.pattern + form.path + form.name, "p*/a.iv");
+    EXPECT_EQ(NearestFolder(folder / "gone" / "deeper"), folder.Path());
+    EXPECT_EQ(NearestFolder("/absent"), "/");
 }
 
 TEST_F(FileCommands, AClickShowsTheDescription) {
     const std::vector<std::pair<std::string_view, std::string_view>> cases = {
         {kSampleText, "two taps, one pump"},
         {"2.6.3\nProject description\nd\xE9j\xE0 \r\nvu", "d\u00E9j\u00E0 vu"},
-        {"2.6.3\r\n", ""},
-        {"Project description", ""}};
+        {"2.6.3\r\n", ""}};
+    FileForm form = StartFileForm(FilePurpose::Open, folder.Path(), *project);
     for (const auto& [text, description] : cases) {
         PutFile(folder / "a.iv", text);
-        FileForm form = StartFileForm(FilePurpose::Open, folder.Path(), *project);
         ClickFile(form, "a.iv", boxes);
-        EXPECT_EQ(form.Text2 + "|" + form.Text3, Path("a.iv") + "|a.iv");
-        EXPECT_EQ(form.Text4, description);
+        EXPECT_EQ(form.path + form.name + form.description,
+                  Path("a.iv") + "a.iv" + std::string(description));
     }
-    EXPECT_EQ(DescriptionIn(folder / "none.iv"), "");
-    EXPECT_EQ(NearestFolder(folder / "gone" / "deeper"), folder.Path());
-    EXPECT_EQ(NearestFolder("/absent"), "/");
 }
 
 TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
     EXPECT_FALSE(Confirm(FilePurpose::Save, "").done) << "no name: the window stays";
-    for (const auto& [name, file] : {std::pair("b.iv", "b.iv"), std::pair("plant", "plant.iv"),
-                                     std::pair("plant.IV", "plant.IV.iv")}) {
+    for (const auto& [name, file] :
+         {std::pair("b.iv", "b.iv"), std::pair("plant.IV", "plant.IV.iv"),
+          std::pair("plant", "plant.iv")}) {
         project->numins = 50;
         const FileChange saved = Confirm(FilePurpose::Save, name);
-        EXPECT_TRUE(saved.done);
+        EXPECT_TRUE(saved.done && saved.network == NetworkChange::None);
         EXPECT_EQ(saved.title, name);
-        EXPECT_EQ(saved.network, NetworkChange::None);
         EXPECT_EQ(State(), Path(file) + "|typed");
         EXPECT_EQ(FileBytes(folder / file), SampleWith("two taps, one pump", "typed"));
         EXPECT_EQ(project->numins, 2);
@@ -92,12 +88,13 @@ TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
     project->ProjectDescription = "later";
     project->numins = 50;
     const Project before = *project;
-    boxes.Expect(SaveFailed(Path("folder.iv") + " is a folder"));
+    boxes.Expect(SaveFailed(Path("folder.iv") + " is a folder")).Expect(question, Answer::No);
     EXPECT_FALSE(Confirm(FilePurpose::Save, "folder").done) << "the window keeps what was typed";
+    EXPECT_FALSE(Confirm(FilePurpose::Save, "b").done);
+    EXPECT_EQ(*project, before) << "neither named nor described nor recounted";
     boxes.Expect(question, Answer::No).Expect(question, Answer::Yes);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), SaveOutcome::Declined);
     EXPECT_EQ(DescriptionIn(project->ProjectName), "typed");
-    EXPECT_EQ(*project, before) << "not saved, not recounted";
     EXPECT_EQ(SaveToOwnFile(*project, boxes), SaveOutcome::Saved);
     EXPECT_EQ(DescriptionIn(project->ProjectName), "later");
     EXPECT_EQ(DescriptionIn(project->ProjectName + "~"), "typed") << "the previous version";
@@ -105,7 +102,9 @@ TEST_F(FileCommands, SavingNamesTheProjectAndAsksBeforeItReplacesAFile) {
 
 TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
     const std::string course = "run along a row or a column, from one cell to another";
-    PutFile(folder / "good.iv", kSampleText);
+    for (const char* good : {"good.iv", "good", "UP.IV", "unsaved.iv~"}) {
+        PutFile(folder / good, kSampleText);
+    }
     PutFile(folder / "cut.iv", "2.6.3\r\n");
     PutFile(folder / "bent.iv", SampleWith(" 2500          1.2", " 2499          1.2"));
     PutFile(folder / "old.iv", " 2.4 \r\nwhatever");
@@ -126,6 +125,12 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
     };
     const std::vector<Case> cases = {
         {"good", {}, Path("good.iv") + "|two taps, one pump", "good", NetworkChange::Replaced},
+        {"UP.IV", {}, Path("UP.IV") + "|two taps, one pump", "UP.IV", NetworkChange::Replaced},
+        {"unsaved.iv~",
+         {},
+         Path("unsaved.iv~") + "|two taps, one pump",
+         "unsaved.iv~",
+         NetworkChange::Replaced},
         {"cut", ProjectMalformed("line 2: the line is missing"), stays},
         {"bent", ProjectMalformed("pipe 4 must " + course), stays},
         {"line", ProjectMalformed("line 1: the file ends inside the line"), stays},
@@ -135,18 +140,22 @@ TEST_F(FileCommands, OpeningReplacesTheProjectOrSaysWhyNot) {
         {"old", tooOld, "New project|typed", "New project", NetworkChange::Emptied},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
         project = SampleProject();
         project->ProjectName = "mine.iv";
         const Project before = *project;
         if (c.box) boxes.Expect(*c.box);
         const FileChange change = Confirm(FilePurpose::Open, c.name);
-        EXPECT_EQ(change.done, c.state != stays) << c.name;
+        EXPECT_EQ(change.done, c.state != stays);
         EXPECT_EQ(change.title, c.title);
-        EXPECT_EQ(change.network, c.network) << c.name;
+        EXPECT_EQ(change.network, c.network);
         EXPECT_EQ(State(), c.state);
-        EXPECT_EQ(*project == before, c.state == stays) << c.name;
+        EXPECT_EQ(*project == before, c.state == stays);
         EXPECT_EQ(project->numtubo, c.name == "old" ? 0 : 4);
     }
+    PutFile(folder / "a:b", kSampleText);
+    EXPECT_EQ(OpenNamedFile(folder / "a:b", *project, boxes).title, "a:b") << "as it stands";
+    EXPECT_EQ(State(), Path("a:b") + "|two taps, one pump");
 }
 
 TEST_F(FileCommands, ANewProjectForgetsItsFile) {
@@ -157,25 +166,30 @@ TEST_F(FileCommands, ANewProjectForgetsItsFile) {
     EXPECT_FALSE(NewProject(*project, boxes));
     EXPECT_EQ(State(), "mine.iv|two taps, one pump");
     EXPECT_TRUE(NewProject(*project, boxes));
-    EXPECT_EQ(State(), "New project|two taps, one pump");
+    EXPECT_EQ(State(), "New project|");
     EXPECT_EQ(project->numtubo, 0);
     EXPECT_EQ(SaveToOwnFile(*project, boxes), std::nullopt) << "the window is needed";
+    EXPECT_TRUE(UnsavedText(*project)) << "the table stays, and is worth keeping";
+    project->TableRows.fill({});
+    project->TableRows[kLastTableRow + 1].EndPoint = 1;
+    EXPECT_EQ(UnsavedText(*project), std::nullopt) << "slots beyond those in use do not count";
 }
 
 TEST_F(FileCommands, WhatIsLeftUnsavedIsKept) {
     const fs::path copy = folder / kUnsavedFile;
-    EXPECT_EQ(UnsavedText(*std::make_unique<Project>()), std::nullopt) << "nothing to lose";
+    EXPECT_EQ(*KeepUnsaved({}, folder.Path()), "");
     const auto first = UnsavedText(*project);
-    KeepUnsaved(first, folder / "absent");
-    KeepUnsaved(first, folder.Path());
-    const auto again = std::make_unique<Project>();
+    EXPECT_NE(KeepUnsaved(first, folder / "absent").Error().find("No such file"),
+              std::string::npos);
+    EXPECT_EQ(*KeepUnsaved(first, folder.Path()), "Unsaved work is kept in " + copy.string());
+    const auto again = NewTestProject();
     EXPECT_TRUE(ReadProjectText(FileBytes(copy), *again));
     EXPECT_EQ(again->numtubo, 4);
     ASSERT_TRUE(Confirm(FilePurpose::Save, "plant").done);
     EXPECT_EQ(UnsavedText(*project), std::nullopt) << "its own file holds the same";
     project->Pipes[1].Length += 1;
     const auto second = UnsavedText(*project);
-    for (int times = 0; times < 2; ++times) KeepUnsaved(second, folder.Path());
+    for (int times = 0; times < 2; ++times) EXPECT_NE(*KeepUnsaved(second, folder.Path()), "");
     EXPECT_EQ(FileBytes(copy), second);
     EXPECT_EQ(FileBytes(copy.string() + "~"), first) << "the same again leaves the one before";
 }

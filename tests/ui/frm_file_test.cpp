@@ -64,11 +64,12 @@ TEST_F(FileWindow, SavesUnderTheTypedNameAndSavesThereAgain) {
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [plant]");
 
     project.ProjectDescription = "changed";
-    boxes.Expect(kOverwriteFile, Answer::No).Expect(kOverwriteFile, Answer::Yes);
-    Choose("Salva");
-    EXPECT_NE(FileBytes(folder / "plant.iv").find("two loops"), std::string::npos);
+    boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kOverwriteFile, Answer::No);
     Choose("Salva");
     EXPECT_NE(FileBytes(folder / "plant.iv").find("changed"), std::string::npos);
+    Open("Salva2", "FrmFile");
+    Do("Text3=old;Command1");
+    EXPECT_EQ(mdi->windowTitle() + Shown("Text3"), "Idrova 2.6.3 - [plant]old") << "stays open";
 }
 
 TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
@@ -103,6 +104,9 @@ TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
     Q_EMIT drives.activated(drives.currentIndex());
     EXPECT_EQ(Shown("Text2"), "/old.iv");
     EXPECT_TRUE(Items("Dir1").contains("tmp") && !Items("Dir1").contains(".."));
+    drives.setCurrentText(PathToQt(folder.Path()));
+    Q_EMIT drives.activated(drives.currentIndex());
+    EXPECT_EQ(Shown("Text2"), Path("old.iv")) << "the working folder is one of the places";
 }
 
 TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
@@ -121,6 +125,7 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     Do("Command1");
     const std::string unsaved = FileBytes(folder / kUnsavedFile);
     EXPECT_NE(unsaved, "") << "both pipes had not been saved";
+    EXPECT_EQ(Shown("StatusSaid"), "Unsaved work is kept in " + Path("unsaved.iv"));
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
     EXPECT_EQ(project.ProjectDescription, "to be found again");
     EXPECT_EQ(LinesDrawn(), 1);
@@ -159,6 +164,9 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
 }
 
 TEST(Drives, TheLongestStartOfThePathHoldsTheFolder) {
+    const auto all = Drives({"", "/", "/samples"});
+    EXPECT_EQ(std::ranges::count(all, "/"), 1);
+    EXPECT_EQ(std::ranges::count(all, "") + std::ranges::count(all, "/samples"), 1);
     const std::vector<std::string> drives{"/", "/home/ann", "/media/ann/stick"};
     EXPECT_EQ(DriveOf("/home/ann/work", drives), "/home/ann");
     EXPECT_EQ(DriveOf("/home/anna", drives), "/");

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/mdi.h"
 
+#include <QDesktopServices>
 #include <QDockWidget>
 #include <QDropEvent>
+#include <QGraphicsView>
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QTextBrowser>
 #include <QUrl>
 #include <map>
 #include <set>
@@ -14,6 +17,7 @@
 #include "hydraulics/messages.h"
 #include "main_window.h"
 #include "projectfile/messages.h"
+#include "projectfile/unsaved_copy.h"
 #include "shell/menu_table.h"
 #include "shell/messages.h"
 #include "ui/kit/qt_text.h"
@@ -58,16 +62,58 @@ TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
     mdi->Hints().close();
     EXPECT_FALSE(hintsAreShown());
 
-    boxes.Expect(kManualNotice)
-        .Expect(kExitQuestion, Answer::Cancel)
-        .Expect(kExitQuestion, Answer::Ok);
-    Choose("Help");
+    project.TableRows[2].StartPoint = 1;
+    boxes.Expect(kExitQuestion, Answer::Cancel).Expect(kExitQuestion, Answer::Ok);
     Choose("Esci");
     EXPECT_TRUE(mdi->isVisible());
+    EXPECT_FALSE(std::filesystem::exists(folder / kUnsavedFile));
     Choose("Esci");
     EXPECT_FALSE(mdi->isVisible());
+    EXPECT_TRUE(std::filesystem::exists(folder / kUnsavedFile));
+    std::filesystem::remove(folder / kUnsavedFile);
     mdi->show();
     EXPECT_TRUE(mdi->close()) << "by its frame, without a question";
+    EXPECT_TRUE(std::filesystem::exists(folder / kUnsavedFile));
+    std::filesystem::remove_all(folder.Path());
+    boxes.Expect({UnsavedLost("Cannot write " + (folder / kUnsavedFile).string() +
+                              ": No such file or directory"),
+                  kExitQuestion.title});
+    mdi->show();
+    EXPECT_TRUE(mdi->close());
+}
+
+TEST_F(MainWindow, HelpShowsTheManualAndHintsFitTheMode) {
+    QTextBrowser viewer;
+    QDesktopServices::setUrlHandler("file", &viewer, "setSource");
+    PutFile(folder / "manual.pdf", "manual");
+    boxes.Expect(kManualNotice).Expect(kManualNotice);
+    Choose("Help");
+    EXPECT_EQ(Shown("StatusSaid"), "The user manual was not found");
+    program->shipped.manual = folder / "manual.pdf";
+    Choose("Help");
+    EXPECT_EQ(viewer.source().toLocalFile(), PathToQt(folder / "manual.pdf"));
+    QDesktopServices::unsetUrlHandler("file");
+    EXPECT_EQ(Shown("StatusSaid"), "") << "a command takes the words of the one before away";
+    for (const auto& [mode, hint] : {std::pair("Tabella", "compute the table"),
+                                     std::pair("sintub", "the unknown one is computed at once")}) {
+        Choose(mode);
+        Choose("Helpslinea");
+        EXPECT_EQ(Shown("Label4"), hint);
+    }
+}
+
+TEST_F(MainWindow, DataWindowsStayAboveTheWindowOfTheMode) {
+    Open("Veloce", "FrmVel");
+    const auto isAbove = [this] {
+        const auto order = mdi->Windows().subWindowList(QMdiArea::StackingOrder);
+        return order.back()->widget() == window;
+    };
+    EXPECT_TRUE(isAbove());
+    QTest::mouseClick(Child<QGraphicsView>("Drawing").viewport(), Qt::RightButton);
+    EXPECT_TRUE(isAbove());
+    Choose("Tabella");
+    EXPECT_EQ(Window("FrmVel"), nullptr) << "it acts on the drawing";
+    EXPECT_FALSE(Item("Veloce").isEnabled());
 }
 
 TEST_F(MainWindow, AboutWindowOpensProgressivelyAndStaysInReach) {
@@ -102,6 +148,7 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
     CollectMenu(mdi->menuBar()->actions(), "", menus);
     std::map<QString, qsizetype> next;
     std::map<QString, std::set<QString>> keys;
+    std::set<QString> shortcuts{"F2"};  // edits a cell of the table
     for (const MenuEntry& entry : MenuTable()) {
         SCOPED_TRACE(std::string(entry.name));
         const QString menu = ToQt(entry.parent);
@@ -111,8 +158,10 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
         EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
         EXPECT_EQ(action.text().remove('&'), ToQt(entry.caption));
         EXPECT_EQ(action.isChecked(), IsChecked(entry, project.settings, program->shell));
-        EXPECT_EQ(QKeySequence::listToString(action.shortcuts(), QKeySequence::PortableText),
-                  ToQt(entry.shortcut));
+        const QString keysOf =
+            QKeySequence::listToString(action.shortcuts(), QKeySequence::PortableText);
+        EXPECT_EQ(keysOf, ToQt(entry.shortcut));
+        EXPECT_TRUE(keysOf.isEmpty() || shortcuts.insert(keysOf).second);
         EXPECT_EQ(isMenu, action.statusTip().isEmpty());
         const QString key = QKeySequence::mnemonic(action.text()).toString();
         EXPECT_TRUE(!key.isEmpty() && keys[menu].insert(key).second) << "no mnemonic of its own";
@@ -134,8 +183,10 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
     Choose("Cor2");
     EXPECT_TRUE(Item("Cor1").isChecked());
     project.settings.FluidCompressibility = 1;
-    Choose("Cor2");
-    EXPECT_TRUE(Item("Cor2").isChecked());
+    for (const char* name : {"Cor2", "Cor1"}) {
+        Choose(name);
+        EXPECT_TRUE(Item(name).isChecked());
+    }
 }
 
 TEST_F(MainWindow, DroppedProjectIsOpenedAndOtherFilesAreNot) {

@@ -39,14 +39,17 @@ TEST(StartWithFile, PathsWithBlanksReachTheProgramWhole) {
     const TempFolder folder;
     const auto program = folder / "my editor";
     PutFile(program,
-            "#!/bin/sh\necho \"$#:$1:$PWD\" > \"$1.seen.tmp\"\nmv \"$1.seen.tmp\" \"$1.seen\"\n");
+            "#!/bin/sh\n[ -t 0 ] || [ -t 1 ] || echo \"$#:$1:$PWD\" > \"$1.seen\"\nexit 3\n");
     std::filesystem::permissions(program, std::filesystem::perms::owner_all);
     const auto file = folder / "the results.dat";
-    ASSERT_TRUE(StartWithFile(program, file));
-    const auto seen = folder / "the results.dat.seen";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return std::filesystem::exists(seen); }));
-    EXPECT_EQ(FileBytes(seen), "1:" + file.string() + ":" + folder.Path().string() + "\n");
-    EXPECT_NE(StartWithFile(folder / "vanished", file).Error().find("vanished"), std::string::npos);
+    std::string told;
+    const auto gaveUp = [&told](const std::string& words) { told = words; };
+    ASSERT_TRUE(StartWithFile(program, file, *qApp, gaveUp));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !told.empty(); })) << "it ended with an error";
+    EXPECT_EQ(FileBytes(folder / "the results.dat.seen"),
+              "1:" + file.string() + ":" + folder.Path().string() + "\n");
+    const Status absent = StartWithFile(folder / "vanished", file, *qApp, gaveUp);
+    EXPECT_NE(absent.Error().find("vanished"), std::string::npos);
 }
 
 TEST(KeypadPoint, TheDecimalKeyOfTheKeypadWritesAPeriod) {

@@ -35,6 +35,10 @@ class Run : public DrawingWindow {
 
     std::string Stored() { return FileBytes(folder / "out.dat"); }
     bool IsMarked() { return outcome.styleSheet().contains("background-color"); }
+    bool IsRed() {
+        const QColor ground = outcome.grab().toImage().pixelColor(3, 3);
+        return ground.red() > 2 * std::max(ground.green(), ground.blue());
+    }
     QToolButton& outcome = Child<QToolButton>("StatusOutcome");
 };
 
@@ -80,7 +84,7 @@ TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
 TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     boxes.Expect(kSelectAFluid);
     Do("Command1");
-    EXPECT_TRUE(outcome.isVisible() && IsMarked());
+    EXPECT_TRUE(outcome.isVisible() && IsRed());
     boxes.Expect({outcome.text().toStdString(), "Computation", BoxIcon::Exclamation});
     outcome.click();
 
@@ -89,7 +93,7 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     EXPECT_FALSE(outcome.isVisible()) << "it is that of the drawing";
     Do("Command1");
     EXPECT_GT(program->work.WorkPipes[1].FlowRate, 1);
-    EXPECT_FALSE(IsMarked());
+    EXPECT_FALSE(IsRed());
     const std::string report = Stored();
     ChangeCell(project, program->table, 2, 3, "7");
     boxes.Expect(PointsLeaveGap("2 to 6 are missing"));
@@ -97,7 +101,7 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     Do("Command1");
     EXPECT_EQ(program->work.WorkPipes[1].FlowRate, -1);
     EXPECT_EQ(outcome.text(), "Not computed");
-    EXPECT_TRUE(IsMarked());
+    EXPECT_TRUE(IsRed());
     EXPECT_EQ(program->report, report);
     Choose("Grafico");
     EXPECT_TRUE(outcome.isVisible());

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/commands.h"
 
+#include <QDesktopServices>
+#include <QUrl>
+
 #include "hydraulics/run_settings.h"
 #include "physdata/pipe_settings.h"
+#include "results/messages.h"
 #include "results/report.h"
 #include "results/results_file.h"
 #include "shell/messages.h"
@@ -13,6 +17,7 @@
 #include "ui/frame/run_commands.h"
 #include "ui/kit/child_windows.h"
 #include "ui/kit/print_text.h"
+#include "ui/kit/qt_text.h"
 #include "ui/kit/start_program.h"
 #include "ui/program.h"
 #include "ui/windows/frm_con.h"
@@ -84,8 +89,14 @@ void AttachResults(MDI& mdi) {
     MenuBar& menu = mdi.Menu();
     Program& program = mdi.State();
     menu.Attach("Stampa", [&mdi] { PrintLastResults(mdi); });
-    menu.Attach("Risultati",
-                [&program] { ShowResults(program.folder, program.boxes, StartWithFile); });
+    menu.Attach("Risultati", [&mdi, &program] {
+        ShowResults(
+            program.folder, program.boxes, [&mdi, &program](const auto& editor, const auto& file) {
+                return StartWithFile(editor, file, mdi, [&program](const std::string& reason) {
+                    program.boxes.Show({reason, kShowTitle});
+                });
+            });
+    });
     menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
     menu.Attach("Risultatiseq", [&program] {
         program.project.settings.ResultsInSequence = !program.project.settings.ResultsInSequence;
@@ -114,11 +125,19 @@ void AttachDataWindows(MDI& mdi) {
     });
 }
 
+void ShowManual(MDI& mdi) {
+    const Program& program = mdi.State();
+    program.boxes.Show(kManualNotice);
+    const QString manual = PathToQt(program.shipped.manual);
+    if (!manual.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(manual))) return;
+    mdi.Say(ManualNotShown(program.shipped.manual.string()));
+}
+
 void AttachHelp(MDI& mdi) {
     MenuBar& menu = mdi.Menu();
     Program& program = mdi.State();
     menu.Attach("Helpslinea", [&program] { program.shell.HintsShown = !program.shell.HintsShown; });
-    menu.Attach("Help", [&program] { program.boxes.Show(kManualNotice); });
+    menu.Attach("Help", [&mdi] { ShowManual(mdi); });
     menu.Attach("Logo", [&mdi] { mdi.Windows().Open("FrmLogo", [] { return new FrmLogo; }); });
 }
 
@@ -128,6 +147,7 @@ void AttachCommands(MDI& mdi) {
     Program& program = mdi.State();
     mdi.Menu().run = [&mdi](const std::function<void()>& command) {
         mdi.TakeEdits();
+        mdi.Say({});
         command();
         mdi.ShowState();
     };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/file_commands.h"
 
-#include <QStatusBar>
-
 #include "physdata/pump_constants.h"
 #include "projectfile/file_form.h"
 #include "projectfile/project_file.h"
@@ -41,8 +39,28 @@ void TakeNetwork(MDI& mdi, NetworkChange change) {
     program.tableModel.StartAnew();
     program.records.erase(WorkMode::Table);
     TakeDrawing(mdi);
-    const bool isTable = program.project.numtubo == 0 && CountTableRows(program.project) > 0;
-    if (isTable && isDrawn) mdi.statusBar()->showMessage(kProjectIsTable);
+}
+
+/// Keeps what was left unsaved, and says so.
+void Keep(MDI& mdi, const std::optional<std::string>& unsaved) {
+    const Result<std::string> kept = KeepUnsaved(unsaved, mdi.State().folder);
+    mdi.Say(kept ? *kept : kept.Error());
+}
+
+/// The same after another project has been opened, which may be one for another mode.
+void KeepBehind(MDI& mdi, const std::optional<std::string>& unsaved) {
+    Keep(mdi, unsaved);
+    const Project& project = mdi.State().project;
+    const bool isTable = project.numtubo == 0 && CountTableRows(project) > 0;
+    if (isTable && project.settings.Mode == WorkMode::Graphic) mdi.Say(kProjectIsTable);
+}
+
+/// Shows what became of a file command.
+void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folder) {
+    Program& program = mdi.State();
+    program.titleName = change.title;
+    program.lastFolder = folder;
+    if (change.network != NetworkChange::None) TakeNetwork(mdi, change.network);
 }
 
 /// True when the file window is to close.
@@ -51,10 +69,8 @@ bool Confirm(MDI& mdi, const FileForm& form) {
     const auto unsaved = UnsavedText(program.project);
     const FileChange change = ConfirmFileForm(form, program.project, program.boxes);
     if (!change.done) return false;
-    program.titleName = change.title;
-    program.lastFolder = form.folder;
-    if (change.network != NetworkChange::None) TakeNetwork(mdi, change.network);
-    if (form.purpose == FilePurpose::Open) KeepUnsaved(unsaved, program.folder);
+    Take(mdi, change, form.folder);
+    if (form.purpose == FilePurpose::Open) KeepBehind(mdi, unsaved);
     mdi.ShowState();
     return true;
 }
@@ -85,7 +101,7 @@ void New(MDI& mdi) {
     program.titleName = program.project.ProjectName;
     RereadComponents(program);
     TakeDrawing(mdi);
-    KeepUnsaved(unsaved, program.folder);
+    Keep(mdi, unsaved);
 }
 
 }  // namespace
@@ -100,10 +116,13 @@ void AttachFileCommands(MDI& mdi) {
 
 void OpenFile(MDI& mdi, const std::filesystem::path& path) {
     Program& program = mdi.State();
-    FileForm form = StartFileForm(FilePurpose::Open, path.parent_path(), program.project);
-    ClickFile(form, path.filename().string(), program.boxes);
-    Confirm(mdi, form);
+    const auto unsaved = UnsavedText(program.project);
+    const FileChange change = OpenNamedFile(path, program.project, program.boxes);
     program.lastFolder = path.parent_path();
+    if (!change.done) return;
+    Take(mdi, change, path.parent_path());
+    KeepBehind(mdi, unsaved);
+    mdi.ShowState();
 }
 
 }  // namespace idrova

@@ -16,6 +16,7 @@
 #include "model/version.h"
 #include "physdata/fluids.h"
 #include "projectfile/unsaved_copy.h"
+#include "shell/messages.h"
 #include "ui/drawing/frm_cel.h"
 #include "ui/frame/commands.h"
 #include "ui/frame/edit_commands.h"
@@ -105,14 +106,15 @@ void MDI::OpenModeWindow() {
     for (const std::string_view name : {"FrmCel", "FrmTable", "FrmSin"}) {
         if (name != wanted) windows_->Close(name);
     }
-    statusBar()->clearMessage();  // it names a cell of the drawing
+    if (mode != WorkMode::Graphic) windows_->Close("FrmVel");  // it acts on the drawing
+    statusBar()->clearMessage();                               // it names a cell of the drawing
     windows_->Open(
         wanted, [&] { return MakeModeWindow(mode, program_); }, ChildWindows::Place::FillsArea);
 }
 
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
-    menu_->ShowChecks(settings, program_.shell);
+    menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);
     panel_->ShowState();
     statusLine_->ShowSettings(settings);
@@ -128,6 +130,10 @@ void MDI::ShowOutcome() {
     const RunRecord& run = record->second;
     const bool current = run.inputs == InputsOf(program_.project);
     statusLine_->ShowOutcome(run.outcome, current ? ResultAge::Current : ResultAge::OutOfDate);
+}
+
+void MDI::Say(const std::string& words) {
+    statusLine_->Say(words);
 }
 
 void MDI::TakeEdits() {
@@ -160,7 +166,8 @@ void MDI::dropEvent(QDropEvent* event) {
 
 void MDI::closeEvent(QCloseEvent* event) {
     TakeEdits();
-    KeepUnsaved(UnsavedText(program_.project), program_.folder);
+    const Result<std::string> kept = KeepUnsaved(UnsavedText(program_.project), program_.folder);
+    if (!kept) program_.boxes.Show({kept.Error(), kExitQuestion.title});
     QMainWindow::closeEvent(event);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QMainWindow>
 #include <memory>
+#include <string>
 
 namespace idrova {
 
@@ -33,6 +34,9 @@ class MDI : public QMainWindow {
     /// Every window, check marks, panel, hint window, status bar and title as the state has them;
     /// what shows it already is left alone.
     void ShowState();
+
+    /// Says something in the status bar, until the next command.
+    void Say(const std::string& words);
 
     /// Moves the keyboard between the child windows and the command panel.
     void SwitchFocus(bool backwards);

@@ -59,12 +59,13 @@ void MenuBar::ShowItem(std::string_view item, const QString& caption, bool enabl
     action.setEnabled(enabled);
 }
 
-void MenuBar::ShowChecks(const Settings& settings, const ShellState& shell) {
+void MenuBar::ShowState(const Settings& settings, const ShellState& shell) {
     for (const MenuEntry& entry : MenuTable()) {
         const auto found = items_.find(entry.name);
-        if (found != items_.end() && found->second.action->isCheckable()) {
-            found->second.action->setChecked(IsChecked(entry, settings, shell));
-        }
+        if (found == items_.end()) continue;
+        QAction& action = *found->second.action;
+        action.setEnabled(IsEnabled(entry, settings.Mode));
+        if (action.isCheckable()) action.setChecked(IsChecked(entry, settings, shell));
     }
 }
 

@@ -24,10 +24,11 @@ class MenuBar {
     void Attach(std::string_view item, std::function<void()> command);
 
     void ShowItem(std::string_view item, const QString& caption, bool enabled);
-    void ShowChecks(const Settings& settings, const ShellState& shell);
+    /// Check marks, and what can be chosen.
+    void ShowState(const Settings& settings, const ShellState& shell);
 
     /// Runs the command of a chosen item. Choosing a checkable item has already flipped its mark:
-    /// `ShowChecks` puts it right.
+    /// `ShowState` puts it right.
     std::function<void(const std::function<void()>& command)> run =
         [](const std::function<void()>& command) { command(); };
 

@@ -42,10 +42,14 @@ QString FluidText(const Settings& settings) {
 
 StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     : boxes_(boxes),
+      said_(Named(new QLabel, "StatusSaid")),
       mode_(Named(new QLabel, "StatusMode")),
       fluid_(Named(new QLabel, "StatusFluid")),
       outcomeButton_(Named(new QToolButton, "StatusOutcome")) {
-    fluid_->setTextFormat(Qt::PlainText);
+    for (QLabel* label : {said_, fluid_}) label->setTextFormat(Qt::PlainText);
+    // A long text is cut: it must not widen the main window.
+    said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar.addWidget(said_, 1);
     for (QLabel* label : {fluid_, mode_}) label->setContentsMargins(8, 0, 8, 0);
     outcomeButton_->setAutoRaise(true);
     outcomeButton_->hide();
@@ -54,6 +58,11 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     bar.addPermanentWidget(outcomeButton_);
     bar.addPermanentWidget(fluid_);
     bar.addPermanentWidget(mode_);
+}
+
+void StatusLine::Say(const std::string& words) {
+    said_->setText(ToQt(words));
+    said_->setToolTip(ToQt(words));
 }
 
 void StatusLine::ShowSettings(const Settings& settings) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <optional>
+#include <string>
 
 #include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
@@ -14,14 +14,16 @@ class QToolButton;
 
 namespace idrova {
 
-/// The permanent part of the status bar: mode, fluid, and what became of the last computation.
-/// A click on the outcome shows all its notes.
+/// The part of the status bar that stays: what a command had to say, what became of the last
+/// computation, fluid and mode. A click on the outcome shows all its notes.
 class StatusLine {
   public:
     StatusLine(QStatusBar& bar, MessageBoxes& boxes);
     StatusLine(const StatusLine&) = delete;
     StatusLine& operator=(const StatusLine&) = delete;
 
+    /// On the left, where the tips are, until it is replaced. Empty words take it away.
+    void Say(const std::string& words);
     void ShowSettings(const Settings& settings);
     void ShowOutcome(const Outcome& outcome, ResultAge age);
     /// Nothing has been computed in this mode.
@@ -31,6 +33,7 @@ class StatusLine {
     void ShowNotes();
 
     MessageBoxes& boxes_;
+    QLabel* said_;
     QLabel* mode_;
     QLabel* fluid_;
     QToolButton* outcomeButton_;

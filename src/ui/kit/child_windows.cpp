@@ -46,11 +46,14 @@ ChildWindow* ChildWindows::Open(std::string_view name, const std::function<Child
         if (window == nullptr) return nullptr;
         QMdiSubWindow* frame = addSubWindow(window, window->FrameFlags());
         frame->setAttribute(Qt::WA_DeleteOnClose);
+        // Above the window of the mode also when that is clicked.
+        frame->setWindowFlag(Qt::WindowStaysOnTopHint, place == Place::Centred);
         frame->show();
         if (place == Place::FillsArea) {
             filling_ = frame;
             FillArea();
         } else {
+            frame->resize(frame->size().boundedTo(viewport()->size()));
             PlaceCentred(frame);
         }
     }

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QStorageInfo>
+#include <algorithm>
 
 #include "ui/kit/qt_text.h"
 
@@ -20,15 +21,26 @@ bool IsInside(const std::string& folder, const std::string& drive) {
            (drive.ends_with('/') || folder.size() == drive.size() || folder[drive.size()] == '/');
 }
 
-}  // namespace
-
-std::vector<std::string> Drives() {
+std::vector<std::string> MachineDrives() {
     std::vector<std::string> drives;
     for (const QFileInfo& drive : QDir::drives()) drives.push_back(FromQt(drive.absolutePath()));
     if (drives.size() > 1) return drives;
     drives.push_back(FromQt(QDir::homePath()));
     for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
         if (IsForUsers(volume.rootPath())) drives.push_back(FromQt(volume.rootPath()));
+    }
+    return drives;
+}
+
+}  // namespace
+
+std::vector<std::string> Drives(const std::vector<std::filesystem::path>& places) {
+    std::vector<std::string> drives = MachineDrives();
+    for (const std::filesystem::path& place : places) {
+        const std::string folder = FromQt(PathToQt(place));
+        if (!folder.empty() && std::ranges::find(drives, folder) == drives.end()) {
+            drives.push_back(folder);
+        }
     }
     return drives;
 }

@@ -19,6 +19,7 @@ namespace {
 using namespace std::chrono_literals;
 constexpr auto kLookEvery = 50ms;
 constexpr int kLooks = 200;
+constexpr int kLooksForNew = 20;  ///< then an editor is taken to reuse its window
 
 }  // namespace
 
@@ -35,12 +36,12 @@ class EditorWindow::Desktop {
     Desktop& operator=(const Desktop&) = delete;
 
     /// True when the window was there.
-    bool BringToFront(qint64 pid, const QString& fileName) {
+    bool BringToFront(qint64 pid, const QString& fileName, bool mayBeOld) {
         for (const xcb_window_t window : Windows()) {
-            if (std::ranges::find(before_, window) != before_.end()) continue;
-            if (Process(window) != pid && !Title(window).contains(fileName, Qt::CaseInsensitive)) {
-                continue;
-            }
+            const bool isOld = std::ranges::find(before_, window) != before_.end();
+            if (isOld && !mayBeOld) continue;
+            const bool showsFile = Title(window).contains(fileName, Qt::CaseInsensitive);
+            if (!showsFile && (isOld || Process(window) != pid)) continue;
             Maximise(window);
             return true;
         }
@@ -101,7 +102,8 @@ void EditorWindow::BringToFront(qint64 pid, const QString& fileName) const {
     auto* timer = new QTimer(qGuiApp);
     timer->setInterval(kLookEvery);
     const auto look = [pid, fileName, timer, desktop = desktop_, looks = 0]() mutable {
-        if (desktop->BringToFront(pid, fileName) || ++looks == kLooks) timer->deleteLater();
+        const bool found = desktop->BringToFront(pid, fileName, looks >= kLooksForNew);
+        if (found || ++looks == kLooks) timer->deleteLater();
     };
     QObject::connect(timer, &QTimer::timeout, timer, look);
     timer->start();

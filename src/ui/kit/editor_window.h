@@ -15,7 +15,8 @@ class EditorWindow {
 
     /// Has the window maximised and brought to the front: the first one that opens within ten
     /// seconds and is of process `pid`, or bears the file's name when the process hands the file
-    /// on to another. Returns at once.
+    /// on to another; when none has opened after a second, one that bore the name before. Returns
+    /// at once.
     void BringToFront(qint64 pid, const QString& fileName) const;
 
   private:

@@ -47,13 +47,13 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose, Confirm confirm)
       program_(program),
       confirm_(std::move(confirm)),
       form_(StartFileForm(purpose, NearestFolder(program.lastFolder), program.project)),
-      Drive1(Named(new QComboBox, "Drive1")),
-      Dir1(Named<QListWidget>(new FolderList, "Dir1")),
-      File1(Named(new QListWidget, "File1")),
-      Text1(TextField("Text1")),
-      Text2(ComputedField("Text2")),
-      Text3(TextField("Text3")),
-      Text4(TextField("Text4")) {
+      drive_(Named(new QComboBox, "Drive1")),
+      folders_(Named<QListWidget>(new FolderList, "Dir1")),
+      files_(Named(new QListWidget, "File1")),
+      filter_(TextField("Text1")),
+      path_(ComputedField("Text2")),
+      name_(TextField("Text3")),
+      description_(TextField("Text4")) {
     auto* column = new QVBoxLayout(this);
     column->addWidget(MakeLists(), 1);
     column->addWidget(MakeFields());
@@ -62,7 +62,7 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose, Confirm confirm)
     ShowFolder();
     ShowForm();
     ConnectControls();
-    setFocusProxy(Text3);
+    setFocusProxy(name_);
     resize(620, 520);
 }
 
@@ -70,12 +70,12 @@ QWidget* FrmFile::MakeLists() {
     auto* lists = new QWidget;
     auto* grid = new QGridLayout(lists);
     grid->setContentsMargins(0, 0, 0, 0);
-    grid->addWidget(LabelFor(Drive1, "Drive:"), 0, 0);
-    grid->addWidget(Drive1, 1, 0);
-    grid->addWidget(LabelFor(Dir1, "Folder:"), 2, 0);
-    grid->addWidget(Dir1, 3, 0);
-    grid->addWidget(LabelFor(File1, "Files:"), 0, 1);
-    grid->addWidget(File1, 1, 1, 3, 1);
+    grid->addWidget(LabelFor(drive_, "Drive:"), 0, 0);
+    grid->addWidget(drive_, 1, 0);
+    grid->addWidget(LabelFor(folders_, "Folder:"), 2, 0);
+    grid->addWidget(folders_, 3, 0);
+    grid->addWidget(LabelFor(files_, "Files:"), 0, 1);
+    grid->addWidget(files_, 1, 1, 3, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     return lists;
@@ -85,10 +85,10 @@ QWidget* FrmFile::MakeFields() {
     auto* fields = new QWidget;
     auto* form = new QFormLayout(fields);
     form->setContentsMargins(0, 0, 0, 0);
-    form->addRow(LabelFor(Text1, "File type:"), Text1);
-    form->addRow(LabelFor(Text3, "File name:"), Text3);
-    form->addRow(LabelFor(Text2, "Full path:"), Text2);
-    form->addRow(LabelFor(Text4, "Description:"), Text4);
+    form->addRow(LabelFor(filter_, "File type:"), filter_);
+    form->addRow(LabelFor(name_, "File name:"), name_);
+    form->addRow(LabelFor(path_, "Full path:"), path_);
+    form->addRow(LabelFor(description_, "Description:"), description_);
     return fields;
 }
 
@@ -98,84 +98,87 @@ QWidget* FrmFile::MakeButtons() {
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch(1);
     const bool saving = form_.purpose == FilePurpose::Save;
-    auto* command1 = Named(new QPushButton(saving ? "Save" : "Open"), "Command1");
-    auto* command2 = Named(new QPushButton("Exit"), "Command2");
-    for (QPushButton* button : {command1, command2}) row->addWidget(button);
-    SetDefaultButton(command1);
-    KeepReturnIn(Dir1);  // it enters the folder
-    connect(command1, &QPushButton::clicked, this, [this] { Command1_Click(); });
-    connect(command2, &QPushButton::clicked, this, [this] { CloseWindow(); });
+    auto* confirm = Named(new QPushButton(saving ? "Save" : "Open"), "Command1");
+    auto* exit = Named(new QPushButton("Exit"), "Command2");
+    for (QPushButton* button : {confirm, exit}) row->addWidget(button);
+    SetDefaultButton(confirm);
+    KeepReturnIn(folders_);  // it enters the folder
+    connect(confirm, &QPushButton::clicked, this, [this] { ConfirmForm(); });
+    connect(exit, &QPushButton::clicked, this, [this] { CloseWindow(); });
     return buttons;
 }
 
 void FrmFile::FillDrives() {
-    for (const std::string& drive : Drives()) Drive1->addItem(ToQt(drive));
+    // A long path is cut: it must not widen its column.
+    drive_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    drives_ = Drives({program_.folder, program_.shipped.samples});
+    for (const std::string& drive : drives_) drive_->addItem(ToQt(drive));
 }
 
 void FrmFile::ConnectControls() {
-    connect(Drive1, &QComboBox::activated, this, [this] { Drive1_Change(); });
-    connect(Dir1, &QListWidget::itemActivated, this,
-            [this](const QListWidgetItem* item) { Dir1_Change(*item); });
-    connect(Text1, &QLineEdit::textChanged, this, [this](const QString& text) {
+    connect(drive_, &QComboBox::activated, this, [this] { DriveChosen(); });
+    connect(folders_, &QListWidget::itemActivated, this,
+            [this](const QListWidgetItem* item) { FolderChosen(*item); });
+    connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) {
         TypeFilter(form_, FromQt(text));
         ShowFiles();
     });
-    connect(Text3, &QLineEdit::textChanged, this, [this](const QString& text) {
+    connect(name_, &QLineEdit::textChanged, this, [this](const QString& text) {
         TypeName(form_, FromQt(text), program_.boxes);
         ShowForm();
     });
-    connect(Text4, &QLineEdit::textChanged, this,
-            [this](const QString& text) { form_.Text4 = FromQt(text); });
-    connect(File1, &QListWidget::itemClicked, this,
-            [this](const QListWidgetItem* item) { File1_Click(item->text()); });
+    connect(description_, &QLineEdit::textChanged, this,
+            [this](const QString& text) { form_.description = FromQt(text); });
+    connect(files_, &QListWidget::itemClicked, this,
+            [this](const QListWidgetItem* item) { FileClicked(item->text()); });
     // Queued, so that a message box never opens inside the press of a mouse button.
     connect(
-        File1, &QListWidget::itemSelectionChanged, this,
+        files_, &QListWidget::itemSelectionChanged, this,
         [this] {
-            for (const QListWidgetItem* item : File1->selectedItems()) {
-                if (item->text() != clicked_) File1_Click(item->text());
+            for (const QListWidgetItem* item : files_->selectedItems()) {
+                if (item->text() != clicked_) FileClicked(item->text());
             }
         },
         Qt::QueuedConnection);
-    connect(File1, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) {
+    connect(files_, &QListWidget::itemDoubleClicked, this, [this](const QListWidgetItem* item) {
         DoubleClickFile(form_, FromQt(item->text()));
         ShowForm();
     });
 }
 
 void FrmFile::ShowForm() {
-    ShowText(*Text1, form_.Text1);
-    ShowText(*Text2, form_.Text2);
-    ShowText(*Text3, form_.Text3);
-    ShowText(*Text4, form_.Text4);
+    ShowText(*filter_, form_.filter);
+    ShowText(*path_, form_.path);
+    ShowText(*name_, form_.name);
+    ShowText(*description_, form_.description);
 }
 
 void FrmFile::ShowFolder() {
     const QDir folder(ToQt(form_.folder));
-    Dir1->clear();
-    if (!folder.isRoot()) Dir1->addItem(kParentFolder);
-    Dir1->addItems(
+    folders_->clear();
+    if (!folder.isRoot()) folders_->addItem(kParentFolder);
+    folders_->addItems(
         folder.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase));
-    Dir1->setToolTip(ToQt(form_.folder));
-    Drive1->setCurrentText(ToQt(DriveOf(form_.folder, Drives())));
+    folders_->setToolTip(ToQt(form_.folder));
+    drive_->setCurrentText(ToQt(DriveOf(form_.folder, drives_)));
     ShowFiles();
 }
 
 void FrmFile::ShowFiles() {
-    const QSignalBlocker quiet(File1);
+    const QSignalBlocker quiet(files_);
     const bool all = form_.pattern.empty() || form_.pattern == "*.*";
     clicked_.clear();
-    File1->clear();
-    File1->addItems(QDir(ToQt(form_.folder))
-                        .entryList({all ? QString("*") : ToQt(form_.pattern)}, QDir::Files,
-                                   QDir::Name | QDir::IgnoreCase));
+    files_->clear();
+    files_->addItems(QDir(ToQt(form_.folder))
+                         .entryList({all ? QString("*") : ToQt(form_.pattern)}, QDir::Files,
+                                    QDir::Name | QDir::IgnoreCase));
 }
 
-void FrmFile::Drive1_Change() {
-    GoTo(PathFromQt(Drive1->currentText()));
+void FrmFile::DriveChosen() {
+    GoTo(PathFromQt(drive_->currentText()));
 }
 
-void FrmFile::Dir1_Change(const QListWidgetItem& item) {
+void FrmFile::FolderChosen(const QListWidgetItem& item) {
     const std::filesystem::path folder = form_.folder;
     if (item.text() == kParentFolder) {
         GoTo(NearestFolder(folder.parent_path()));
@@ -194,13 +197,13 @@ void FrmFile::GoTo(const std::filesystem::path& folder) {
     ShowForm();
 }
 
-void FrmFile::File1_Click(const QString& name) {
+void FrmFile::FileClicked(const QString& name) {
     clicked_ = name;
     ClickFile(form_, FromQt(name), program_.boxes);
     ShowForm();
 }
 
-void FrmFile::Command1_Click() {
+void FrmFile::ConfirmForm() {
     if (confirm_(form_)) CloseWindow();
 }
 

@@ -4,6 +4,8 @@
 #include <QString>
 #include <filesystem>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "projectfile/file_form.h"
 #include "ui/kit/child_window.h"
@@ -45,22 +47,23 @@ class FrmFile : public ChildWindow {
     /// Shows a folder, or says that it cannot be read and stays.
     void GoTo(const std::filesystem::path& folder);
 
-    void Drive1_Change();
-    void Dir1_Change(const QListWidgetItem& item);
-    void File1_Click(const QString& name);
-    void Command1_Click();
+    void DriveChosen();
+    void FolderChosen(const QListWidgetItem& item);
+    void FileClicked(const QString& name);
+    void ConfirmForm();
 
     Program& program_;
     Confirm confirm_;
     FileForm form_;
+    std::vector<std::string> drives_;
     QString clicked_;  ///< the file of the list that the form shows
-    QComboBox* Drive1;
-    QListWidget* Dir1;
-    QListWidget* File1;
-    QLineEdit* Text1;
-    QLineEdit* Text2;
-    QLineEdit* Text3;
-    QLineEdit* Text4;
+    QComboBox* drive_;
+    QListWidget* folders_;
+    QListWidget* files_;
+    QLineEdit* filter_;
+    QLineEdit* path_;
+    QLineEdit* name_;
+    QLineEdit* description_;
 };
 
 }  // namespace idrova

@@ -38,7 +38,8 @@ FrmHelp::FrmHelp(Program& program, QWidget* parent)
 }
 
 void FrmHelp::ShowState() {
-    const auto lines = HintLines(program_.editor);
+    const WorkMode mode = program_.project.settings.Mode;
+    const auto lines = mode == WorkMode::Graphic ? HintLines(program_.editor) : ModeHints(mode);
     for (std::size_t i = 0; i < lines_.size(); ++i) lines_[i]->setText(ToQt(lines[i]));
     setVisible(program_.shell.HintsShown);
 }
