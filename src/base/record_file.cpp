@@ -6,6 +6,7 @@
 #include <cmath>
 #include <system_error>
 
+#include "base/assertion.h"
 #include "base/file.h"
 #include "base/text_encoding.h"
 
@@ -47,6 +48,7 @@ bool IsAbsent(const std::filesystem::path& path) {
 }  // namespace
 
 RecordWriter::RecordWriter(std::string_view latin1Name) {
+    Assert(latin1Name.size() + 2 <= kRecordBytes);
     PutLittleEndian(bytes_, at_, static_cast<std::uint32_t>(latin1Name.size()), 2);
     for (const char c : latin1Name) bytes_.at(at_++) = static_cast<unsigned char>(c);
 }

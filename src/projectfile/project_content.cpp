@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "model/drawn_records.h"
+#include "base/assertion.h"
 #include "model/grid.h"
 
 namespace idrova {
@@ -87,6 +88,7 @@ void PutCells(const ProjectContent& content, Project& project) {
 }  // namespace
 
 void PutContent(const ProjectContent& content, Project& project) {
+    Assert(project.numtubo == 0 && project.npres == 0);
     PutPipesAndPoints(content, project);
     PutCells(content, project);
     std::copy(content.rows.begin(), content.rows.end(), project.TableRows.begin() + kFirstTableRow);

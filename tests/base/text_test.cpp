@@ -6,6 +6,7 @@
 #include <tuple>
 #include <vector>
 
+#include "base/assertion.h"
 #include "base/number_text.h"
 #include "base/print_zones.h"
 #include "base/text_encoding.h"
@@ -100,6 +101,11 @@ TEST(NumberText, RoundsHalvesToEvenAndClamps) {
     }
     EXPECT_EQ(ScaledSingle(.5142785F, 1000), 514.2785F);
     EXPECT_EQ(ScaledSingle(kLargestSingle, 2), kLargestSingle);
+}
+
+TEST(Assert, EndsTheProgramInEveryBuildAndNamesThePlace) {
+    Assert(true);
+    EXPECT_DEATH(Assert(false), "text_test.cpp:[0-9]+: an assertion does not hold");
 }
 
 TEST(TextEncoding, GoesFromLatin1ToUtf8AndBackAndCountsCharacters) {

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <utility>
 
+#include "base/assertion.h"
 #include "shell/menu_table.h"
 #include "ui/kit/qt_text.h"
 
@@ -50,7 +51,8 @@ MenuBar::MenuBar(QMenuBar& bar) {
 }
 
 void MenuBar::Attach(std::string_view item, std::function<void()> command) {
-    items_.at(item).command = std::move(command);
+    Assert(items_.contains(item));
+    items_[item].command = std::move(command);
 }
 
 void MenuBar::ShowItem(std::string_view item, const QString& caption, bool enabled) {
