@@ -3,6 +3,9 @@
 #include <iostream>
 
 #include "base/file.h"
+#include "physdata/fluids.h"
+#include "physdata/pipe_settings.h"
+#include "physdata/settings_file.h"
 #include "projectfile/project_file.h"
 #include "sample_drawing.h"
 #include "table/table_edit.h"
@@ -216,8 +219,26 @@ SampleTable Irrigation() {
     return table;
 }
 
-void Put(const Project& project, const fs::path& path) {
-    const Status written = WriteWholeFile(path, ProjectFileText(project));
+/// The settings of a new project, with a fluid of the database.
+StoredSettings SettingsWith(const FluidDb& fluids, std::string_view name) {
+    StoredSettings stored{{}, kRoughnessPresets[0].item};
+    for (int slot = 1; slot <= fluids.count; ++slot) {
+        if (fluids[slot].name == name) SetCurrentFluid(stored.settings, fluids[slot]);
+    }
+    if (stored.settings.FluidName.empty()) throw std::runtime_error("no such fluid");
+    return stored;
+}
+
+StoredSettings AirSettings(const FluidDb& fluids) {
+    StoredSettings stored = SettingsWith(fluids, "Air");
+    stored.settings.EquationType = Equation::Compressible;
+    stored.settings.FluidTemperature = 20;
+    return stored;
+}
+
+void Put(const Project& project, const StoredSettings& settings, const fs::path& path) {
+    Status written = WriteWholeFile(path, ProjectFileText(project));
+    if (written) written = WriteSettingsOf(path, settings);
     if (!written) throw std::runtime_error(written.Error());
 }
 
@@ -225,11 +246,15 @@ void MakeSamples(const fs::path& databases, const fs::path& output) {
     ComponentLists lists;
     NoBoxes boxes;
     LoadComponentDatabases(lists, databases, boxes);
-    Put(BoosterStation(lists).Drawn(), output / "booster-station.iv");
-    Put(CompressedAir(lists).Drawn(), output / "compressed-air.iv");
-    Put(HeatingCircuit(lists).Drawn(), output / "heating-circuit.iv");
-    Put(Irrigation().Typed(), output / "irrigation-table.iv");
-    Put(RingMain(lists).Drawn(), output / "ring-main.iv");
+    FluidDb fluids;
+    LoadFluids(fluids, databases, boxes);
+    const StoredSettings water = SettingsWith(fluids, "Water 20 \u00B0C");
+    const StoredSettings warm = SettingsWith(fluids, "Water 60 \u00B0C");
+    Put(BoosterStation(lists).Drawn(), water, output / "booster-station.iv");
+    Put(CompressedAir(lists).Drawn(), AirSettings(fluids), output / "compressed-air.iv");
+    Put(HeatingCircuit(lists).Drawn(), warm, output / "heating-circuit.iv");
+    Put(Irrigation().Typed(), water, output / "irrigation-table.iv");
+    Put(RingMain(lists).Drawn(), water, output / "ring-main.iv");
 }
 
 }  // namespace

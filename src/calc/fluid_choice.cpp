@@ -47,6 +47,7 @@ bool ChooseFluid(Settings& settings, const Options& options, MessageBoxes& boxes
         UseProperties(settings, options.properties);
         return true;
     }
+    if (options.fluid.empty() && settings.FluidDensity > 0) return true;
     const Result<FluidDb> db = ReadRecords<FluidRecord>(options.data);
     if (!db) {
         boxes.Show({db.Error(), kFluidsTitle});

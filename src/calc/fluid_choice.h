@@ -6,9 +6,9 @@
 
 namespace idrova {
 
-/// Makes the fluid that the options ask for the current one. Without a database, and without
-/// properties, none is current. False, told in a box, when the database cannot be read or has no
-/// such fluid.
+/// Makes the fluid that the options ask for the current one; a current one that they do not name
+/// stays. Without a database, and without properties, none is current. False, told in a box, when
+/// the database cannot be read or has no such fluid.
 bool ChooseFluid(Settings& settings, const Options& options, MessageBoxes& boxes);
 
 }  // namespace idrova

@@ -51,8 +51,8 @@ CLI::Option* AddNumber(CLI::App& app, const std::string& option, Target& target,
     return app.add_option_function<std::string>(option, store, help)->type_name("NUMBER");
 }
 
-template <typename Value>
-void AddChoice(CLI::App& app, const std::string& option, Value& target, const std::string& help,
+template <typename Value, typename Target>
+void AddChoice(CLI::App& app, const std::string& option, Target& target, const std::string& help,
                const std::vector<std::pair<std::string, Value>>& choices) {
     std::string names;
     for (const auto& [name, value] : choices) names += (names.empty() ? "" : "|") + name;
@@ -86,6 +86,8 @@ void AddFluidOptions(CLI::App& app, Options& options) {
 void AddComputationOptions(CLI::App& app, Options& options) {
     AddChoice<WorkMode>(app, "--mode", options.mode, "What to compute (graphic)",
                         {{"graphic", WorkMode::Graphic}, {"table", WorkMode::Table}});
+    app.add_flag("--no-settings", options.noSettings,
+                 "Leave the settings beside the project (NAME.settings.json) alone");
     AddNumber(app, "--roughness", options.roughness, "Roughness of the pipes, m (0.0001)",
               NotNegative);
     AddChoice<Section>(app, "--section", options.section, "Section of the pipes (circular)",

@@ -26,16 +26,18 @@ struct Options {
     std::vector<std::filesystem::path> projects;  ///< at least one
     std::filesystem::path data;  ///< folder of the databases and of the results file
 
-    std::string fluid;           ///< record number or name; empty for the first record
+    std::string fluid;           ///< record number or name; empty for none named
     FluidProperties properties;  ///< used when the density is given
 
     WorkMode mode = WorkMode::Graphic;
-    Section section = Section::Circular;
-    Equation equation = Equation::Incompressible;
-    Unit pressureUnit = Unit::Bar;
-    std::optional<double> roughness;  ///< m
-    double temperature = 0;           ///< degrees Celsius
-    double basePressure = 0;          ///< bar
+    bool noSettings = false;  ///< leave the settings beside the project alone
+    // Each of these goes before the settings beside the project.
+    std::optional<Section> section;
+    std::optional<Equation> equation;
+    std::optional<Unit> pressureUnit;
+    std::optional<double> roughness;     ///< m
+    std::optional<double> temperature;   ///< degrees Celsius
+    std::optional<double> basePressure;  ///< bar
     std::optional<std::uint32_t> seed;
     std::vector<VariantChange> changes;  ///< of every project, before it is computed
 

@@ -13,6 +13,7 @@
 #include "physdata/messages.h"
 #include "physdata/pipe_settings.h"
 #include "physdata/pump_constants.h"
+#include "physdata/settings_file.h"
 #include "projectfile/project_file.h"
 #include "results/messages.h"
 #include "shell/run_command.h"
@@ -58,19 +59,42 @@ class ProjectRun {
   private:
     bool Prepare() {
         InitialiseProject(*project_);
+        if (!TakeStoredSettings()) return false;
         ApplySettings();
         return SaveIsAllowed() && ChooseFluid(project_->settings, options_, boxes_) && Open() &&
                CompletePumps() && Change();
     }
 
+    /// False, told in a box, when there are some that cannot be read: the results would be others.
+    bool TakeStoredSettings() {
+        if (options_.noSettings) return true;
+        const auto stored = ReadSettingsOf(path_);
+        if (!stored) return true;
+        if (!*stored) {
+            boxes_.Show({SettingsUnread(stored->Error()), path_.string()});
+            return false;
+        }
+        UseSettings(**stored, project_->settings);
+        roughnessItem_ = (*stored)->roughnessItem;
+        return true;
+    }
+
+    /// Each option goes before its stored setting.
     void ApplySettings() {
-        project_->settings.Mode = options_.mode;
-        project_->settings.SectionType = options_.section;
-        project_->settings.Roughness = options_.roughness.value_or(project_->settings.Roughness);
-        project_->settings.FluidTemperature = ToSingle(options_.temperature);
-        project_->settings.BasePressure = ToSingle(options_.basePressure * kPascalPerBar);
-        project_->settings.ResultsInSequence = follows_;
-        ChoosePressureUnit(project_->settings, options_.pressureUnit);
+        Settings& settings = project_->settings;
+        settings.Mode = options_.mode;
+        settings.SectionType = options_.section.value_or(settings.SectionType);
+        settings.EquationType = options_.equation.value_or(settings.EquationType);
+        settings.ResultsInSequence = follows_;
+        if (options_.temperature) settings.FluidTemperature = ToSingle(*options_.temperature);
+        if (options_.basePressure) {
+            settings.BasePressure = ToSingle(*options_.basePressure * kPascalPerBar);
+        }
+        if (options_.roughness) {
+            settings.Roughness = *options_.roughness;
+            roughnessItem_ = kUserRoughnessItem;
+        }
+        ChoosePressureUnit(settings, options_.pressureUnit.value_or(settings.PressureUnit));
     }
 
     bool SaveIsAllowed() {
@@ -111,7 +135,7 @@ class ProjectRun {
     }
 
     void Compute() {
-        const bool gas = options_.equation == Equation::Compressible;
+        const bool gas = project_->settings.EquationType == Equation::Compressible;
         if (gas && !ChooseCompressible(project_->settings, boxes_)) return;
         TableTexts texts;
         FillTable(*project_, texts);
@@ -135,7 +159,9 @@ class ProjectRun {
 
     bool Save() {
         if (options_.save.empty() || !run_.results) return true;
-        return Told(WriteProject(*project_, options_.save), kSaveTitle);
+        Status saved = WriteProject(*project_, options_.save);
+        if (saved) saved = WriteSettingsOf(options_.save, {project_->settings, roughnessItem_});
+        return Told(saved, kSaveTitle);
     }
 
     bool Export() {
@@ -184,6 +210,7 @@ class ProjectRun {
     std::unique_ptr<Project> project_ = std::make_unique<Project>();
     std::unique_ptr<WorkNetwork> work_ = std::make_unique<WorkNetwork>();
     RunRecord run_;
+    std::string_view roughnessItem_ = kRoughnessPresets[0].item;
     std::string report_;
     bool reportFailed_ = false;
 };

@@ -20,14 +20,6 @@ int SlotNamed(const FluidDb& db, std::string_view name) {
     return 0;
 }
 
-/// The name of the current fluid without the number of its record.
-std::string_view PlainName(std::string_view name) {
-    const std::size_t end = name.find("] ");
-    const bool numbered = name.starts_with('[') && end != std::string_view::npos &&
-                          name.find_first_not_of("0123456789", 1) == end;
-    return numbered ? name.substr(end + 2) : name;
-}
-
 /// The values without the name.
 FluidFields ValuesOf(FluidFields fields) {
     fields.name.clear();
@@ -39,7 +31,7 @@ FluidFields ValuesOf(FluidFields fields) {
 FluidFields ShowFluidInUse(const Settings& settings, const FluidDb& db) {
     FluidFields fields;
     if (settings.FluidDensity == 0) return fields;
-    fields.name = PlainName(settings.FluidName);
+    fields.name = PlainFluidName(settings.FluidName);
     if (const int slot = SlotNamed(db, fields.name); slot != 0) fields = ShowFluid(db[slot]);
     fields.density = GeneralText(settings.FluidDensity);
     fields.viscosity = GeneralText(settings.FluidViscosity);

@@ -44,6 +44,13 @@ void SetCurrentFluid(Settings& settings, const FluidRecord& fluid) {
     settings.FluidName = fluid.name;
 }
 
+std::string_view PlainFluidName(std::string_view name) {
+    const std::size_t end = name.find("] ");
+    const bool numbered = name.starts_with('[') && end != std::string_view::npos &&
+                          name.find_first_not_of("0123456789", 1) == end;
+    return numbered ? name.substr(end + 2) : name;
+}
+
 void LoadCurrentFluid(Settings& settings, FluidDb& db, const std::filesystem::path& folder,
                       MessageBoxes& boxes) {
     LoadFluids(db, folder, boxes);

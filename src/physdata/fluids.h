@@ -41,6 +41,9 @@ bool LoadFluids(FluidDb& db, const std::filesystem::path& folder, MessageBoxes& 
 /// same decimal text.
 void SetCurrentFluid(Settings& settings, const FluidRecord& fluid);
 
+/// The name of a current fluid without the number of its record, "[3] ".
+std::string_view PlainFluidName(std::string_view name);
+
 /// At start-up: loads the database and makes its first fluid the current one; without one, the
 /// properties are 0 and the name is empty.
 void LoadCurrentFluid(Settings& settings, FluidDb& db, const std::filesystem::path& folder,

@@ -12,6 +12,22 @@ constexpr std::string_view kFluidsTitle = "Fluids database";
 constexpr std::string_view kPumpsTitle = "Pumps database";
 constexpr std::string_view kLossesTitle = "Concentrated losses database";
 
+constexpr std::string_view kSettingsDamaged = "the file of its settings is damaged";
+constexpr std::string_view kSettingsNewer =
+    "the file of its settings was written by a newer version";
+
+inline std::string SettingsFault(const std::string& key) {
+    return "the file of its settings is damaged at \"" + key + "\"";
+}
+
+inline std::string SettingsUnread(const std::string& reason) {
+    return "The settings that this project was saved with are not known: " + reason;
+}
+
+inline std::string SettingsDiffer(const std::string& difference) {
+    return "This project was saved with other settings: " + difference;
+}
+
 constexpr FixedMessage kRedefineVolumeFlows{"The flow rates defined in [mc/h] must be redefined",
                                             "Change fluid", BoxIcon::Information};
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -14,6 +15,7 @@
 #include "model/project.h"
 #include "physdata/component_lists.h"
 #include "physdata/fluids.h"
+#include "physdata/settings_file.h"
 #include "results/run_record.h"
 #include "shell/shell_state.h"
 #include "shell/start_up.h"
@@ -36,6 +38,8 @@ struct Program {
 
     Project project;
     std::string titleName = kNewProject;  ///< of the project, as the main window's title shows it
+    /// The settings beside the open project, until the user takes or leaves them.
+    std::optional<Result<StoredSettings>> offered;
     WorkNetwork work;
     TableTexts table;
     TableModel tableModel{project, table};  ///< holds the edits that can be undone

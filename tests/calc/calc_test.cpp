@@ -362,11 +362,19 @@ const std::vector<Sample> kSamples = {
      "",
      {{"pump 967", 17773.5, .2}, {"pipe 18", -35527.2, .2}, {"point 27", 127369, 60}}},
     {"compressed-air.iv",
+<<<<<<< HEAD
      "--fluid Air --equation compressible --temperature 20",
      {{"pipe 7", -22.48, .04}, {"point 8", 685548, 5}, {"point 15", 681162.5, 5}}},
     {"heating-circuit.iv",
      "--fluid 'Water 60 °C'",
      {{"pump 406", 3950, .2}, {"pipe 7", 1358.3, .2}, {"pipe 11", 1283, .2}}},
+=======
+     "",
+     {{"pipes", 7, -22.48, .04}, {"points", 8, 685548, 5}, {"points", 15, 681162.5, 5}}},
+    {"heating-circuit.iv",
+     "",
+     {{"pumps", 406, 3950, .2}, {"pipes", 7, 1358.3, .2}, {"pipes", 11, 1283, .2}}},
+>>>>>>> dabf28e (physdata: let the settings travel beside a project)
     {"irrigation-table.iv",
      "--mode table",
      {{"pipe 36", 13346.1, .2}, {"point 13", 370056, 20}, {"point 35", 367491.5, 20}}},
@@ -401,6 +409,24 @@ struct Found {
     std::map<std::string, double> values;
     std::map<int, double> balance;
 };
+
+TEST_F(Calc, SettingsBesideTheProjectAreTakenUnlessTold) {
+    const std::string air =
+        "--json --no-report --data '" IDROVA_DATA "' " IDROVA_DATA "/samples/compressed-air.iv ";
+    const auto dropOf = [&](const std::string& options) {
+        return Run(air + options).Parsed()["pipes"][0]["drop_Pa"].get<double>();
+    };
+    const double drop = dropOf("");
+    EXPECT_NEAR(dropOf("--no-settings --fluid Air --equation compressible --temperature 20"), drop,
+                1e-3 * drop);
+    EXPECT_GT(std::abs(dropOf("--no-settings") - drop), .1 * drop);
+    EXPECT_GT(dropOf("--temperature 80"), 1.1 * drop);
+    EXPECT_EQ(Run("--save b.iv --temperature 5 plant.iv").status, 0);
+    EXPECT_THAT(FileBytes(folder / "b.settings.json"), HasSubstr("\"temperature_C\": 5.0,"));
+    PutFile(folder / "b.settings.json", "{");
+    EXPECT_EQ(Run("b.iv").status, 2);
+    EXPECT_EQ(Run("--no-settings b.iv").status, 0);
+}
 
 TEST_F(Calc, SamplesAreWhatAUserCouldDrawAndSettleToWhatTheirReadmeStates) {
     for (const Sample& sample : kSamples) {

@@ -4,6 +4,7 @@
 #include <QListWidget>
 
 #include "drawing_window.h"
+#include "physdata/settings_file.h"
 #include "projectfile/messages.h"
 #include "projectfile/project_file.h"
 #include "projectfile/unsaved_copy.h"
@@ -161,6 +162,43 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     EXPECT_EQ(Shown("Frame3"), "Pipe 1");
     OpenFile(*mdi, folder / "saved.iv");
     EXPECT_EQ(Shown("Frame3"), "Pipe") << "opened beside the table, too";
+}
+
+TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
+    ASSERT_TRUE(WriteProject(project, folder / "gas.iv"));
+    StoredSettings stored{project.settings, "t4"};
+    stored.settings.FluidTemperature = 20;
+    stored.settings.Roughness = .002;
+    ASSERT_TRUE(WriteSettingsOf(folder / "gas.iv", stored));
+    const auto& bar = Child<QWidget>("SettingsBar");
+    const auto open = [&] { OpenFile(*mdi, folder / "gas.iv"); };
+    open();
+    EXPECT_TRUE(bar.isVisible() &&
+                Shown("SettingsOffer").endsWith("roughness 2 mm, temperature 20 °C"));
+    EXPECT_EQ(project.settings.FluidTemperature, 0);
+    boxes.Expect(kOverwriteFile, Answer::Yes);
+    Choose("Salva");
+    EXPECT_TRUE(bar.isVisible());
+    Do("SettingsKeep");
+    EXPECT_FALSE(bar.isVisible());
+    open();
+    ASSERT_TRUE(bar.isVisible()) << "a save before the choice has left them alone";
+    Do("SettingsUse");
+    EXPECT_FALSE(bar.isVisible());
+    EXPECT_EQ(project.settings, stored.settings);
+    EXPECT_EQ(Shown("RoughnessLabel"), "partially rusty...  2.00E-3");
+    Choose("Rettangolare");
+    boxes.Expect(kOverwriteFile, Answer::Yes);
+    Choose("Salva");
+    EXPECT_EQ((*ReadSettingsOf(folder / "gas.iv"))->settings.SectionType, Section::Rectangular);
+    open();
+    EXPECT_FALSE(bar.isVisible()) << "they are the present ones";
+    PutFile(folder / "gas.settings.json", "{");
+    open();
+    EXPECT_TRUE(bar.isVisible() && !Child<QWidget>("SettingsUse").isVisible());
+    boxes.Expect(kLeaveProject, Answer::Ok);
+    Choose("Nuovo");
+    EXPECT_FALSE(bar.isVisible());
 }
 
 TEST(Drives, TheLongestStartOfThePathHoldsTheFolder) {

@@ -2,7 +2,9 @@
 #include "ui/frame/file_commands.h"
 
 #include "physdata/pump_constants.h"
+#include "physdata/settings_file.h"
 #include "projectfile/file_form.h"
+#include "projectfile/messages.h"
 #include "projectfile/project_file.h"
 #include "projectfile/unsaved_copy.h"
 #include "ui/frame/mdi.h"
@@ -60,7 +62,18 @@ void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folde
     Program& program = mdi.State();
     program.titleName = change.title;
     program.lastFolder = folder;
-    if (change.network != NetworkChange::None) TakeNetwork(mdi, change.network);
+    if (change.network == NetworkChange::None) return;
+    TakeNetwork(mdi, change.network);
+    program.offered = ReadSettingsOf(program.project.ProjectName);
+    if (SettingsOffer(program.offered, program.project.settings).empty()) program.offered.reset();
+}
+
+/// Beside the project that was saved. While other settings are on offer the file is left alone.
+void SaveSettings(Program& program) {
+    if (program.offered) return;
+    const Status written = WriteSettingsOf(program.project.ProjectName,
+                                           {program.project.settings, program.shell.roughnessItem});
+    if (!written) program.boxes.Show(SaveFailed(written.Error()));
 }
 
 /// True when the file window is to close.
@@ -70,6 +83,7 @@ bool Confirm(MDI& mdi, const FileForm& form) {
     const FileChange change = ConfirmFileForm(form, program.project, program.boxes);
     if (!change.done) return false;
     Take(mdi, change, form.folder);
+    if (form.purpose == FilePurpose::Save) SaveSettings(program);
     if (form.purpose == FilePurpose::Open) KeepBehind(mdi, unsaved);
     mdi.ShowState();
     return true;
@@ -90,7 +104,9 @@ void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
 
 void Save(MDI& mdi) {
     Program& program = mdi.State();
-    if (!SaveToOwnFile(program.project, program.boxes)) ShowFileWindow(mdi, FilePurpose::Save);
+    const auto saved = SaveToOwnFile(program.project, program.boxes);
+    if (!saved) ShowFileWindow(mdi, FilePurpose::Save);
+    if (saved == SaveOutcome::Saved) SaveSettings(program);
 }
 
 /// A new project keeps the rows of the table, so its texts and its edits stay as well.
@@ -99,6 +115,7 @@ void New(MDI& mdi) {
     const auto unsaved = UnsavedText(program.project);
     if (!NewProject(program.project, program.boxes)) return;
     program.titleName = program.project.ProjectName;
+    program.offered.reset();
     RereadComponents(program);
     TakeDrawing(mdi);
     Keep(mdi, unsaved);

@@ -12,6 +12,7 @@
 #include <QShortcut>
 #include <QStatusBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 #include "model/version.h"
 #include "physdata/fluids.h"
@@ -22,6 +23,7 @@
 #include "ui/frame/edit_commands.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/menu_bar.h"
+#include "ui/frame/settings_bar.h"
 #include "ui/frame/status_line.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
@@ -74,6 +76,7 @@ MDI::MDI(Program& program)
     : program_(program),
       menu_(std::make_unique<MenuBar>(*menuBar())),
       statusLine_(std::make_unique<StatusLine>(*statusBar(), program.boxes)),
+      settingsBar_(new SettingsBar(program)),
       windows_(new ChildWindows),
       panel_(new FrmCom(program, this)),
       hints_(new FrmHelp(program, this)) {
@@ -81,7 +84,13 @@ MDI::MDI(Program& program)
     setAcceptDrops(true);
     // The menu of docks would show the hint window behind the back of its menu item.
     setContextMenuPolicy(Qt::PreventContextMenu);
-    setCentralWidget(windows_);
+    auto* centre = new QWidget;
+    auto* column = new QVBoxLayout(centre);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(settingsBar_);
+    column->addWidget(windows_, 1);
+    setCentralWidget(centre);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
@@ -116,6 +125,7 @@ void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
     menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);
+    settingsBar_->ShowState();
     panel_->ShowState();
     statusLine_->ShowSettings(settings);
     ShowOutcome();

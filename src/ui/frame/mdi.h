@@ -11,6 +11,7 @@ class ChildWindows;
 class FrmCom;
 class FrmHelp;
 class MenuBar;
+class SettingsBar;
 class StatusLine;
 struct Program;
 
@@ -57,6 +58,7 @@ class MDI : public QMainWindow {
     Program& program_;
     std::unique_ptr<MenuBar> menu_;
     std::unique_ptr<StatusLine> statusLine_;
+    SettingsBar* settingsBar_;
     ChildWindows* windows_;
     FrmCom* panel_;
     FrmHelp* hints_;
