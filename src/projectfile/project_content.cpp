@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "model/drawn_records.h"
 #include "base/assertion.h"
+#include "model/drawn_records.h"
 #include "model/grid.h"
 
 namespace idrova {

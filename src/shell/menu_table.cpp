@@ -28,6 +28,7 @@ constexpr MenuEntry kMenuTable[] = {
      .caption = "Open",
      .shortcut = "Ctrl+O",
      .tip = "Open a project file"},
+    {.name = "Recenti", .parent = "File", .caption = "Open recent", .kind = Menu, .mnemonic = 7},
     {.name = "Salva",
      .parent = "File",
      .caption = "Save",
@@ -209,6 +210,12 @@ constexpr MenuEntry kMenuTable[] = {
      .caption = "Results saved in sequence",
      .kind = Check,
      .tip = "Add each report at the end of the results file"},
+    {.name = "BarraStrumenti",
+     .parent = "Opzioni",
+     .caption = "Tool bar",
+     .kind = Check,
+     .tip = "Show or hide the tool bar",
+     .separated = true},
 
     {.name = "Help", .parent = "", .caption = "Help", .kind = Menu},
     {.name = "Helpslinea",
@@ -256,6 +263,7 @@ bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
 
 bool IsChecked(const MenuEntry& entry, const Settings& settings, const ShellState& shell) {
     if (entry.name == "Helpslinea") return shell.HintsShown;
+    if (entry.name == "BarraStrumenti") return shell.ToolBarShown;
     if (entry.name == "Risultatiseq") return settings.ResultsInSequence;
     for (const std::string_view checked : CheckedEntries(settings, shell)) {
         if (entry.name == checked) return true;

@@ -8,9 +8,10 @@
 
 namespace idrova {
 
-/// What the main window remembers beside the project. Starts anew with every run.
+/// What the main window remembers beside the project.
 struct ShellState {
-    bool HintsShown = true;                 ///< the hint window is open
+    bool HintsShown = true;  ///< the hint window is open
+    bool ToolBarShown = true;
     std::string_view roughnessItem = "t1";  ///< menu item of the roughness last chosen
 };
 

@@ -362,19 +362,11 @@ const std::vector<Sample> kSamples = {
      "",
      {{"pump 967", 17773.5, .2}, {"pipe 18", -35527.2, .2}, {"point 27", 127369, 60}}},
     {"compressed-air.iv",
-<<<<<<< HEAD
-     "--fluid Air --equation compressible --temperature 20",
+     "",
      {{"pipe 7", -22.48, .04}, {"point 8", 685548, 5}, {"point 15", 681162.5, 5}}},
     {"heating-circuit.iv",
-     "--fluid 'Water 60 °C'",
+     "",
      {{"pump 406", 3950, .2}, {"pipe 7", 1358.3, .2}, {"pipe 11", 1283, .2}}},
-=======
-     "",
-     {{"pipes", 7, -22.48, .04}, {"points", 8, 685548, 5}, {"points", 15, 681162.5, 5}}},
-    {"heating-circuit.iv",
-     "",
-     {{"pumps", 406, 3950, .2}, {"pipes", 7, 1358.3, .2}, {"pipes", 11, 1283, .2}}},
->>>>>>> dabf28e (physdata: let the settings travel beside a project)
     {"irrigation-table.iv",
      "--mode table",
      {{"pipe 36", 13346.1, .2}, {"point 13", 370056, 20}, {"point 35", 367491.5, 20}}},

@@ -5,6 +5,8 @@
 
 #include <set>
 
+#include "shell/recent_files.h"
+
 namespace idrova {
 namespace {
 
@@ -20,19 +22,30 @@ Names Checked(const Settings& settings, const ShellState& shell) {
 
 TEST(MenuTable, CheckMarksAndWhatCanBeChosenFollowTheState) {
     Settings settings;
-    EXPECT_EQ(Checked(settings, {}),
-              (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar", "Helpslinea"}));
+    EXPECT_EQ(Checked(settings, {}), (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar",
+                                            "Helpslinea", "BarraStrumenti"}));
     settings.Mode = WorkMode::SinglePipe;
     settings.SectionType = Section::Rectangular;
     settings.EquationType = Equation::Compressible;
     settings.PressureUnit = Unit::MilliBar;
     settings.ResultsInSequence = true;
-    EXPECT_EQ(Checked(settings, {.HintsShown = false, .roughnessItem = "tt"}),
-              (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq"}));
+    EXPECT_EQ(
+        Checked(settings, {.HintsShown = false, .ToolBarShown = false, .roughnessItem = "tt"}),
+        (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq"}));
     for (const MenuEntry& entry : MenuTable()) {
         EXPECT_TRUE(IsEnabled(entry, WorkMode::Graphic));
         EXPECT_EQ(IsEnabled(entry, WorkMode::Table), entry.name != "Veloce");
     }
+}
+
+TEST(RecentFiles, TheLastTenStandOnceTheNewestFirst) {
+    std::vector<std::string> files;
+    for (int i = 0; i < 12; ++i) files = WithRecentFile(files, "/a/" + std::to_string(i));
+    files = WithRecentFile(files, "/a/5");
+    EXPECT_EQ(files.size(), 10U);
+    EXPECT_EQ(files[0] + files[1] + files[9], "/a/5/a/11/a/2");
+    EXPECT_EQ(RecentFileCaption(0, "/a&b/c&d.iv"), "&1 c&&d.iv - /a&&b");
+    EXPECT_EQ(RecentFileCaption(9, "/c.iv"), "&0 c.iv - /");
 }
 
 }  // namespace

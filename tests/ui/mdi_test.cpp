@@ -10,6 +10,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QTextBrowser>
+#include <QToolBar>
 #include <QUrl>
 #include <map>
 #include <set>
@@ -17,6 +18,7 @@
 #include "hydraulics/messages.h"
 #include "main_window.h"
 #include "projectfile/messages.h"
+#include "projectfile/project_file.h"
 #include "projectfile/unsaved_copy.h"
 #include "shell/menu_table.h"
 #include "shell/messages.h"
@@ -187,6 +189,46 @@ TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
         Choose(name);
         EXPECT_TRUE(Item(name).isChecked());
     }
+}
+
+TEST_F(MainWindow, ToolBarRunsTheCommandsAndIsRememberedHidden) {
+    const auto& bar = Child<QToolBar>("ToolBar");
+    const auto press = [&](const char* item) {
+        for (QAction* action : bar.actions()) {
+            if (action->objectName() == item) action->trigger();
+        }
+    };
+    boxes.Expect(kLeaveProject, Answer::Cancel).Expect(kSelectAFluid);
+    press("Nuovo");
+    press("Calcola");
+    Choose("sintub");
+    EXPECT_FALSE(Item("Calcola").isEnabled());
+    for (const bool shown : {false, true}) {
+        Choose("BarraStrumenti");
+        EXPECT_EQ(bar.isVisible(), shown);
+        const auto next = std::make_unique<Program>(folder.Path(), boxes);
+        const MDI window(*next);
+        EXPECT_EQ(next->shell.ToolBarShown, shown) << "in the next run";
+    }
+}
+
+TEST_F(MainWindow, RecentFilesAreOfferedUntilTheyAreGone) {
+    const auto& menu = Child<QMenu>("Recenti");
+    EXPECT_FALSE(menu.menuAction()->isVisible());
+    for (const char* name : {"a.iv", "b.iv"}) {
+        ASSERT_TRUE(WriteProject(project, folder / name));
+        OpenFile(*mdi, folder / name);
+    }
+    ASSERT_EQ(menu.actions().size(), 2);
+    std::filesystem::remove(folder / "b.iv");
+    Choose("Recenti_1");
+    QApplication::processEvents();
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a.iv]");
+    boxes.Expect(kFileMissing);
+    Choose("Recenti_1");
+    QApplication::processEvents();
+    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a.iv]") << "a file that is gone changes nothing";
+    EXPECT_EQ(menu.actions().size(), 1);
 }
 
 TEST_F(MainWindow, DroppedProjectIsOpenedAndOtherFilesAreNot) {

@@ -2,7 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include "support/asked_locale.h"
 #include "ui/windows/frm_start.h"
@@ -20,6 +22,8 @@ int main(int argc, char* argv[]) {
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" IDROVA_TEST_SCREEN);
     }
     QStandardPaths::setTestModeEnabled(true);
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, settings.path());
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     if (!idrova::LocaleIsAsAsked()) return EXIT_FAILURE;

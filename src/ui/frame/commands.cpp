@@ -16,6 +16,7 @@
 #include "ui/frame/menu_bar.h"
 #include "ui/frame/run_commands.h"
 #include "ui/kit/child_windows.h"
+#include "ui/kit/desktop_settings.h"
 #include "ui/kit/print_text.h"
 #include "ui/kit/qt_text.h"
 #include "ui/kit/start_program.h"
@@ -32,6 +33,8 @@
 namespace idrova {
 
 namespace {
+
+constexpr const char* kToolBarKey = "toolBarShown";
 
 void SwitchMode(MDI& mdi, WorkMode mode) {
     Program& program = mdi.State();
@@ -111,6 +114,11 @@ void AttachWindow(MDI& mdi, std::string_view item, std::string_view name) {
 }
 
 void AttachDataWindows(MDI& mdi) {
+    mdi.Menu().Attach("BarraStrumenti", [&mdi] {
+        ShellState& shell = mdi.State().shell;
+        shell.ToolBarShown = !shell.ToolBarShown;
+        DesktopSettings().setValue(kToolBarKey, shell.ToolBarShown);
+    });
     AttachWindow<FrmFlu>(mdi, "Fluido", "FrmFlu");
     AttachWindow<FrmPompa>(mdi, "Pompe", "FrmPompa");
     AttachWindow<FrmPerCon>(mdi, "PerditeCon", "FrmPerCon");
@@ -154,6 +162,7 @@ void AttachCommands(MDI& mdi) {
     mdi.Menu().Attach("Esci", [&mdi, &program] {
         if (program.boxes.Show(kExitQuestion) == Answer::Ok) mdi.close();
     });
+    program.shell.ToolBarShown = DesktopSettings().value(kToolBarKey, true).toBool();
     AttachFileCommands(mdi);
     AttachEditCommands(mdi);
     AttachModes(mdi);

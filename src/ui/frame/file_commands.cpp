@@ -10,6 +10,7 @@
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/frame/messages.h"
+#include "ui/frame/recent_menu.h"
 #include "ui/kit/child_windows.h"
 #include "ui/program.h"
 #include "ui/windows/frm_file.h"
@@ -43,18 +44,18 @@ void TakeNetwork(MDI& mdi, NetworkChange change) {
     TakeDrawing(mdi);
 }
 
-/// Keeps what was left unsaved, and says so.
-void Keep(MDI& mdi, const std::optional<std::string>& unsaved) {
+/// Keeps what was left unsaved; what there is to say of it.
+std::string Kept(MDI& mdi, const std::optional<std::string>& unsaved) {
     const Result<std::string> kept = KeepUnsaved(unsaved, mdi.State().folder);
-    mdi.Say(kept ? *kept : kept.Error());
+    return kept ? *kept : kept.Error();
 }
 
-/// The same after another project has been opened, which may be one for another mode.
-void KeepBehind(MDI& mdi, const std::optional<std::string>& unsaved) {
-    Keep(mdi, unsaved);
+/// After another project has been opened, which may be one for another mode.
+void SayOpened(MDI& mdi, const std::string& kept) {
     const Project& project = mdi.State().project;
     const bool isTable = project.numtubo == 0 && CountTableRows(project) > 0;
-    if (isTable && project.settings.Mode == WorkMode::Graphic) mdi.Say(kProjectIsTable);
+    if (!isTable || project.settings.Mode != WorkMode::Graphic) return mdi.Say(kept);
+    mdi.Say(kProjectIsTable + (kept.empty() ? kept : ". " + kept));
 }
 
 /// Shows what became of a file command.
@@ -64,12 +65,17 @@ void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folde
     program.lastFolder = folder;
     if (change.network == NetworkChange::None) return;
     TakeNetwork(mdi, change.network);
+    program.offered.reset();
+    if (change.network == NetworkChange::Emptied) return;
+    mdi.Recent().Add(program.project.ProjectName);
     program.offered = ReadSettingsOf(program.project.ProjectName);
     if (SettingsOffer(program.offered, program.project.settings).empty()) program.offered.reset();
 }
 
-/// Beside the project that was saved. While other settings are on offer the file is left alone.
-void SaveSettings(Program& program) {
+/// Puts the settings beside the project that was saved. While others are on offer they stay.
+void FinishSaving(MDI& mdi) {
+    Program& program = mdi.State();
+    mdi.Recent().Add(program.project.ProjectName);
     if (program.offered) return;
     const Status written = WriteSettingsOf(program.project.ProjectName,
                                            {program.project.settings, program.shell.roughnessItem});
@@ -83,8 +89,8 @@ bool Confirm(MDI& mdi, const FileForm& form) {
     const FileChange change = ConfirmFileForm(form, program.project, program.boxes);
     if (!change.done) return false;
     Take(mdi, change, form.folder);
-    if (form.purpose == FilePurpose::Save) SaveSettings(program);
-    if (form.purpose == FilePurpose::Open) KeepBehind(mdi, unsaved);
+    if (form.purpose == FilePurpose::Save) FinishSaving(mdi);
+    if (form.purpose == FilePurpose::Open) SayOpened(mdi, Kept(mdi, unsaved));
     mdi.ShowState();
     return true;
 }
@@ -106,7 +112,7 @@ void Save(MDI& mdi) {
     Program& program = mdi.State();
     const auto saved = SaveToOwnFile(program.project, program.boxes);
     if (!saved) ShowFileWindow(mdi, FilePurpose::Save);
-    if (saved == SaveOutcome::Saved) SaveSettings(program);
+    if (saved == SaveOutcome::Saved) FinishSaving(mdi);
 }
 
 /// A new project keeps the rows of the table, so its texts and its edits stay as well.
@@ -118,7 +124,7 @@ void New(MDI& mdi) {
     program.offered.reset();
     RereadComponents(program);
     TakeDrawing(mdi);
-    Keep(mdi, unsaved);
+    mdi.Say(Kept(mdi, unsaved));
 }
 
 }  // namespace
@@ -138,8 +144,18 @@ void OpenFile(MDI& mdi, const std::filesystem::path& path) {
     program.lastFolder = path.parent_path();
     if (!change.done) return;
     Take(mdi, change, path.parent_path());
-    KeepBehind(mdi, unsaved);
+    SayOpened(mdi, Kept(mdi, unsaved));
     mdi.ShowState();
+}
+
+void OpenRecentFile(MDI& mdi, const std::filesystem::path& path) {
+    std::error_code ignored;
+    if (std::filesystem::exists(path, ignored)) {
+        mdi.TakeEdits();
+        return OpenFile(mdi, path);
+    }
+    mdi.Recent().Remove(path);
+    mdi.State().boxes.Show(kFileMissing);
 }
 
 }  // namespace idrova

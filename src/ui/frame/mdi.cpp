@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -23,8 +24,10 @@
 #include "ui/frame/edit_commands.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/menu_bar.h"
+#include "ui/frame/recent_menu.h"
 #include "ui/frame/settings_bar.h"
 #include "ui/frame/status_line.h"
+#include "ui/frame/tool_bar.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
 #include "ui/kit/controls.h"
@@ -75,7 +78,11 @@ std::filesystem::path DraggedProject(const QMimeData& data) {
 MDI::MDI(Program& program)
     : program_(program),
       menu_(std::make_unique<MenuBar>(*menuBar())),
+      recent_(std::make_unique<RecentMenu>(
+          *menuBar()->findChild<QMenu*>("Recenti"),
+          [this](const std::filesystem::path& file) { OpenRecentFile(*this, file); })),
       statusLine_(std::make_unique<StatusLine>(*statusBar(), program.boxes)),
+      toolBar_(new ToolBar(*menuBar(), [this] { panel_->calculate(); })),
       settingsBar_(new SettingsBar(program)),
       windows_(new ChildWindows),
       panel_(new FrmCom(program, this)),
@@ -92,6 +99,7 @@ MDI::MDI(Program& program)
     column->addWidget(windows_, 1);
     setCentralWidget(centre);
     setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
+    addToolBar(toolBar_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
     LoadStartState(program_);
@@ -125,6 +133,8 @@ void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
     menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);
+    toolBar_->setVisible(program_.shell.ToolBarShown);
+    toolBar_->ShowState(ViewOf(settings.Mode).calculate);
     settingsBar_->ShowState();
     panel_->ShowState();
     statusLine_->ShowSettings(settings);

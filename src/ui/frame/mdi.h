@@ -11,8 +11,10 @@ class ChildWindows;
 class FrmCom;
 class FrmHelp;
 class MenuBar;
+class RecentMenu;
 class SettingsBar;
 class StatusLine;
+class ToolBar;
 struct Program;
 
 /// The main window: menu bar, area of the child windows, command panel, hint window, status bar.
@@ -25,6 +27,7 @@ class MDI : public QMainWindow {
 
     Program& State() { return program_; }
     MenuBar& Menu() { return *menu_; }
+    RecentMenu& Recent() { return *recent_; }
     ChildWindows& Windows() { return *windows_; }
     FrmCom& Panel() { return *panel_; }
     FrmHelp& Hints() { return *hints_; }
@@ -57,7 +60,9 @@ class MDI : public QMainWindow {
 
     Program& program_;
     std::unique_ptr<MenuBar> menu_;
+    std::unique_ptr<RecentMenu> recent_;
     std::unique_ptr<StatusLine> statusLine_;
+    ToolBar* toolBar_;
     SettingsBar* settingsBar_;
     ChildWindows* windows_;
     FrmCom* panel_;

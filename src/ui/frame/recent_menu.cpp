@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/recent_menu.h"
 
-#include <QSettings>
+#include <algorithm>
 #include <utility>
 
 #include "shell/recent_files.h"

@@ -11,6 +11,8 @@ namespace idrova {
 
 namespace {
 
+constexpr int kIconSide = 16;  ///< low, so that the command panel need not scroll
+
 struct Tool {
     const char* item;  ///< of the menu; none for a separator
     const char* themeIcon = "";
@@ -29,12 +31,12 @@ constexpr Tool kBefore[] = {
 };
 constexpr Tool kCompute = {"Calcola", "system-run", "7,4 19,12 7,20 7,4"};
 constexpr Tool kAfter[] = {
-    {"Risultati", "x-office-spreadsheet",
-     "4,4 20,4 20,20 4,20 4,4;4,9 20,9;4,14 20,14;10,4 10,20"},
+    {"Risultati", "x-office-spreadsheet", "4,4 20,4 20,20 4,20 4,4;4,9 20,9;4,14 20,14;10,4 10,20"},
     {nullptr},
     {"ZoomIn", "zoom-in",
      "10,4 14,6 16,10 14,14 10,16 6,14 4,10 6,6 10,4;14,14 20,20;10,7 10,13;7,10 13,10"},
-    {"ZoomOut", "zoom-out", "10,4 14,6 16,10 14,14 10,16 6,14 4,10 6,6 10,4;14,14 20,20;7,10 13,10"},
+    {"ZoomOut", "zoom-out",
+     "10,4 14,6 16,10 14,14 10,16 6,14 4,10 6,6 10,4;14,14 20,20;7,10 13,10"},
     {"ZoomFit", "zoom-fit-best", "4,9 4,4 9,4;15,4 20,4 20,9;20,15 20,20 15,20;9,20 4,20 4,15"},
 };
 
@@ -44,9 +46,11 @@ QIcon IconOf(const Tool& tool) {
 
 }  // namespace
 
-ToolBar::ToolBar(const QMenuBar& menu, const std::function<void()>& compute) : QToolBar("Tool bar") {
+ToolBar::ToolBar(const QMenuBar& menu, const std::function<void()>& compute)
+    : QToolBar("Tool bar") {
     Named(this, "ToolBar");
     setMovable(false);
+    setIconSize({kIconSide, kIconSide});
     for (const Tool& tool : kBefore) AddItem(menu, tool.item, IconOf(tool));
     compute_ = Named(addAction(IconOf(kCompute), "Compute"), kCompute.item);
     compute_->setToolTip("Compute (F5)");
@@ -55,10 +59,6 @@ ToolBar::ToolBar(const QMenuBar& menu, const std::function<void()>& compute) : Q
 }
 
 void ToolBar::AddItem(const QMenuBar& menu, const char* name, const QIcon& icon) {
-    if (name == nullptr) {
-        addSeparator();
-        return;
-    }
     auto* action = menu.findChild<QAction*>(name);
     if (action == nullptr) return;
     action->setIcon(icon);
