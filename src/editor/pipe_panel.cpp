@@ -75,7 +75,7 @@ PipePanel ShowPipeData(const Project& project) {
     panel.caption = "Pipe";
     panel.unitLabel = PressureUnitLabel(project.settings.PressureUnit);
     panel.section = DisplayOf(project.settings.SectionType);
-    panel.pipe = project.CurrentPipe;
+    if (project.settings.Mode == WorkMode::Graphic) panel.pipe = project.CurrentPipe;
     if (panel.pipe == 0) return panel;
     const PipeRec& pipe = project.Pipes[panel.pipe];
     panel.caption = "Pipe " + GeneralText(panel.pipe);

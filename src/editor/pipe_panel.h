@@ -43,7 +43,7 @@ struct PipePanel {
     bool operator==(const PipePanel&) const = default;
 };
 
-/// The data of `CurrentPipe`; empty boxes when there is none.
+/// The data of `CurrentPipe`; empty boxes when there is none, and in the modes without a drawing.
 PipePanel ShowPipeData(const Project& project);
 
 /// The flow frame alone: flow rate of the panel's pipe as given or computed.

@@ -5,6 +5,11 @@
 
 namespace idrova {
 
+bool ResultsAreOld(const Program& program) {
+    const auto record = program.records.find(program.project.settings.Mode);
+    return record != program.records.end() && record->second.inputs != InputsOf(program.project);
+}
+
 void RereadComponents(Program& program) {
     LoadComponentDatabases(program.components, program.folder, program.boxes);
     RefreshComponentChoice(program.editor, program.components);

@@ -60,6 +60,9 @@ struct Program {
     std::function<void(bool backwards)> switchFocus = [](bool) {};
 };
 
+/// True when the working mode has been computed, and what it was computed from has changed since.
+bool ResultsAreOld(const Program& program);
+
 /// Reads the pump and loss databases again, and finds the chosen component in them.
 void RereadComponents(Program& program);
 

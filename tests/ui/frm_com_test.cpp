@@ -67,6 +67,21 @@ TEST_F(CommandPanel, EveryBoxReachesItsFieldAndMayBeRefused) {
     EXPECT_EQ(pipe.FlowRate, .5);
 }
 
+TEST_F(CommandPanel, ResultsOfAChangedPlantAreGreyAndStayInTheirMode) {
+    project.settings.FluidViscosity = .001;
+    Do("Option1_1;Option2_1;Text10=2;Text9=1;Text6=100;Text7=53.8;Command1");
+    const QString flow = Shown("Text2");
+    const auto textColour = [&] { return Child<QWidget>("Text2").palette().color(QPalette::Text); };
+    const QColor fresh = textColour();
+    Do("Text6=90");
+    EXPECT_EQ(Shown("Text2"), flow);
+    EXPECT_NE(textColour(), fresh);
+    Do("Text6=100");
+    EXPECT_EQ(textColour(), fresh) << "as computed";
+    Choose("Tabella");
+    EXPECT_EQ(Shown("Frame3 Text2 Text6 Text10"), "Pipe|||");
+}
+
 TEST_F(CommandPanel, FramesOpenWithARightClickAndLockWithALeftOne) {
     const QString controls = "Frame3 Frame4 Frame8 Frame6 Command4 Command9 Command1";
     EXPECT_EQ(Enabled(controls + " Text10"), controls);

@@ -147,9 +147,8 @@ void MDI::ShowState() {
 void MDI::ShowOutcome() {
     const auto record = program_.records.find(program_.project.settings.Mode);
     if (record == program_.records.end()) return statusLine_->HideOutcome();
-    const RunRecord& run = record->second;
-    const bool current = run.inputs == InputsOf(program_.project);
-    statusLine_->ShowOutcome(run.outcome, current ? ResultAge::Current : ResultAge::OutOfDate);
+    statusLine_->ShowOutcome(record->second.outcome,
+                             ResultsAreOld(program_) ? ResultAge::OutOfDate : ResultAge::Current);
 }
 
 void MDI::Say(const std::string& words) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/kit/child_window.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -22,6 +23,10 @@ void ChildWindow::CloseWindow() {
 void ChildWindow::SetDefaultButton(QPushButton* button) {
     defaultButton_ = button;
     button->setDefault(true);
+    connect(qApp, &QApplication::focusChanged, button, [button](QWidget* /*old*/, QWidget* now) {
+        const auto* focused = qobject_cast<QPushButton*>(now);
+        button->setDefault(focused == nullptr || focused == button);
+    });
 }
 
 void ChildWindow::keyPressEvent(QKeyEvent* event) {

@@ -29,6 +29,7 @@ class ChildWindow : public QWidget {
     void CloseWindow();
 
   protected:
+    /// It looks so while no other button has the keyboard, which Return would press then.
     void SetDefaultButton(QPushButton* button);
     /// Return in this control is for the control alone, not for the default button.
     void KeepReturnIn(const QWidget* control) { returnKeeper_ = control; }

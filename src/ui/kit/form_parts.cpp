@@ -68,7 +68,7 @@ QLabel* PlainLabel(const QString& text) {
 
 QLabel* ValueLabel(const char* name) {
     auto* label = Named(PlainLabel({}), name);
-    label->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     label->setMargin(2);
     // A long number is cut: it must not widen the window.
@@ -79,16 +79,6 @@ QLabel* ValueLabel(const char* name) {
 
 QLineEdit* TextField(const char* name) {
     return Named<QLineEdit>(new SelectingField, name);
-}
-
-QLineEdit* ComputedField(const char* name) {
-    QLineEdit* field = TextField(name);
-    field->setReadOnly(true);
-    field->setFocusPolicy(Qt::ClickFocus);
-    QPalette colours = field->palette();
-    colours.setColor(QPalette::Base, colours.color(QPalette::Window));
-    field->setPalette(colours);
-    return field;
 }
 
 QPushButton* CommandButton(const char* name, const QString& caption,

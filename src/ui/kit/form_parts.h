@@ -40,9 +40,6 @@ QLabel* ValueLabel(const char* name);
 
 QLineEdit* TextField(const char* name);
 
-/// A field that shows a computed text.
-QLineEdit* ComputedField(const char* name);
-
 QPushButton* CommandButton(const char* name, const QString& caption,
                            const std::function<void()>& click);
 

@@ -4,7 +4,9 @@
 #include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSpacerItem>
+#include <algorithm>
 
 #include "ui/kit/qt_text.h"
 
@@ -59,13 +61,32 @@ Answer AnswerOf(int button) {
     }
 }
 
-/// A box takes its width from its text; a longer title would be cut.
-void MakeRoomForTitle(QMessageBox& window) {
+/// Room for a text whose lines, where they have to be broken, come out equally long: none holds
+/// the last word or the question mark alone.
+int WidthFor(const QString& text, const QFontMetrics& font) {
+    constexpr int longest = 600;
+    int width = 0;
+    for (const QString& line : text.split(QRegularExpression("[\r\n]"))) {
+        const int whole = font.horizontalAdvance(line);
+        const int parts = whole / longest + 1;
+        const int word = parts > 1 ? font.horizontalAdvance("overwritten") : 1;
+        width = std::max(width, whole / parts + word);
+    }
+    return width;
+}
+
+/// A box takes its width from its text up to a width that breaks many of them; a longer title
+/// would be cut.
+void MakeRoom(QMessageBox& window) {
     constexpr int frameButtons = 120;
+    constexpr int iconAndMargins = 100;
     auto* grid = qobject_cast<QGridLayout*>(window.layout());
     if (grid == nullptr) return;
-    const int width = window.fontMetrics().horizontalAdvance(window.windowTitle()) + frameButtons;
-    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    const QFontMetrics font = window.fontMetrics();
+    const int title = font.horizontalAdvance(window.windowTitle()) + frameButtons;
+    const int text = WidthFor(window.text(), font) + iconAndMargins;
+    grid->addItem(new QSpacerItem(std::max(title, text), 0), grid->rowCount(), 0, 1,
+                  grid->columnCount());
 }
 
 }  // namespace
@@ -78,7 +99,7 @@ Answer QtMessageBoxes::Show(const MessageBox& box) {
     window.setTextFormat(Qt::PlainText);
     window.setDefaultButton(buttons.first);
     window.setEscapeButton(buttons.escape);
-    MakeRoomForTitle(window);
+    MakeRoom(window);
     return AnswerOf(window.exec());
 }
 

@@ -25,8 +25,8 @@ FlowFrame::FlowFrame(PanelContext& context)
                                })),
       volumeFlowGiven_(
           new NumberBox("Text13", [this](std::string_view text) { TypeVolumeFlow(text); })),
-      flowComputed_(ResultBox("Text2")),
-      volumeFlowComputed_(ResultBox("Text3")) {
+      flowComputed_(new ComputedField("Text2")),
+      volumeFlowComputed_(new ComputedField("Text3")) {
     Named(this, "Frame7");
     auto* rows = new QGridLayout(this);
     rows->addWidget(choice_, 0, 0, 1, 3);
@@ -50,8 +50,8 @@ void FlowFrame::Show() {
     for (NumberBox* box : {flowGiven_, volumeFlowGiven_}) box->setEnabled(panel.flowKnown);
     flowGiven_->Show(panel.kgPerHour);
     volumeFlowGiven_->Show(panel.cubicMetresPerHour);
-    flowComputed_->Show(panel.computedKgPerHour);
-    volumeFlowComputed_->Show(panel.computedCubicMetresPerHour);
+    flowComputed_->Show(panel.computedKgPerHour, context_.resultsOld);
+    volumeFlowComputed_->Show(panel.computedCubicMetresPerHour, context_.resultsOld);
 }
 
 void FlowFrame::TypeVolumeFlow(std::string_view text) {

@@ -21,8 +21,8 @@ class FlowFrame : public QGroupBox {
     KnownChoice* choice_;
     NumberBox* flowGiven_;
     NumberBox* volumeFlowGiven_;
-    NumberBox* flowComputed_;
-    NumberBox* volumeFlowComputed_;
+    ComputedField* flowComputed_;
+    ComputedField* volumeFlowComputed_;
 };
 
 }  // namespace idrova

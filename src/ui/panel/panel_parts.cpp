@@ -35,16 +35,6 @@ void NumberBox::Show(const std::string& text) {
     setText(shown);
 }
 
-NumberBox* ResultBox(const char* name) {
-    auto* box = new NumberBox(name, [](std::string_view) {});
-    box->setReadOnly(true);
-    box->setFocusPolicy(Qt::ClickFocus);
-    QPalette colours = box->palette();
-    colours.setBrush(QPalette::Base, colours.window());
-    box->setPalette(colours);
-    return box;
-}
-
 KnownChoice::KnownChoice(const char* name, const std::function<void(bool)>& chosen)
     : unknown_(new QRadioButton("Unknown", this)), known_(new QRadioButton("Value known", this)) {
     unknown_->setObjectName(QString(name) + "_0");

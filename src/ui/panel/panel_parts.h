@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "editor/pipe_panel.h"
-#include "ui/kit/text_field.h"
+#include "ui/kit/coloured_field.h"
 
 class QRadioButton;
 
@@ -18,7 +18,8 @@ struct Program;
 /// What the frames of the command panel share.
 struct PanelContext {
     Program& program;
-    PipePanel panel;  ///< what the boxes hold
+    PipePanel panel;          ///< what the boxes hold
+    bool resultsOld = false;  ///< the computed ones among them are of a plant that has changed
     /// A frame has changed the pipe, and `panel` with it: shows both wherever they are shown.
     std::function<void()> edited;
 };
@@ -35,9 +36,6 @@ class NumberBox : public SelectingField {
     /// Leaves the box, and the cursor in it, alone when it holds the text already.
     void Show(const std::string& text);
 };
-
-/// A box for a computed number.
-NumberBox* ResultBox(const char* name);
 
 /// The option buttons "Unknown" and "Value known", `name`_0 and `name`_1.
 class KnownChoice : public QWidget {

@@ -37,7 +37,7 @@ PressuresFrame::PointBoxes PressuresFrame::MakePoint(const Names& names, PipeEnd
     return {Named(new QGroupBox("P"), names.frame),
             new KnownChoice(names.option, choose),
             new NumberBox(names.given, type),
-            ResultBox(names.computed),
+            new ComputedField(names.computed),
             {UnitLabel(), UnitLabel()}};
 }
 
@@ -61,19 +61,17 @@ void PressuresFrame::LayOut(const PointBoxes& point) {
 }
 
 void PressuresFrame::Show() {
-    const PipePanel& panel = context_.panel;
-    ShowPoint(start_, panel.start, panel.unitLabel);
-    ShowPoint(end_, panel.end, panel.unitLabel);
+    ShowPoint(start_, context_.panel.start);
+    ShowPoint(end_, context_.panel.end);
 }
 
-void PressuresFrame::ShowPoint(const PointBoxes& point, const PointPanel& shown,
-                               std::string_view unitLabel) {
+void PressuresFrame::ShowPoint(const PointBoxes& point, const PointPanel& shown) const {
     point.frame->setTitle(shown.caption.empty() ? QString("P") : ToQt(shown.caption));
     point.option->Show(shown.known);
     point.given->setEnabled(shown.known);
     point.given->Show(shown.given);
-    point.computed->Show(shown.computed);
-    for (QLabel* unit : point.units) unit->setText(ToQt(unitLabel));
+    point.computed->Show(shown.computed, context_.resultsOld);
+    for (QLabel* unit : point.units) unit->setText(ToQt(context_.panel.unitLabel));
 }
 
 }  // namespace idrova

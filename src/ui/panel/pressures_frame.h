@@ -30,15 +30,14 @@ class PressuresFrame : public QGroupBox {
         QGroupBox* frame;
         KnownChoice* option;
         NumberBox* given;
-        NumberBox* computed;
+        ComputedField* computed;
         std::array<QLabel*, 2> units;
     };
 
     PointBoxes MakePoint(const Names& names, PipeEnd end);
     QLabel* UnitLabel();
     static void LayOut(const PointBoxes& point);
-    static void ShowPoint(const PointBoxes& point, const PointPanel& shown,
-                          std::string_view unitLabel);
+    void ShowPoint(const PointBoxes& point, const PointPanel& shown) const;
 
     PanelContext& context_;
     int unitCount_ = 0;

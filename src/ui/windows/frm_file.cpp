@@ -13,6 +13,7 @@
 #include <QSignalBlocker>
 
 #include "projectfile/messages.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/drives.h"
 #include "ui/kit/form_parts.h"
@@ -51,7 +52,7 @@ FrmFile::FrmFile(Program& program, FilePurpose purpose, Confirm confirm)
       folders_(Named<QListWidget>(new FolderList, "Dir1")),
       files_(Named(new QListWidget, "File1")),
       filter_(TextField("Text1")),
-      path_(ComputedField("Text2")),
+      path_(new ComputedField("Text2")),
       name_(TextField("Text3")),
       description_(TextField("Text4")) {
     auto* column = new QVBoxLayout(this);

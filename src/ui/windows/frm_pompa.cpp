@@ -8,6 +8,7 @@
 
 #include "editor/component_insertion.h"
 #include "physdata/component_commands.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
 #include "ui/kit/name_list.h"
@@ -29,11 +30,12 @@ FrmPompa::FrmPompa(Program& program)
       coefficientB_(ValueLabel("Label8")),
       coefficientC_(ValueLabel("Label11")),
       flowAt_(TextField("Text6")),
-      prevalenceAt_(ComputedField("Text5")),
+      prevalenceAt_(new ComputedField("Text5")),
       chart_(new PumpPlot("MSChart1")) {
     auto* row = new QHBoxLayout(this);
-    row->addLayout(Data());
+    row->addLayout(Data(), 1);
     row->addWidget(chart_, 1);
+    names_->setMinimumContentsLength(16);
     OnChosen(*names_, [this](int position) { Choose(position); });
     connect(flowAt_, &QLineEdit::textChanged, this, [this] { Evaluate(); });
     names_->Refill(RecordNames(program_.components.pumps));

@@ -5,9 +5,11 @@
 
 #include <qcustomplot.h>
 
+#include <QApplication>
 #include <QVBoxLayout>
 
 #include "base/number_text.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/qt_text.h"
 
@@ -15,8 +17,8 @@ namespace idrova {
 
 namespace {
 
-constexpr double kTurned = -60;  ///< degrees; lets the labels of all rows stand side by side
-constexpr QSize kSmallest(420, 300);
+constexpr double kTurned = -90;       ///< degrees; lets the labels of all rows stand side by side
+constexpr QSize kSmallest(240, 220);  ///< beside the data, on a screen of 1024 x 768
 
 /// What the chart shows, for those who cannot see it.
 QString Summary(const PumpChart& chart) {
@@ -36,13 +38,38 @@ PumpPlot::PumpPlot(const char* name) : plot_(new QCustomPlot) {
     area->setContentsMargins(0, 0, 0, 0);
     area->addWidget(plot_);
     plot_->addGraph();
-    plot_->graph()->setPen(QPen(Qt::blue, 2));
     plot_->graph()->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, 6));
     plot_->xAxis->setLabel("Portata [kg/h]");
     plot_->yAxis->setLabel("Prevalenza [m]");
     plot_->xAxis->grid()->setZeroLinePen(Qt::NoPen);
     plot_->xAxis->setTickLabelRotation(kTurned);
     plot_->xAxis->setTicker(QSharedPointer<QCPAxisTickerText>::create());
+    Colour();
+}
+
+bool PumpPlot::event(QEvent* event) {
+    if (event->type() == QEvent::ApplicationPaletteChange) Colour();
+    return QWidget::event(event);
+}
+
+void PumpPlot::Colour() {
+    const QPalette theme = QApplication::palette(this);
+    const QColor text = theme.color(QPalette::Text);
+    const QColor ground = theme.color(QPalette::Base);
+    const QColor faint = OldResultColour(OldResultColour(text, ground), ground);
+    const bool dark = ground.lightness() < text.lightness();
+    plot_->setBackground(ground);
+    plot_->graph()->setPen(QPen(dark ? QColor(0x6FA8FF) : QColor(Qt::blue), 2));
+    for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
+        for (const auto set :
+             {&QCPAxis::setBasePen, &QCPAxis::setTickPen, &QCPAxis::setSubTickPen}) {
+            (axis->*set)(text);
+        }
+        axis->setTickLabelColor(text);
+        axis->setLabelColor(text);
+        axis->grid()->setPen(QPen(faint, 0, Qt::DotLine));
+    }
+    plot_->replot();
 }
 
 void PumpPlot::ShowChart(const PumpChart& chart) {

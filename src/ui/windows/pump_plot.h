@@ -16,7 +16,15 @@ class PumpPlot : public QWidget {
 
     void ShowChart(const PumpChart& chart);
 
+    QSize sizeHint() const override { return {420, 300}; }
+
+  protected:
+    bool event(QEvent* event) override;
+
   private:
+    /// In the colours of the desktop's theme.
+    void Colour();
+
     QCustomPlot* plot_;
 };
 
