@@ -43,28 +43,9 @@ void StoreIntoProject(const WorkNetwork& work, Project& project) {
     }
 }
 
-Outcome Compute(const Settings& settings, WorkNetwork& work, bool pipeDataChecked,
-                const RunHost& host) {
-    return ComputeNetwork(
-        settings, work,
-        {.seed = host.seed, .progress = host.showProgress, .pipeDataChecked = pipeDataChecked});
-}
-
-/// Puts what has come of a run into its record: writes the report when there are results, takes the
-/// progress away, tells what went wrong.
-void Report(const WorkNetwork& work, const RunHost& host, RunRecord& record) {
-    const Outcome& outcome = record.outcome;
-    Status written = Done{};
-    if (outcome.stored) {
-        record.results = work;
-        record.time = CurrentReportTime();
-        written = host.writeReport(record.settings, work);
-    }
-    host.endProgress();
-    if (outcome.refusal) host.boxes.Show(RefusalBox(*outcome.refusal));
-    const bool solved = outcome.end == RunEnd::NotFinite || outcome.end == RunEnd::Singular;
-    if (solved && !outcome.stored) host.boxes.Show(kDoesNotSettle);
-    if (!written) host.boxes.Show({written.Error(), kResultsTitle});
+void KeepResults(const WorkNetwork& work, RunRecord& record) {
+    record.time = CurrentReportTime();
+    if (record.outcome.stored) record.results = work;
 }
 
 void CheckPumps(const WorkNetwork& work, MessageBoxes& boxes) {
@@ -89,19 +70,20 @@ RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& wor
         record.outcome.notes = std::move(refusal->notes);
         return record;
     }
-    record.outcome = Compute(project.settings, work, true, host);
+    record.outcome =
+        ComputeNetwork(project.settings, work, {.seed = host.seed, .progress = host.showProgress});
     AddTableNotes(project, texts, record.outcome);
-    const bool stored = record.outcome.stored;
+    KeepResults(work, record);
+    const bool stored = record.results.has_value();
     if (stored && project.settings.Mode == WorkMode::Graphic) StoreIntoProject(work, project);
-    Report(work, host, record);
+    TellRun(record, host);
     if (!stored) return record;
     CheckPumps(work, host.boxes);
     CheckPressures(project.settings, work, host.boxes);
     return record;
 }
 
-SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work,
-                               const RunHost& host) {
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work) {
     SinglePipeResult result{{InputsOf(project), {}, project.settings}, {}};
     RunRecord& record = result.record;
     record.outcome.end = RunEnd::Empty;
@@ -109,10 +91,21 @@ SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, W
 
     record.settings.SectionType = Section::Circular;
     BuildSinglePipeNetwork(pipe, work);
-    record.outcome = Compute(record.settings, work, false, host);
-    Report(work, host, record);
+    record.outcome = ComputeNetwork(record.settings, work, {.pipeDataChecked = false});
+    KeepResults(work, record);
     if (record.results) result.box = ComputedText(pipe, work);
     return result;
+}
+
+void TellRun(const RunRecord& record, const RunHost& host) {
+    Status written = Done{};
+    if (record.results) written = host.writeReport(record.settings, *record.results);
+    host.endProgress();
+    const Outcome& outcome = record.outcome;
+    if (outcome.refusal) host.boxes.Show(RefusalBox(*outcome.refusal));
+    const bool solved = outcome.end == RunEnd::NotFinite || outcome.end == RunEnd::Singular;
+    if (solved && !outcome.stored) host.boxes.Show(kDoesNotSettle);
+    if (!written) host.boxes.Show({written.Error(), kResultsTitle});
 }
 
 std::function<Status(const Settings&, const WorkNetwork&)> ReportWriter(

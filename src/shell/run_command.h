@@ -41,10 +41,13 @@ struct SinglePipeResult {
     std::optional<BoxText> box;  ///< the unknown's new text, when there is one
 };
 
-/// Computes the unknown of one round pipe, unless it is incomplete: refusals told, the report
-/// written. Takes the settings of the project, which keeps its data and results.
-SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work,
-                               const RunHost& host);
+/// Computes the unknown of one round pipe, unless it is incomplete. Takes the settings of the
+/// project, which keeps its data and results. Tells nothing: that is `TellRun`, once typing pauses.
+SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work);
+
+/// What a run leaves to tell: writes the report when there are results, takes the progress away,
+/// says what was refused or went wrong.
+void TellRun(const RunRecord& record, const RunHost& host);
 
 /// A `writeReport` that keeps the report in `report` and puts it into the results file of `folder`.
 /// All three must outlive it.

@@ -5,9 +5,14 @@
 
 namespace idrova {
 
-bool ResultsAreOld(const Program& program) {
+const RunRecord* RecordOf(const Program& program) {
     const auto record = program.records.find(program.project.settings.Mode);
-    return record != program.records.end() && record->second.inputs != InputsOf(program.project);
+    return record == program.records.end() ? nullptr : &record->second;
+}
+
+bool ResultsAreOld(const Program& program) {
+    const RunRecord* record = RecordOf(program);
+    return record != nullptr && record->inputs != InputsOf(program.project);
 }
 
 void RereadComponents(Program& program) {

@@ -60,6 +60,9 @@ struct Program {
     std::function<void(bool backwards)> switchFocus = [](bool) {};
 };
 
+/// The last computation in the working mode; null when there was none.
+const RunRecord* RecordOf(const Program& program);
+
 /// True when the working mode has been computed, and what it was computed from has changed since.
 bool ResultsAreOld(const Program& program);
 

@@ -2,7 +2,9 @@
 #include "ui/windows/frm_sin.h"
 
 #include <cmath>
+#include <numbers>
 
+#include "base/number_text.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/pipe_drop.h"
 #include "main_window.h"
@@ -19,28 +21,41 @@ class SinglePipeWindow : public MainWindow {
     }
 
     double Value(const char* box) { return Shown(box).toDouble(); }
+    bool IsGrey(const char* box) { return !Child<QWidget>(box).toolTip().isEmpty(); }
 };
 
-TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndLeavesTheDrawingAlone) {
+TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses) {
     project.Pipes[1].FlowRate = 7;
     project.settings.SectionType = Section::Rectangular;  // of the drawing: a single pipe is round
     Do("Text2=2;Text3=1;Text1=100");
-    EXPECT_EQ(Shown("Text4"), "") << "there is no diameter yet";
+    EXPECT_EQ(Shown("Text4 Velocity"), "|") << "there is no diameter yet";
     Do("Combo2#6");
-    EXPECT_EQ(Shown("Text5"), "53.8");
-    EXPECT_EQ(project.settings.SectionType, Section::Rectangular);
     project.settings.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
     double taken = flow;
     EXPECT_NEAR(PipeDrop(project.settings, .0538F, 0, taken, 100, 3e5), 101325, 20);
+    const double area = std::numbers::pi / 4 * .0538 * .0538;
+    EXPECT_EQ(Shown("Velocity DropPerMetre").toStdString(),
+              FixedText(flow / 998.2 / area, 3) + "|1013.25");
     const auto& arrow = Child<QWidget>("FlowArrow");
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 1 to point 2");
     EXPECT_EQ(Child<QAbstractButton>("StatusOutcome").text(), "Computed");
+    EXPECT_TRUE(FileBytes(folder / "out.dat").empty());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !FileBytes(folder / "out.dat").empty(); }));
     EXPECT_NE(FileBytes(folder / "out.dat").find("   Diameter [mm]"), std::string::npos);
 
     Do("Text3=3");
     EXPECT_NEAR(Value("Text4") / 3600, flow, 1e-3 * flow);
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 2 to point 1");
+    Choose("t4");
+    EXPECT_LT(Value("Text4") / 3600, .9 * flow) << "a setting changes it too";
+    Choose("t1");
+    const QString smooth = Shown("Text4");
+    Do("Text1=");
+    EXPECT_EQ(Shown("Text4"), smooth) << "it stays";
+    EXPECT_TRUE(IsGrey("Text4") && IsGrey("Velocity"));
+    Do("Text1=100");
+    EXPECT_FALSE(IsGrey("Text4") || IsGrey("Velocity"));
     EXPECT_EQ(project.Pipes[1].FlowRate, 7);
 }
 
@@ -60,15 +75,19 @@ TEST_F(SinglePipeWindow, UnknownIsYellowAndLockedAndItsArrowsAreToo) {
 TEST_F(SinglePipeWindow, StepsAndTurnsTheFlowToFindAPressure) {
     Do("OptInc_1;Text2=3;Text1=100;Text5=53.8;Command7;Command7;Command8;Command3;Command2");
     EXPECT_EQ(Shown("Text4 Text2 Text1"), "100|3.1|99");
+    Child<QWidget>("Text1").setFocus();
+    QTest::keyClick(&Child<QWidget>("Text1"), Qt::Key_Up);
+    EXPECT_EQ(Shown("Text1"), "100");
     Do("Text4=9000");
     const double forward = Value("Text3");
     EXPECT_LT(forward, 3.05);
     Do("Command9");
     EXPECT_NEAR(Value("Text3") - 3.1, 3.1 - forward, 0.011);
-    Do("Text5:;Text4=100;OptInc_2");
-    // A length cannot be computed.
-    boxes.Expect(RefusalBox({RefusalKind::TooManyTerms, {}, 3, 1, 3}));
-    Do("Text5:50");
+    QTest::keyClick(&Child<QWidget>("Text1"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "Text4") << "past arrows and unknown";
+    Do("OptInc_2;Text5=50");
+    boxes.Expect(RefusalBox({RefusalKind::TooManyTerms, {}, 3, 1, 3}));  // once, not with every key
+    Window("FrmSin")->TakeEdits();
 }
 
 }  // namespace

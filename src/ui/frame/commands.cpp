@@ -6,6 +6,7 @@
 
 #include "hydraulics/run_settings.h"
 #include "physdata/pipe_settings.h"
+#include "results/editor_setting.h"
 #include "results/messages.h"
 #include "results/report.h"
 #include "results/results_file.h"
@@ -27,6 +28,7 @@
 #include "ui/windows/frm_percon.h"
 #include "ui/windows/frm_pmin.h"
 #include "ui/windows/frm_pompa.h"
+#include "ui/windows/frm_ris.h"
 #include "ui/windows/frm_rug.h"
 #include "ui/windows/frm_vel.h"
 
@@ -88,6 +90,16 @@ void PrintLastResults(MDI& mdi) {
     });
 }
 
+template <typename Window>
+void OpenWindow(MDI& mdi, std::string_view name) {
+    mdi.Windows().Open(name, [&mdi] { return new Window(mdi.State()); });
+}
+
+template <typename Window>
+void AttachWindow(MDI& mdi, std::string_view item, std::string_view name) {
+    mdi.Menu().Attach(item, [&mdi, name] { OpenWindow<Window>(mdi, name); });
+}
+
 void AttachResults(MDI& mdi) {
     MenuBar& menu = mdi.Menu();
     Program& program = mdi.State();
@@ -99,17 +111,12 @@ void AttachResults(MDI& mdi) {
                     program.boxes.Show({reason, kShowTitle});
                 });
             });
+        if (!IsFile(ConfiguredEditor(program.folder))) OpenWindow<FrmRis>(mdi, "FrmRis");
     });
+    AttachWindow<FrmRis>(mdi, "TabRisultati", "FrmRis");
     menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
     menu.Attach("Risultatiseq", [&program] {
         program.project.settings.ResultsInSequence = !program.project.settings.ResultsInSequence;
-    });
-}
-
-template <typename Window>
-void AttachWindow(MDI& mdi, std::string_view item, std::string_view name) {
-    mdi.Menu().Attach(item, [&mdi, name] {
-        mdi.Windows().Open(name, [&mdi] { return new Window(mdi.State()); });
     });
 }
 

@@ -141,13 +141,13 @@ void MDI::ShowState() {
     ShowOutcome();
     hints_->ShowState();
     ShowTitle();
-    if (ChildWindow* window = windows_->Find(ViewOf(settings.Mode).window)) window->ShowState();
+    windows_->ShowState();
 }
 
 void MDI::ShowOutcome() {
-    const auto record = program_.records.find(program_.project.settings.Mode);
-    if (record == program_.records.end()) return statusLine_->HideOutcome();
-    statusLine_->ShowOutcome(record->second.outcome,
+    const RunRecord* record = RecordOf(program_);
+    if (record == nullptr) return statusLine_->HideOutcome();
+    statusLine_->ShowOutcome(record->outcome,
                              ResultsAreOld(program_) ? ResultAge::OutOfDate : ResultAge::Current);
 }
 

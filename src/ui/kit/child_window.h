@@ -16,7 +16,7 @@ class ChildWindow : public QWidget {
     /// `name` is the window's name in the system ("FrmFlu").
     ChildWindow(const char* name, const QString& caption);
 
-    /// Shows what has changed since it was last shown. For the windows of the modes.
+    /// Shows what has changed since it was last shown.
     virtual void ShowState() {}
 
     /// Takes what is being typed as if it had been finished. Called before every command.

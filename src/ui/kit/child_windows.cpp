@@ -64,6 +64,13 @@ ChildWindow* ChildWindows::Open(std::string_view name, const std::function<Child
     return window;
 }
 
+void ChildWindows::ShowState() const {
+    for (const QMdiSubWindow* frame : subWindowList()) {
+        auto* window = dynamic_cast<ChildWindow*>(frame->widget());
+        if (window != nullptr && frame->isVisible()) window->ShowState();
+    }
+}
+
 void ChildWindows::Close(std::string_view name) const {
     if (ChildWindow* window = Find(name)) window->CloseWindow();
 }

@@ -26,6 +26,9 @@ class ChildWindows : public QMdiArea {
     ChildWindow* Open(std::string_view name, const std::function<ChildWindow*()>& make,
                       Place place = Place::Centred);
 
+    /// Has every open window show what has changed.
+    void ShowState() const;
+
     void Close(std::string_view name) const;
 
   protected:

@@ -26,9 +26,12 @@ FlowFrame::FlowFrame(PanelContext& context)
       volumeFlowGiven_(
           new NumberBox("Text13", [this](std::string_view text) { TypeVolumeFlow(text); })),
       flowComputed_(new ComputedField("Text2")),
-      volumeFlowComputed_(new ComputedField("Text3")) {
+      volumeFlowComputed_(new ComputedField("Text3")),
+      velocity_(new ComputedField("Velocity")),
+      dropPerMetre_(new ComputedField("DropPerMetre")) {
     Named(this, "Frame7");
     auto* rows = new QGridLayout(this);
+    rows->setVerticalSpacing(kRowSpacing);
     rows->addWidget(choice_, 0, 0, 1, 3);
     rows->addWidget(PlainLabel("given"), 1, 1);
     rows->addWidget(PlainLabel("computed"), 1, 2);
@@ -38,6 +41,10 @@ FlowFrame::FlowFrame(PanelContext& context)
     rows->addWidget(LabelFor(volumeFlowGiven_, "[mc/h]"), 3, 0);
     rows->addWidget(volumeFlowGiven_, 3, 1);
     rows->addWidget(volumeFlowComputed_, 3, 2);
+    rows->addWidget(LabelFor(velocity_, "velocity [m/s]"), 4, 0, 1, 2);
+    rows->addWidget(velocity_, 4, 2);
+    rows->addWidget(LabelFor(dropPerMetre_, "friction [Pa/m]"), 5, 0, 1, 2);
+    rows->addWidget(dropPerMetre_, 5, 2);
     flowGiven_->setAccessibleName("Given flow rate [kg/h]");
     volumeFlowGiven_->setAccessibleName("Given flow rate [mc/h]");
     flowComputed_->setAccessibleName("Computed flow rate [kg/h]");
@@ -52,6 +59,8 @@ void FlowFrame::Show() {
     volumeFlowGiven_->Show(panel.cubicMetresPerHour);
     flowComputed_->Show(panel.computedKgPerHour, context_.resultsOld);
     volumeFlowComputed_->Show(panel.computedCubicMetresPerHour, context_.resultsOld);
+    velocity_->Show(context_.sizing.velocity, context_.resultsOld);
+    dropPerMetre_->Show(context_.sizing.dropPerMetre, context_.resultsOld);
 }
 
 void FlowFrame::TypeVolumeFlow(std::string_view text) {

@@ -23,6 +23,8 @@ class FlowFrame : public QGroupBox {
     NumberBox* volumeFlowGiven_;
     ComputedField* flowComputed_;
     ComputedField* volumeFlowComputed_;
+    ComputedField* velocity_;
+    ComputedField* dropPerMetre_;
 };
 
 }  // namespace idrova

@@ -43,7 +43,7 @@ QLabel* SettingLabel(const char* name) {
 FrmCom::FrmCom(Program& program, QWidget* parent)
     : QDockWidget("Idrova - Commands", parent),
       program_(program),
-      context_{program, {}, false, [this] { ShowEdited(); }},
+      context_{program, [this] { ShowEdited(); }},
       pipeFrame_(new PipeFrame(context_)),
       pressuresFrame_(new PressuresFrame(context_)),
       directionsFrame_(new DirectionsFrame(context_)),
@@ -119,8 +119,10 @@ void FrmCom::ShowState() {
     fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project.settings)));
     roughness_->setText(
         ToQt(RoughnessLabel(program_.shell.roughnessItem, program_.project.settings.Roughness)));
-    context_.resultsOld = ResultsAreOld(program_);
     if (!isEdited_) context_.panel = ShowPipeData(program_.project);
+    const RunRecord* record = RecordOf(program_);
+    context_.sizing = record == nullptr ? SizingTexts() : SizingOf(*record, context_.panel.pipe);
+    context_.resultsOld = ResultsAreOld(program_);
     ShowFrames();
     componentsFrame_->Show();
     ShowEnabling();

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "editor/pipe_panel.h"
+#include "results/sizing_texts.h"
 #include "ui/kit/coloured_field.h"
 
 class QRadioButton;
@@ -15,13 +16,16 @@ namespace idrova {
 
 struct Program;
 
+constexpr int kRowSpacing = 3;  ///< pixels; all frames are to be seen on a screen of 1080 lines
+
 /// What the frames of the command panel share.
 struct PanelContext {
     Program& program;
-    PipePanel panel;          ///< what the boxes hold
-    bool resultsOld = false;  ///< the computed ones among them are of a plant that has changed
     /// A frame has changed the pipe, and `panel` with it: shows both wherever they are shown.
     std::function<void()> edited;
+    PipePanel panel{};        ///< what the boxes hold
+    SizingTexts sizing{};     ///< beside the computed flow
+    bool resultsOld = false;  ///< what was computed is of a plant that has changed since
 };
 
 /// A box for a typed number.

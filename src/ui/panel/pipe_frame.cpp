@@ -35,6 +35,7 @@ PipeFrame::PipeFrame(PanelContext& context)
         context_.edited();
     });
     auto* form = new QFormLayout(this);
+    form->setVerticalSpacing(kRowSpacing);
     form->addRow(flowFrame_);
     form->addRow(LabelFor(length_, "Lenght [m]"), length_);
     form->addRow(nominalLabel_, sizes_);

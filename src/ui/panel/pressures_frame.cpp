@@ -51,6 +51,7 @@ void PressuresFrame::LayOut(const PointBoxes& point) {
     point.given->setAccessibleName("Given pressure");
     point.computed->setAccessibleName("Computed pressure");
     auto* grid = new QGridLayout(point.frame);
+    grid->setVerticalSpacing(kRowSpacing);
     grid->addWidget(point.option, 0, 0, 1, 4);
     grid->addWidget(PlainLabel("given"), 1, 0);
     grid->addWidget(PlainLabel("computed"), 1, 2);

@@ -4,15 +4,18 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGridLayout>
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "model/pipe_sizes.h"
+#include "results/sizing_texts.h"
 #include "shell/run_command.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/flow_arrow.h"
 #include "ui/kit/form_parts.h"
@@ -25,9 +28,8 @@ namespace idrova {
 namespace {
 
 constexpr int kDirectionInterval = 300;  ///< ms
+constexpr int kTypingPause = 700;        ///< ms
 constexpr int kFormWidth = 640;
-constexpr QRgb kUnknownColour = 0xFFFFC0;  ///< light yellow
-constexpr QRgb kKnownColour = 0xFFFFFF;
 
 struct QuantityNames {
     const char* caption;
@@ -58,11 +60,15 @@ constexpr int kMore = 3;
 constexpr int kLess = 4;
 constexpr int kUnknown = 5;
 
-void Colour(QWidget& box, QRgb colour) {
-    QPalette palette = box.palette();
-    palette.setColor(QPalette::Base, QColor(colour));
-    palette.setColor(QPalette::Text, Qt::black);
-    box.setPalette(palette);
+void AddComputed(QGridLayout& grid, int row, const char* caption, ComputedField* field) {
+    grid.addWidget(LabelFor(field, caption), row, kCaption);
+    grid.addWidget(field, row, kBox);
+}
+
+/// Whether reports are collected changes no result.
+bool GiveTheSame(Settings one, const Settings& other) {
+    one.ResultsInSequence = other.ResultsInSequence;
+    return one == other;
 }
 
 }  // namespace
@@ -70,11 +76,30 @@ void Colour(QWidget& box, QRgb colour) {
 FrmSin::FrmSin(Program& program)
     : ChildWindow("FrmSin", "Idrova - Single pip calculation"),
       program_(program),
+      computedWith_(program.project.settings),
       sizes_(SizeList("Combo2")),
       turnButton_(CommandButton("Command9", "Directions", [this] { Turn(); })),
+      velocity_(new ComputedField("Velocity")),
+      dropPerMetre_(new ComputedField("DropPerMetre")),
       arrow_(new FlowArrow),
-      directionTimer_(Named(new QTimer(this), "Timer1")) {
+      directionTimer_(Named(new QTimer(this), "Timer1")),
+      pauseTimer_(new QTimer(this)) {
     StayOnEscape();
+    program_.records.erase(WorkMode::SinglePipe);  // of a window that has been closed
+    LayOut();
+    AddUnknownChoice();
+    SetTabOrder();
+    ShowUnknown();
+    ShowDirection();
+    connect(directionTimer_, &QTimer::timeout, this, [this] { ShowDirection(); });
+    directionTimer_->start(kDirectionInterval);
+    pauseTimer_->setSingleShot(true);
+    pauseTimer_->setInterval(kTypingPause);
+    connect(pauseTimer_, &QTimer::timeout, this, [this] { Tell(); });
+    setFocusProxy(Of(PipeQuantity::PressureAt1).box);
+}
+
+void FrmSin::LayOut() {
     auto* form = new QWidget;
     form->setMaximumWidth(kFormWidth);
     auto* grid = new QGridLayout(form);
@@ -84,40 +109,41 @@ FrmSin::FrmSin(Program& program)
     AddDirection(*grid, 2);
     AddQuantity(*grid, 3, PipeQuantity::Length, "Pipe");
     AddQuantity(*grid, 4, PipeQuantity::FlowRate);
-    AddDiameterList(*grid, 5);
-    AddQuantity(*grid, 6, PipeQuantity::Diameter);
-    auto* options = new QButtonGroup(this);
-    for (const Controls& controls : controls_) options->addButton(controls.unknown);
+    AddComputed(*grid, 5, "velocity [m/s]", velocity_);
+    AddComputed(*grid, 6, "friction [Pa/m]", dropPerMetre_);
+    AddDiameterList(*grid, 7);
+    AddQuantity(*grid, 8, PipeQuantity::Diameter);
     auto* column = new QVBoxLayout(this);
     column->addWidget(form);
     column->addStretch(1);
+}
 
-    for (int i = 0; i < kPipeQuantities; ++i) {
-        const auto quantity = static_cast<PipeQuantity>(i);
-        connect(controls_[i].unknown, &QRadioButton::toggled, this, [this, quantity](bool chosen) {
-            if (chosen) ChooseUnknown(quantity);
-        });
-    }
-    Of(pipe_.unknown).unknown->setChecked(true);
-    connect(directionTimer_, &QTimer::timeout, this, [this] { ShowDirection(); });
-    directionTimer_->start(kDirectionInterval);
-    ShowDirection();
-    setFocusProxy(Of(PipeQuantity::PressureAt1).box);
+/// Typing goes from box to box; what is chosen once comes behind them.
+void FrmSin::SetTabOrder() {
+    const std::array<QWidget*, 8> order = {Of(PipeQuantity::PressureAt1).box,
+                                           Of(PipeQuantity::PressureAt2).box,
+                                           Of(PipeQuantity::Length).box,
+                                           Of(PipeQuantity::FlowRate).box,
+                                           sizes_,
+                                           Of(PipeQuantity::Diameter).box,
+                                           Of(PipeQuantity::FlowRate).unknown,
+                                           turnButton_};
+    for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
 void FrmSin::AddQuantity(QGridLayout& grid, int row, PipeQuantity quantity, const QString& point) {
     const QuantityNames& names = kNames[static_cast<int>(quantity)];
     const QString what = (point.isEmpty() ? QString() : point + ", ") + names.caption;
     Controls& controls = Of(quantity);
-    controls.box = TextField(names.box);
+    controls.box = new ColouredField(names.box);
     controls.box->setAccessibleName(what);
     connect(controls.box, &QLineEdit::textChanged, this, [this, quantity] { TakeTyped(quantity); });
     if (!point.isEmpty()) grid.addWidget(PlainLabel(point), row, kPoint);
     grid.addWidget(LabelFor(controls.box, names.caption), row, kCaption);
     grid.addWidget(controls.box, row, kBox);
     if (names.more != nullptr) {
-        controls.more = Named(Arrow(quantity, 1, "Increase " + what), names.more);
-        controls.less = Named(Arrow(quantity, -1, "Decrease " + what), names.less);
+        controls.more = Named(Arrow(quantity, 1, "Increase " + what + " (Up)"), names.more);
+        controls.less = Named(Arrow(quantity, -1, "Decrease " + what + " (Down)"), names.less);
         grid.addWidget(controls.more, row, kMore);
         grid.addWidget(controls.less, row, kLess);
     }
@@ -130,7 +156,7 @@ QToolButton* FrmSin::Arrow(PipeQuantity quantity, int steps, const QString& what
     auto* button = new QToolButton;
     button->setArrowType(steps > 0 ? Qt::UpArrow : Qt::DownArrow);
     button->setAutoRepeat(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    button->setFocusPolicy(Qt::NoFocus);  // it would swallow what is typed on
     button->setAccessibleName(what);
     button->setToolTip(what);
     connect(button, &QToolButton::clicked, this,
@@ -149,6 +175,26 @@ void FrmSin::AddDirection(QGridLayout& grid, int row) {
     grid.addWidget(turnButton_, row, kMore, 1, kUnknown - kMore + 1);
 }
 
+void FrmSin::AddUnknownChoice() {
+    auto* options = new QButtonGroup(this);
+    for (const Controls& controls : controls_) options->addButton(controls.unknown);
+    Of(pipe_.unknown).unknown->setChecked(true);
+    for (int i = 0; i < kPipeQuantities; ++i) {
+        const auto quantity = static_cast<PipeQuantity>(i);
+        connect(controls_[i].unknown, &QRadioButton::toggled, this, [this, quantity](bool chosen) {
+            if (chosen) ChooseUnknown(quantity);
+        });
+    }
+}
+
+void FrmSin::keyPressEvent(QKeyEvent* event) {
+    const int steps = event->key() == Qt::Key_Up ? 1 : event->key() == Qt::Key_Down ? -1 : 0;
+    const auto* stepped = std::ranges::find_if(
+        kSteppedQuantities, [this](PipeQuantity quantity) { return Of(quantity).box->hasFocus(); });
+    if (steps == 0 || stepped == kSteppedQuantities.end()) return ChildWindow::keyPressEvent(event);
+    Step(*stepped, steps);
+}
+
 void FrmSin::TakeTyped(PipeQuantity quantity) {
     if (TypeQuantity(pipe_, quantity, FromQt(Of(quantity).box->text()))) Recompute();
 }
@@ -159,15 +205,22 @@ void FrmSin::Step(PipeQuantity quantity, int steps) {
 
 void FrmSin::ChooseUnknown(PipeQuantity quantity) {
     pipe_.unknown = quantity;
+    isSolved_ = false;
+    program_.records.erase(WorkMode::SinglePipe);
+    ShowUnknown();
+    ShowDirection();
+    program_.changed();
+}
+
+void FrmSin::ShowUnknown() {
     for (const PipeQuantity stepped : kSteppedQuantities) {
-        const bool known = stepped != quantity;
+        const bool known = stepped != pipe_.unknown;
         const Controls& controls = Of(stepped);
         controls.more->setEnabled(known);
         controls.less->setEnabled(known);
         controls.box->setEnabled(known);
-        Colour(*controls.box, known ? kKnownColour : kUnknownColour);
+        controls.box->SetGround(known ? FieldGround::Typed : FieldGround::Unknown);
     }
-    ShowDirection();
 }
 
 void FrmSin::ChooseSize(int position) {
@@ -185,19 +238,50 @@ void FrmSin::ShowDirection() {
     arrow_->Show(view);
 }
 
+void FrmSin::ShowState() {
+    if (GiveTheSame(computedWith_, program_.project.settings)) return ShowResults();
+    Recompute();
+}
+
+void FrmSin::ShowResults() {
+    for (const PipeQuantity stepped : kSteppedQuantities) {
+        Of(stepped).box->SetOld(stepped == pipe_.unknown && !isSolved_);
+    }
+    const auto record = program_.records.find(WorkMode::SinglePipe);
+    SizingTexts sizing{FromQt(velocity_->text()), FromQt(dropPerMetre_->text())};
+    if (isSolved_ && record != program_.records.end()) sizing = SizingOf(record->second, 1);
+    velocity_->Show(sizing.velocity, !isSolved_);
+    dropPerMetre_->Show(sizing.dropPerMetre, !isSolved_);
+}
+
 void FrmSin::Recompute() {
     // The sign of the flow that is shown belongs to the arrow that is shown.
     ShowDirection();
-    // Such a run ends within one keystroke: a progress window would only flicker.
+    computedWith_ = program_.project.settings;
+    SinglePipeResult result = RunSinglePipe(pipe_, program_.project, program_.work);
+    isSolved_ = result.box.has_value();
+    if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
+    program_.records[WorkMode::SinglePipe] = std::move(result.record);
+    isTold_ = false;
+    pauseTimer_->start();
+    program_.changed();
+}
+
+void FrmSin::TakeEdits() {
+    Tell();
+}
+
+void FrmSin::Tell() {
+    pauseTimer_->stop();
+    const auto record = program_.records.find(WorkMode::SinglePipe);
+    if (isTold_ || record == program_.records.end()) return;
+    isTold_ = true;
     const auto write = ReportWriter(program_.project, program_.folder, program_.report);
     const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
         return FirstFailure(write(settings, work));
     };
-    SinglePipeResult result = RunSinglePipe(pipe_, program_.project, program_.work,
-                                            {.boxes = program_.boxes, .writeReport = writeReport});
-    program_.records[WorkMode::SinglePipe] = std::move(result.record);
-    program_.changed();
-    if (result.box) Of(result.box->box).box->setText(ToQt(result.box->text));
+    // Such a run ends within one keystroke: a progress window would only flicker.
+    TellRun(record->second, {.boxes = program_.boxes, .writeReport = writeReport});
 }
 
 Status FrmSin::FirstFailure(const Status& stored) {

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/program_selection.h"
+
+#include "editor/grid_view.h"
+#include "editor/selection.h"
+#include "model/drawn_records.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+int PipeAt(const Project& project, int point) {
+    for (const auto& [number, pipe] : DrawnPipes(project)) {
+        if (pipe.IsEnd(point)) return number;
+    }
+    return 0;
+}
+
+void BringIntoView(Program& program, ScreenPoint at) {
+    if (IsOnGrid(program.project, Shown(program.project, program.editor, at))) return;
+    ScrollDrawing(program.project, program.editor, 1, 1);
+}
+
+void SelectDrawnPipe(Program& program, int number) {
+    if (number < 1 || number > program.project.numtubo) return;
+    const PipeRec& pipe = program.project.Pipes[number];
+    if (!pipe.IsDrawn()) return;
+    SelectPipe(program.project, program.editor, number);
+    program.editor.framesEnabled = true;
+    BringIntoView(program, {pipe.X1, pipe.Y1});
+}
+
+void SelectComponent(Program& program, int cell) {
+    Project& project = program.project;
+    if (cell < 1 || cell > project.CellCount() || !project.Cells[cell].Placed) return;
+    SelectPipe(project, program.editor, 0);
+    program.editor.selectedComponent = cell;
+    BringIntoView(program, CellCentre(project, cell));
+}
+
+}  // namespace
+
+void SelectElement(Program& program, const Element& element) {
+    if (program.project.settings.Mode == WorkMode::Table && element.kind == NoteOn::Pipe) {
+        program.tablePlace.line = element.number - 1;
+    }
+    if (program.project.settings.Mode != WorkMode::Graphic) return;
+    if (element.kind == NoteOn::Pipe) SelectDrawnPipe(program, element.number);
+    if (element.kind == NoteOn::Point) {
+        SelectDrawnPipe(program, PipeAt(program.project, element.number));
+    }
+    if (element.kind == NoteOn::Cell) SelectComponent(program, element.number);
+}
+
+int SelectedNumber(const Program& program, NoteOn kind) {
+    const Project& project = program.project;
+    if (project.settings.Mode == WorkMode::Table) {
+        return kind == NoteOn::Pipe ? program.tablePlace.line + 1 : 0;
+    }
+    if (project.settings.Mode != WorkMode::Graphic) return 0;
+    if (kind == NoteOn::Pipe) return project.CurrentPipe;
+    if (kind == NoteOn::Cell) return program.editor.selectedComponent;
+    const bool point = kind == NoteOn::Point && project.CurrentPipe != 0;
+    return point ? project.Pipes[project.CurrentPipe].StartPoint : 0;
+}
+
+bool IsSelected(const Program& program, const Element& element) {
+    if (element.number == 0) return false;
+    if (element.number == SelectedNumber(program, element.kind)) return true;
+    const Project& project = program.project;
+    return element.kind == NoteOn::Point && SelectedNumber(program, NoteOn::Pipe) != 0 &&
+           project.settings.Mode == WorkMode::Graphic &&
+           project.Pipes[project.CurrentPipe].IsEnd(element.number);
+}
+
+}  // namespace idrova
