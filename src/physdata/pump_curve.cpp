@@ -49,4 +49,8 @@ PumpChart ChartBetween(const PumpCurve& curve, double qMin, double qMax) {
     return chart;
 }
 
+ChartPlace PlaceOnChart(double qMin, double qMax, double flow, double rise) {
+    return {(flow - qMin) / (qMax - qMin) * kChartRows, MetresFromPascal(rise)};
+}
+
 }  // namespace idrova

@@ -44,6 +44,16 @@ struct ChartRow {
 constexpr int kChartRows = 20;
 using PumpChart = std::array<ChartRow, kChartRows>;
 
+/// Where a flow and a rise lie on the chart: rows count from 0 at `qMin`.
+struct ChartPlace {
+    double row = 0;
+    double prevalence = 0;  ///< m
+    bool operator==(const ChartPlace&) const = default;
+};
+
+/// The place of a flow in kg/s and a rise in Pa; the flow rates must differ.
+ChartPlace PlaceOnChart(double qMin, double qMax, double flow, double rise);
+
 /// The curve from `qMin` (kg/s) in twenty equal steps towards `qMax`, which itself is left out.
 PumpChart ChartBetween(const PumpCurve& curve, double qMin, double qMax);
 

@@ -8,6 +8,7 @@
 
 #include "editor/component_insertion.h"
 #include "physdata/component_commands.h"
+#include "results/working_points.h"
 #include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
@@ -87,8 +88,23 @@ void FrmPompa::ShowCurve(const PumpRecord& pump) {
     coefficientA_->setText(ToQt(labels.a));
     coefficientB_->setText(ToQt(labels.b));
     coefficientC_->setText(ToQt(labels.c));
-    if (const auto chart = ChartOf(pump)) chart_->ShowChart(*chart);
+    if (const auto chart = ChartOf(pump)) {
+        charted_ = pump;
+        chart_->ShowChart(*chart);
+        ShowState();
+    }
     if (!flowAt_->text().isEmpty()) Evaluate();
+}
+
+void FrmPompa::ShowState() {
+    std::vector<ChartPlace> places;
+    const RunRecord* record = RecordOf(program_);
+    if (record != nullptr && record->results && !ResultsAreOld(program_)) {
+        for (const ComponentResult& pump : WorkingPoints(*record->results, charted_.name)) {
+            places.push_back(PlaceOnChart(charted_.qMin, charted_.qMax, pump.flow, pump.change));
+        }
+    }
+    chart_->ShowWorkingPoints(places);
 }
 
 void FrmPompa::Choose(int position) {

@@ -21,6 +21,9 @@ class FrmPompa : public ChildWindow {
   public:
     explicit FrmPompa(Program& program);
 
+    /// The working points of an up-to-date computation.
+    void ShowState() override;
+
   private:
     QBoxLayout* Data();
     QGridLayout* Rows();
@@ -35,7 +38,8 @@ class FrmPompa : public ChildWindow {
     void Delete();
 
     Program& program_;
-    PumpCurve curve_;  ///< of the pump last shown that has one
+    PumpCurve curve_;     ///< of the pump last shown that has one
+    PumpRecord charted_;  ///< the pump that the chart shows
     NameList* names_;
     QLineEdit* maxPrevalence_;
     QLineEdit* minFlow_;

@@ -20,6 +20,8 @@ namespace {
 constexpr double kTurned = -90;       ///< degrees; lets the labels of all rows stand side by side
 constexpr QSize kSmallest(240, 220);  ///< beside the data, on a screen of 1024 x 768
 
+constexpr QColor kWorkingPoint(0xE0, 0x40, 0x10);
+
 /// What the chart shows, for those who cannot see it.
 QString Summary(const PumpChart& chart) {
     const auto end = [](const ChartRow& row) {
@@ -28,17 +30,27 @@ QString Summary(const PumpChart& chart) {
     return ToQt("From " + end(chart.front()) + " to " + end(chart.back()));
 }
 
+QString Summary(const std::vector<ChartPlace>& points) {
+    QString text;
+    for (const ChartPlace& point : points) {
+        text += ToQt(", working at " + FormatNumber(point.prevalence, "####.###") + " m");
+    }
+    return text;
+}
+
 }  // namespace
 
-PumpPlot::PumpPlot(const char* name) : plot_(new QCustomPlot) {
+PumpPlot::PumpPlot(const char* name)
+    : plot_(new QCustomPlot), curve_(plot_->addGraph()), points_(plot_->addGraph()) {
     Named(this, name);
     setAccessibleName("Pump curve");
     setMinimumSize(kSmallest);
     auto* area = new QVBoxLayout(this);
     area->setContentsMargins(0, 0, 0, 0);
     area->addWidget(plot_);
-    plot_->addGraph();
-    plot_->graph()->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, 6));
+    curve_->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, 6));
+    points_->setLineStyle(QCPGraph::lsNone);
+    points_->setScatterStyle({QCPScatterStyle::ssCircle, QPen(kWorkingPoint, 3), Qt::NoBrush, 12});
     plot_->xAxis->setLabel("Portata [kg/h]");
     plot_->yAxis->setLabel("Prevalenza [m]");
     plot_->xAxis->grid()->setZeroLinePen(Qt::NoPen);
@@ -59,7 +71,7 @@ void PumpPlot::Colour() {
     const QColor faint = OldResultColour(OldResultColour(text, ground), ground);
     const bool dark = ground.lightness() < text.lightness();
     plot_->setBackground(ground);
-    plot_->graph()->setPen(QPen(dark ? QColor(0x6FA8FF) : QColor(Qt::blue), 2));
+    curve_->setPen(QPen(dark ? QColor(0x6FA8FF) : QColor(Qt::blue), 2));
     for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
         for (const auto set :
              {&QCPAxis::setBasePen, &QCPAxis::setTickPen, &QCPAxis::setSubTickPen}) {
@@ -74,18 +86,34 @@ void PumpPlot::Colour() {
 
 void PumpPlot::ShowChart(const PumpChart& chart) {
     auto labels = QSharedPointer<QCPAxisTickerText>::create();
-    plot_->graph()->data()->clear();
+    curve_->data()->clear();
     for (int row = 0; row < kChartRows; ++row) {
         labels->addTick(row, ToQt(chart[row].label));
-        plot_->graph()->addData(row, chart[row].prevalence);
+        curve_->addData(row, chart[row].prevalence);
     }
     plot_->xAxis->setTicker(labels);
+    curveSummary_ = Summary(chart);
+    working_.clear();
+    points_->data()->clear();
+    Replot();
+}
+
+void PumpPlot::ShowWorkingPoints(const std::vector<ChartPlace>& points) {
+    if (points == working_) return;
+    working_ = points;
+    points_->data()->clear();
+    for (const ChartPlace& point : points) points_->addData(point.row, point.prevalence);
+    Replot();
+}
+
+void PumpPlot::Replot() {
+    setAccessibleDescription(curveSummary_ + Summary(working_));
+    setToolTip(working_.empty() ? QString() : "Circles: where the placed pumps of this name work");
     plot_->rescaleAxes();
     for (QCPAxis* axis : {plot_->xAxis, plot_->yAxis}) {
         axis->scaleRange(1.1, axis->range().center());
     }
     plot_->replot();
-    setAccessibleDescription(Summary(chart));
 }
 
 }  // namespace idrova

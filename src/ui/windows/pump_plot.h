@@ -2,9 +2,11 @@
 #pragma once
 
 #include <QWidget>
+#include <vector>
 
 #include "physdata/pump_curve.h"
 
+class QCPGraph;
 class QCustomPlot;
 
 namespace idrova {
@@ -15,6 +17,8 @@ class PumpPlot : public QWidget {
     explicit PumpPlot(const char* name);
 
     void ShowChart(const PumpChart& chart);
+    /// Where placed pumps work, beside the curve of the chart.
+    void ShowWorkingPoints(const std::vector<ChartPlace>& points);
 
     QSize sizeHint() const override { return {420, 300}; }
 
@@ -24,8 +28,13 @@ class PumpPlot : public QWidget {
   private:
     /// In the colours of the desktop's theme.
     void Colour();
+    void Replot();
 
     QCustomPlot* plot_;
+    QCPGraph* curve_;
+    QCPGraph* points_;
+    QString curveSummary_;
+    std::vector<ChartPlace> working_;
 };
 
 }  // namespace idrova
