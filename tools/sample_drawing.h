@@ -56,7 +56,7 @@ class SampleDrawing {
         const auto found = std::ranges::find(names, name);
         if (found == names.end()) throw std::runtime_error("no component " + std::string(name));
         ChooseComponentAt(editor_, lists_, static_cast<int>(found - names.begin()));
-        ArmInsertion(editor_, boxes_);
+        ArmInsertion(*project_, editor_, boxes_);
         Click(place);
     }
 

@@ -26,6 +26,7 @@ void RightClick(Project& project, Editor& editor, int cell) {
         SelectCell(project, editor, cell);
     } else {
         AbortInsertion(editor);
+        editor.selectedIn = 0;
     }
 }
 

@@ -69,17 +69,14 @@ void CutPipe(Project& project, int number, int cell) {
     piece.Diameter = pipe.Diameter;
 }
 
-CellRec ComponentRecord(const ComponentChoice& choice, InsertState state, const PipeRec& pipe) {
+CellRec ComponentRecord(const ComponentChoice& choice, CellKind kind, const PipeRec& pipe) {
     CellRec cell;
     cell.Name = choice.CompName;
     cell.Placed = true;
     cell.Param1 = ToSingle(choice.CompValue1);
     cell.Param2 = ToSingle(choice.CompValue2);
-    if (state == InsertState::Loss) {
-        cell.Kind = CellKind::Loss;
-        return cell;
-    }
-    cell.Kind = CellKind::Pump;
+    cell.Kind = kind;
+    if (kind == CellKind::Loss) return cell;
     cell.PumpConstant = ToSingle(choice.CompValue3);
     cell.MinFlow = choice.ChosenPump.qMin;
     cell.MaxFlow = choice.ChosenPump.qMax;
@@ -99,6 +96,35 @@ bool ChoiceStaysAt(const Editor& editor, const ComponentLists& lists, int positi
     ComponentChoice choice = editor.choice;
     ChooseComponent(choice, lists, editor.componentKind, position);
     return choice == editor.choice;
+}
+
+/// A pump whose flow rates are equal has no curve.
+bool RefusePump(const Editor& editor, MessageBoxes& boxes) {
+    const bool pump = editor.componentKind == CellKind::Pump;
+    if (!pump || CurveOf(editor.choice.ChosenPump)) return false;
+    boxes.Show(kPumpWithoutCurve);
+    return true;
+}
+
+bool IsToReplace(const Project& project, const Editor& editor, MessageBoxes& boxes) {
+    const CellRec& selected = project.Cells[editor.selectedComponent];
+    if (!selected.Placed) return false;
+    const bool another =
+        selected.Kind != editor.componentKind || selected.Name != editor.choice.CompName;
+    return another && boxes.Show(AskReplace(selected.Name, editor.choice.CompName)) == Answer::Ok;
+}
+
+/// A pump that takes the place of another delivers the same way.
+void Replace(Project& project, const Editor& editor, MessageBoxes& boxes) {
+    if (RefusePump(editor, boxes)) return;
+    const int cell = editor.selectedComponent;
+    CellRec& record = project.Cells[cell];
+    const CellRec before =
+        std::exchange(record, ComponentRecord(editor.choice, editor.componentKind,
+                                              project.Pipes[PipeAtCell(project, cell)]));
+    if (before.Kind == CellKind::Pump && record.Kind == CellKind::Pump) {
+        record.Direction = before.Direction;
+    }
 }
 
 }  // namespace
@@ -141,13 +167,14 @@ bool MayPlaceComponents(const Project& project, const Editor& editor) {
     return editor.framesEnabled || FreePipes(project) < kMaxPipes;
 }
 
-void ArmInsertion(Editor& editor, MessageBoxes& boxes) {
+void ArmInsertion(Project& project, Editor& editor, MessageBoxes& boxes) {
     editor.DataShown = false;
     if (editor.componentPosition < 0) {
         boxes.Show(kSelectComponent);
         return;
     }
     AbortInsertion(editor);
+    if (IsToReplace(project, editor, boxes)) return Replace(project, editor, boxes);
     editor.state = ArmedFor(editor.componentKind);
 }
 
@@ -160,10 +187,7 @@ void TurnSelectedPump(Project& project, const Editor& editor) {
 }
 
 void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& boxes) {
-    if (editor.state == InsertState::Pump && !CurveOf(editor.choice.ChosenPump)) {
-        boxes.Show(kPumpWithoutCurve);
-        return;
-    }
+    if (RefusePump(editor, boxes)) return;
     CellRec& record = project.Cells[cell];
     const int pipe = PipeAtCell(project, cell);
     if (!IsPlainConnection(record)) {
@@ -173,7 +197,7 @@ void InsertComponent(Project& project, Editor& editor, int cell, MessageBoxes& b
         }
         CutPipe(project, pipe, cell);
     }
-    record = ComponentRecord(editor.choice, editor.state, project.Pipes[pipe]);
+    record = ComponentRecord(editor.choice, editor.componentKind, project.Pipes[pipe]);
     RebuildPipeCells(project);
 }
 

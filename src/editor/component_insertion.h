@@ -23,7 +23,8 @@ void RefreshComponentChoice(Editor& editor, const ComponentLists& lists);
 bool MayPlaceComponents(const Project& project, const Editor& editor);
 
 /// `Command3`: the next left click places the chosen component. Told in a box when none is chosen.
-void ArmInsertion(Editor& editor, MessageBoxes& boxes);
+/// When another one is selected on the drawing, a box offers to replace that in its place.
+void ArmInsertion(Project& project, Editor& editor, MessageBoxes& boxes);
 
 /// Places the chosen component in a cell of a pipe and cuts the pipe there; a cell whose component
 /// was deleted takes it without a cut. What is refused is told in a box and changes nothing.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string_view>
+
 #include "base/message_boxes.h"
 
 namespace idrova {
@@ -26,6 +28,8 @@ constexpr FixedMessage kOnExtreme{"The component can not be positioned on an ext
 constexpr FixedMessage kAskDeleteComponent{"Do you want to delete the component ?",
                                            "Component deleting", BoxIcon::Question,
                                            BoxButtons::OkCancel};
+/// Asks whether to put the chosen component in the place of the selected one.
+MessageBox AskReplace(std::string_view selected, std::string_view chosen);
 /// Asks whether to delete the pipe of this number.
 MessageBox AskDeletePipe(int pipe);
 

@@ -126,6 +126,7 @@ void InsertPipePoint(Project& project, Editor& editor, int cell, bool goOn, Mess
         return;
     }
     CompletePipe(project, first, cell);
+    editor.selectedComponent = 0;
     if (goOn && !FirstPointRefusal(project, cell)) BeginPipe(editor, cell);
 }
 

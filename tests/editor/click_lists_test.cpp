@@ -141,6 +141,24 @@ TEST(Components, TakeTheirDataFromTheChoice) {
     EXPECT_EQ(plant.project.numtubo, 4);
 }
 
+TEST(Components, ReplaceTheSelectedOneInItsPlace) {
+    Plant plant;
+    plant.lists.pumps[2] = {"other pump", 200000, 0.5F, 100000, 2};
+    plant.lists.pumps.count = 2;
+    plant.Do("L2,5 L8,5 pump L5,5 R5,5 turn pump");
+    EXPECT_TRUE(IsArmed(plant.editor)) << "it is the same";
+    plant.Do("R20,20 R5,5");
+    ChooseComponentAt(plant.editor, plant.lists, 1);
+    ArmInsertion(plant.project, plant.editor, plant.boxes);
+    EXPECT_EQ(plant.Messages(),
+              "Replace feed pump by other pump?\rWith Cancel the next click on a pipe inserts it.");
+    const CellRec& cell = plant.project.Cells[plant.Place(5, 5)];
+    EXPECT_EQ(cell.Name, "other pump");
+    EXPECT_EQ(cell.Direction, Delivery::Left) << "as the one before";
+    EXPECT_FALSE(IsArmed(plant.editor));
+    EXPECT_EQ(plant.Network(), "1:1(2,5)-3(5,5) 2:4(5,5)-2(8,5)");
+}
+
 TEST(Components, ArmedFollowTheKindChosenLast) {
     Plant plant;
     plant.Do("L2,5 L6,5 pump");

@@ -19,6 +19,7 @@ constexpr struct {
     {"L2,5 L8,5", "pump L5,5", "insert pump"},
     {"L2,5 L8,5 loss L5,5 R5,5", "delete", "delete loss"},
     {"L2,5 L8,5 pump L5,5 R5,5", "turn", "turn pump"},
+    {"L2,5 L8,5 pump L5,5 R5,5", "loss", "replace pump"},
     {"L2,5 L8,5 R5,5 again", "length=1 length=12", "length of pipe 1"},
     {"L2,5 L8,5 R5,5 again length=1 left", "length=2", "length of pipe 1"},
     {"L2,5 L8,5 R5,5 again", "size=3 size=7", "diameter of pipe 1"},

@@ -101,7 +101,7 @@ class Plant {
   private:
     void Arm(CellKind kind) {
         ChooseComponentKind(editor, lists, kind);
-        ArmInsertion(editor, boxes);
+        ArmInsertion(project, editor, boxes);
     }
 
     std::string Shown(const std::string& name) const {

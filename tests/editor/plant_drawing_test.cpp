@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+#include <array>
 #include <set>
 
 #include "editor/drawing_list.h"
@@ -17,39 +19,32 @@ using testing::Contains;
 using testing::IsSupersetOf;
 using Lines = std::vector<std::string>;
 
+const std::pair<Rgb, const char*> kColours[] = {
+    {drawing_colour::kSelectedPipe, "selected "}, {drawing_colour::kRemoved, "removed "},
+    {drawing_colour::kBegunPipe, "begun "},       {drawing_colour::kRefused, "refused "},
+    {drawing_colour::kKnown, "known "},           {drawing_colour::kUnknown, "unknown "}};
+
+std::string NameOf(const DrawnElement& element) {
+    const std::string number = element.pipe == 0 ? "" : " " + GeneralText(element.pipe);
+    const std::string quoted = "'" + element.text + "'";
+    const std::array names = {
+        std::string("cell"),  element.text, "pipe" + number,       std::string("point"),
+        std::string("arrow"), quoted,       std::string("leader"), quoted};
+    const auto colour =
+        std::ranges::find(kColours, element.colour, &std::pair<Rgb, const char*>::first);
+    return (colour == std::end(kColours) ? "" : colour->second) +
+           names[static_cast<std::size_t>(element.kind)];
+}
+
 /// What was drawn, one line of text for each element.
 Lines LinesOf(const DrawingList& drawing) {
-    const auto pair = [](ScreenPoint at) { return GeneralText(at.x) + "," + GeneralText(at.y); };
-    const auto name = [](const DrawnElement& element) -> std::string {
-        const std::string pipe = "pipe " + GeneralText(element.pipe);
-        const bool known = element.colour == drawing_colour::kKnown;
-        switch (element.kind) {
-            case ElementKind::CellFill:
-                return "removed cell";
-            case ElementKind::PipeLine:
-                if (element.colour == drawing_colour::kBegunPipe) return "begun pipe";
-                if (element.colour == drawing_colour::kRefused) return "refused pipe";
-                if (element.colour == drawing_colour::kRemoved) return "removed " + pipe;
-                return (element.colour == drawing_colour::kPipe ? "" : "selected ") + pipe;
-            case ElementKind::PointMarker:
-                return "point";
-            case ElementKind::ArrowLine:
-                return "arrow";
-            case ElementKind::LeaderLine:
-                return "leader";
-            case ElementKind::TextLabel:
-            case ElementKind::LeaderLabel:
-                return (known ? "known '" : "unknown '") + element.text + "'";
-            case ElementKind::CellIcon:
-                break;
-        }
-        return element.text;
+    const auto pair = [](ScreenPoint at) {
+        return " " + GeneralText(at.x) + "," + GeneralText(at.y);
     };
-    Lines lines = {"grid from " + pair({drawing.firstColumn, drawing.firstRow})};
+    Lines lines = {"grid from" + pair({drawing.firstColumn, drawing.firstRow})};
     for (const DrawnElement& element : drawing.elements) {
         const bool two = element.to != ScreenPoint{};
-        lines.push_back(name(element) + " " + pair(element.from) +
-                        (two ? " " + pair(element.to) : ""));
+        lines.push_back(NameOf(element) + pair(element.from) + (two ? pair(element.to) : ""));
     }
     return lines;
 }

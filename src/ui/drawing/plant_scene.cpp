@@ -87,30 +87,51 @@ std::size_t CommonTail(const std::vector<DrawnElement>& one,
 PlantScene::PlantScene(const Project& project, const std::filesystem::path& folder)
     : project_(project), icons_(folder), grid_(new GridItem(project)) {
     addItem(grid_);
+    RemoveAll();
     setSceneRect(grid_->boundingRect());
 }
 
 void PlantScene::Show(DrawingList drawing) {
     grid_->Start(drawing.firstColumn, drawing.firstRow);
+    std::vector<QGraphicsItem*> items = TakeItemsOf(drawing);
+    const auto isKept = [](const QGraphicsItem* item) { return item != nullptr; };
+    if (std::ranges::none_of(items, isKept)) {
+        RemoveAll();
+    } else {
+        for (const QGraphicsItem* item : items_) delete item;
+    }
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (items[i] == nullptr) items[i] = AddElement(drawing.elements[i]);
+    }
+    items_ = std::move(items);
+    shown_ = std::move(drawing);
+}
+
+/// All at once, which is far faster than one by one.
+void PlantScene::RemoveAll() {
+    delete elements_;
+    elements_ = addRect({}, Qt::NoPen);
+}
+
+/// Takes the items of the elements that are shown already; nothing stands for the others.
+std::vector<QGraphicsItem*> PlantScene::TakeItemsOf(const DrawingList& drawing) {
     const auto& before = shown_.elements;
     const auto& after = drawing.elements;
     const std::size_t tail = CommonTail(before, after);
-    std::vector<QGraphicsItem*> items;
+    std::vector<QGraphicsItem*> items(after.size());
     for (std::size_t i = 0; i < after.size(); ++i) {
         const bool inTail = i + tail >= after.size();
         const std::size_t at = inTail ? i + before.size() - after.size() : i;
         const bool same = at < before.size() - (inTail ? 0 : tail) && before[at] == after[i];
-        items.push_back(same ? std::exchange(items_[at], nullptr) : AddElement(after[i]));
+        if (same) items[i] = std::exchange(items_[at], nullptr);
     }
-    for (const QGraphicsItem* item : items_) delete item;
-    items_ = std::move(items);
-    shown_ = std::move(drawing);
+    return items;
 }
 
 QGraphicsItem* PlantScene::AddElement(const DrawnElement& element) {
     QGraphicsItem* item = MakeItem(element);
     item->setZValue(LayerOf(element));
-    addItem(item);
+    item->setParentItem(elements_);
     return item;
 }
 

@@ -23,6 +23,8 @@ class PlantScene : public QGraphicsScene {
     void ShowCursor(int place);
 
   private:
+    void RemoveAll();
+    std::vector<QGraphicsItem*> TakeItemsOf(const DrawingList& drawing);
     QGraphicsItem* AddElement(const DrawnElement& element);
     QGraphicsItem* MakeItem(const DrawnElement& element);
     QGraphicsItem* MakeFill(const DrawnElement& element) const;
@@ -33,6 +35,7 @@ class PlantScene : public QGraphicsScene {
     const Project& project_;
     CellIcons icons_;
     GridItem* grid_;
+    QGraphicsItem* elements_ = nullptr;  ///< parent of `items_`
     DrawingList shown_;
     std::vector<QGraphicsItem*> items_;  ///< of the elements shown, in their order
 };

@@ -10,10 +10,15 @@ namespace idrova {
 
 void AttachEditCommands(MDI& mdi) {
     Program& program = mdi.State();
-    mdi.Menu().Attach("Annulla",
-                      [&program] { program.history.Undo(program.project, program.editor); });
-    mdi.Menu().Attach("Ripeti",
-                      [&program] { program.history.Redo(program.project, program.editor); });
+    const auto attach = [&](const char* item, void (EditHistory::*step)(Project&, Editor&)) {
+        mdi.Menu().Attach(item, [&program, step] {
+            (program.history.*step)(program.project, program.editor);
+            const auto record = program.records.find(WorkMode::Graphic);
+            if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
+        });
+    };
+    attach("Annulla", &EditHistory::Undo);
+    attach("Ripeti", &EditHistory::Redo);
 }
 
 void ShowSteps(MDI& mdi) {

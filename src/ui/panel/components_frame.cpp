@@ -70,7 +70,7 @@ void ComponentsFrame::ChooseName(int position) {
 
 void ComponentsFrame::Insert() {
     Program& program = context_.program;
-    ArmInsertion(program.editor, program.boxes);
+    ArmInsertion(program.project, program.editor, program.boxes);
     program.changed();
 }
 
