@@ -75,13 +75,14 @@ Json PipeList(const WorkNetwork& results, const Settings& settings) {
         const PipeRec& pipe = results.WorkPipes[i];
         if (!pipe.IsDrawn()) continue;
         const PipeFigures figures = FiguresOf(pipe, results, settings);
+        const int direction = pipe.DirectionSign();
         list.push_back({{"number", i},
-                        {"from", pipe.StartPoint},
-                        {"to", pipe.EndPoint},
+                        {"from", direction > 0 ? pipe.StartPoint : pipe.EndPoint},
+                        {"to", direction > 0 ? pipe.EndPoint : pipe.StartPoint},
                         {"flow_kg_s", DecimalDouble(pipe.FlowRate)},
                         {"velocity_m_s", figures.speed},
                         {"reynolds", figures.reynolds},
-                        {"drop_Pa", DecimalDouble(figures.drop)},
+                        {"drop_Pa", direction * DecimalDouble(figures.drop)},
                         {"known", !results.WorkFlowUnknown[i]}});
     }
     return list;

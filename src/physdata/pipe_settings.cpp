@@ -43,10 +43,7 @@ SectionDisplay DisplayOf(Section section) {
                 .secondSide = true,
                 .secondSideLabel = "b [mm]"};
     }
-    return {.nominalSizes = true,
-            .firstSideLabel = "Diameter [mm]",
-            .secondSide = false,
-            .secondSideLabel = {}};
+    return {.firstSideLabel = "Diameter [mm]"};
 }
 
 std::string_view PressureUnitLabel(Unit unit) {

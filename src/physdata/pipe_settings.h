@@ -39,10 +39,10 @@ std::string RoughnessFieldText(const Settings& settings);
 
 /// What the command panel shows for the section.
 struct SectionDisplay {
-    bool nominalSizes = true;         ///< the list of nominal sizes and its label
-    std::string_view firstSideLabel;  ///< of the first size field
-    bool secondSide = false;          ///< the second side's field and label
-    std::string_view secondSideLabel;
+    bool nominalSizes = true;           ///< the list of nominal sizes and its label
+    std::string_view firstSideLabel{};  ///< of the first size field
+    bool secondSide = false;            ///< the second side's field and label
+    std::string_view secondSideLabel{};
 
     bool operator==(const SectionDisplay&) const = default;
 };

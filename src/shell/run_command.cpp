@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "hydraulics/messages.h"
+#include "hydraulics/problems.h"
 #include "hydraulics/run_results.h"
 #include "results/messages.h"
 #include "results/report.h"
@@ -72,6 +73,7 @@ RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& wor
     }
     record.outcome =
         ComputeNetwork(project.settings, work, {.seed = host.seed, .progress = host.showProgress});
+    if (record.outcome.refusal) record.outcome.notes = ProblemsOf(project.settings, work);
     AddTableNotes(project, texts, record.outcome);
     KeepResults(work, record);
     const bool stored = record.results.has_value();

@@ -32,7 +32,8 @@ struct RunHost {
 };
 
 /// Computes the table or the drawing, as the mode says: refusals told, the drawing's results stored
-/// in the project, the report written, pumps and pressures checked.
+/// in the project, the report written, pumps and pressures checked. After a refusal the notes name
+/// every place where it can be mended.
 RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
                      const RunHost& host);
 

@@ -110,6 +110,7 @@ TEST_F(RunCommand, WithoutResultsNothingIsStored) {
     host->stops = false;
     network->FlowUnknown[1] = true;
     expectNothing("end;Unsolving system;", RunEnd::Refused);
+    EXPECT_EQ(record.outcome.notes.at(0).number, 1) << "the open end that needs a value";
     network.SetPressure(1, INFINITY);
     expectNothing("end;Computation;", RunEnd::NotFinite);
     network->settings.Mode = WorkMode::Table;

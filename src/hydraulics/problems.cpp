@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "hydraulics/problems.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "base/number_text.h"
+#include "hydraulics/messages.h"
+#include "hydraulics/network_plan.h"
+#include "hydraulics/run_checks.h"
+
+namespace idrova {
+namespace {
+
+class ProblemList {
+  public:
+    ProblemList(const Settings& settings, const WorkNetwork& work)
+        : settings_(settings), work_(work), plan_(PlanNetwork(work)) {
+        for (const Component& component : plan_.components) {
+            joined_[component.high] = joined_[component.low] = true;
+        }
+    }
+
+    std::vector<Note> All() {
+        if (const auto refusal = CheckFluid(settings_)) AddNetwork(*refusal);
+        AddUnsizedPipes();
+        AddLonePoints();
+        AddUnjoinedComponents();
+        if (const auto refusal = CheckCounts(plan_)) AddCounts(*refusal);
+        if (notes_.empty()) AddIncoherentPipes();
+        return notes_;
+    }
+
+  private:
+    void Add(NoteOn on, int number, std::string text) {
+        notes_.push_back({std::move(text), on, number});
+    }
+
+    void AddNetwork(const Refusal& refusal) {
+        std::string text = RefusalBox(refusal).text;
+        std::ranges::replace(text, kLineBreak, ' ');
+        Add(NoteOn::Network, 0, text);
+    }
+
+    template <typename Visit>
+    void ForPipes(const Visit& visit) {
+        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
+            if (work_.WorkPipes[i].IsDrawn()) visit(i, work_.WorkPipes[i]);
+        }
+    }
+    template <typename Visit>
+    void ForPoints(const Visit& visit) {
+        for (int i = 1; i <= work_.WorkPointCount; ++i) {
+            if (work_.WorkPoints[i].IsDrawn()) visit(i);
+        }
+    }
+
+    void AddUnsizedPipes() {
+        const bool rectangular = settings_.SectionType == Section::Rectangular;
+        ForPipes([this, rectangular](int number, const PipeRec& pipe) {
+            const std::string name = "Pipe " + GeneralText(number);
+            if (!(pipe.Length > 0)) Add(NoteOn::Pipe, number, name + " has no length");
+            if (!(pipe.Diameter > 0)) {
+                Add(NoteOn::Pipe, number,
+                    name + (rectangular ? " has no side a" : " has no diameter"));
+            }
+            if (rectangular && !(pipe.OuterSize > 0)) {
+                Add(NoteOn::Pipe, number, name + " has no side b");
+            }
+        });
+    }
+
+    void AddLonePoints() {
+        ForPoints([this](int point) {
+            if (plan_.pipesAtPoint[point] != 0 || !work_.WorkPressureUnknown[point]) return;
+            Add(NoteOn::Point, point, "Point " + GeneralText(point) + " has no pipe");
+        });
+    }
+
+    void AddUnjoinedComponents() {
+        for (const Component& component : plan_.components) {
+            if (component.high != 0) continue;
+            Add(NoteOn::Cell, component.cell,
+                "The component in cell " + GeneralText(component.cell) +
+                    " does not stand between two pipes");
+        }
+    }
+
+    void AddCounts(const Refusal& refusal) {
+        if (refusal.kind == RefusalKind::TooFewTerms) AddOpenEnds();
+        if (refusal.kind == RefusalKind::TooManyTerms) {
+            AddSurplusPressures();
+            AddSurplusFlows();
+        }
+        if (notes_.empty()) AddNetwork(refusal);
+    }
+
+    bool IsOpenEnd(int point) const { return plan_.pipesAtPoint[point] == 1 && !joined_[point]; }
+
+    void AddOpenEnds() {
+        ForPipes([this](int number, const PipeRec& pipe) {
+            if (!work_.WorkFlowUnknown[number]) return;
+            for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
+                if (!IsOpenEnd(point) || !work_.WorkPressureUnknown[point]) continue;
+                Add(NoteOn::Point, point,
+                    "Point " + GeneralText(point) +
+                        " is an open end: give its pressure or the flow of pipe " +
+                        GeneralText(number));
+            }
+        });
+    }
+
+    /// An open end takes one value, a point where the flow goes on none.
+    void AddSurplusPressures() {
+        ForPoints([this](int point) {
+            if (work_.WorkPressureUnknown[point] || IsOpenEnd(point)) return;
+            Add(NoteOn::Point, point,
+                "The pressure of point " + GeneralText(point) +
+                    " is given, though it is no open end: make it unknown");
+        });
+    }
+
+    void AddSurplusFlows() {
+        ForPipes([this](int number, const PipeRec& pipe) {
+            if (work_.WorkFlowUnknown[number]) return;
+            const auto takesFlow = [this](int point) {
+                return IsOpenEnd(point) && work_.WorkPressureUnknown[point];
+            };
+            if (takesFlow(pipe.StartPoint) || takesFlow(pipe.EndPoint)) return;
+            Add(NoteOn::Pipe, number,
+                "The flow of pipe " + GeneralText(number) +
+                    " is given, though no end of it is open for one: make it or a pressure "
+                    "unknown");
+        });
+    }
+
+    void AddIncoherentPipes() {
+        const auto refusal = CheckCoherence(settings_, work_);
+        if (!refusal) return;
+        for (const int pipe : refusal->pipes) {
+            Add(NoteOn::Pipe, pipe,
+                "The flow of pipe " + GeneralText(pipe) +
+                    " does not fit the pressures of its ends: make one of the three unknown");
+        }
+    }
+
+    const Settings& settings_;
+    const WorkNetwork& work_;
+    const NetworkPlan plan_;
+    std::array<bool, kMaxPoints + 1> joined_{};  ///< the point lies at a component
+    std::vector<Note> notes_;
+};
+
+}  // namespace
+
+std::vector<Note> ProblemsOf(const Settings& settings, const WorkNetwork& work) {
+    return ProblemList(settings, work).All();
+}
+
+}  // namespace idrova
