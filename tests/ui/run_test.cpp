@@ -85,7 +85,7 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     boxes.Expect(kSelectAFluid);
     Do("Command1");
     EXPECT_TRUE(outcome.isVisible() && IsRed());
-    boxes.Expect({outcome.text().toStdString(), "Computation", BoxIcon::Exclamation});
+    boxes.Expect({"Not computed\nSelect a fluid", "Computation", BoxIcon::Exclamation});
     outcome.click();
 
     ChooseWater();
