@@ -7,12 +7,11 @@
 
 #include "base/number_text.h"
 #include "calc/exit_status.h"
+#include "hydraulics/pipe_drop.h"
 #include "model/version.h"
 
 namespace idrova {
 namespace {
-
-constexpr double kAbsoluteZero = -273.15;  ///< degrees Celsius
 
 using Range = bool (*)(double);
 
@@ -26,7 +25,7 @@ bool NotNegative(double number) {
     return number >= 0;
 }
 bool AboveAbsoluteZero(double number) {
-    return number > kAbsoluteZero;
+    return number > -kCelsiusToKelvin;
 }
 
 double NumberIn(const std::string& option, const std::string& text, Range range) {

@@ -5,18 +5,13 @@
 #include "model/settings.h"
 
 namespace idrova {
-namespace {
-
-constexpr double kAtmosphere = kPascalPerBar;
-
-}  // namespace
 
 double PascalFromMetres(double metres) {
-    return metres * kAtmosphere / kGravity;
+    return metres * kPascalPerBar / kGravity;
 }
 
 double MetresFromPascal(double pascal) {
-    return pascal * kGravity / kAtmosphere;
+    return pascal * kGravity / kPascalPerBar;
 }
 
 std::optional<PumpCurve> CurveThrough(double pMax, double qMin, double pMin, double qMax) {

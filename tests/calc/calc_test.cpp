@@ -230,7 +230,7 @@ TEST_F(Calc, PumpConstantsComeFromTheDatabaseAndAreSaved) {
     pump.Direction = Delivery::Down;
     pump.Param1 = -3000;
     Put("pumped.iv", *network);
-    const CalcResult run = Run("--json --save solved.iv pumped.iv");
+    const CalcResult run = Run("--json --save solved.iv --svg pump.svg pumped.iv");
     ASSERT_EQ(run.status, 0) << run.err;
     const Json json = run.Parsed();
     const double flow = json["pumps"].at(0)["flow_kg_s"];
@@ -240,6 +240,7 @@ TEST_F(Calc, PumpConstantsComeFromTheDatabaseAndAreSaved) {
     EXPECT_THAT(json["pumps"].dump(), HasSubstr(R"("name":"Booster")"));
     EXPECT_THAT(FileBytes(folder / "solved.iv"),
                 HasSubstr("pump constants\r\n 1 \r\n 210           400000 \r\n"));
+    EXPECT_THAT(FileBytes(folder / "pump.svg"), HasSubstr("rotate(90) scale(139)"));
     fs::remove(folder / "pompe.dat");
     EXPECT_EQ(Run("--json solved.iv").Parsed()["outcome"], "settled");
     EXPECT_FALSE(Has("pompe.dat")) << "nothing is created";
@@ -291,6 +292,7 @@ TEST_F(Calc, StatusAndMessagesTellWhatBecameOfTheRun) {
         EXPECT_EQ(status == 1 ? Run(arguments).out : "", "");
     }
     EXPECT_FALSE(Has("nowhere"));
+    EXPECT_EQ(Run("singular.iv open.iv plant.iv").status, 1) << "not computed is worse";
 }
 
 TEST_F(Calc, WrongUseAndUnusableFilesEndWithTwoAndChangeNothing) {

@@ -5,6 +5,7 @@
 
 #include "hydraulics/run_results.h"
 #include "hydraulics/solve_network.h"
+#include "hydraulics/unique_solution.h"
 #include "support/network_run.h"
 
 namespace idrova {
@@ -112,7 +113,9 @@ NetworkBuilder Loop() {
 }
 
 bool IsUnique(const NetworkBuilder& network) {
-    return NetworkRun(network).outcome.end != RunEnd::Singular;
+    const auto work = std::make_unique<WorkNetwork>();
+    CopyNetwork(*network, *work);
+    return HasUniqueSolution(network->settings, PlanNetwork(*work), *work);
 }
 
 TEST(UniqueSolution, IsSeenFromWhatIsJoinedAndGiven) {

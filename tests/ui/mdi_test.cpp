@@ -207,7 +207,7 @@ TEST_F(MainWindow, ToolBarRunsTheCommandsAndIsRememberedHidden) {
         Choose("BarraStrumenti");
         EXPECT_EQ(bar.isVisible(), shown);
         const auto next = std::make_unique<Program>(folder.Path(), boxes);
-        const MDI window(*next);
+        const MDI nextWindow(*next);
         EXPECT_EQ(next->shell.ToolBarShown, shown) << "in the next run";
     }
 }
