@@ -85,8 +85,6 @@ TEST_F(CommandPanel, ResultsOfAChangedPlantAreGreyAndStayInTheirMode) {
 TEST_F(CommandPanel, FramesOpenWithARightClickAndLockWithALeftOne) {
     const QString controls = "Frame3 Frame4 Frame8 Frame6 Command4 Command9 Command1";
     EXPECT_EQ(Enabled(controls + " Text10"), controls);
-    Do("Option1_1");
-    EXPECT_EQ(Enabled("Text10") + Shown("Text10"), "Text10");
     Select(20, 20);
     EXPECT_EQ(Enabled(controls), "Frame6 Command4 Command9 Command1");  // no pipe to edit
     Click(20, 20);
@@ -126,36 +124,36 @@ TEST_F(CommandPanel, TheWheelChangesOnlyWhatHasTheKeyboard) {
     EXPECT_EQ(sizes.currentIndex(), 7);
 }
 
-TEST_F(CommandPanel, TheArmedButtonBlinks) {
-    const auto& button = Child<QAbstractButton>("Command3");
-    const auto isLit = [&button] { return button.styleSheet().contains("ffff00"); };
-    Do("Combo1#1");
-    EXPECT_EQ(Shown("Combo3"), "gate valve");
-    Do("Command3");
-    EXPECT_EQ(Child<QTimer>("Timer1").interval(), 200);
+TEST_F(CommandPanel, ButtonsInsertShowDataDeleteAndRefuse) {
+    const auto& insert = Child<QAbstractButton>("Command3");
+    const auto isLit = [&insert] { return insert.styleSheet().contains("ffff00"); };
+    Do("Combo1#1;Command3");
     EXPECT_TRUE(QTest::qWaitFor(isLit, 1000));
     EXPECT_TRUE(QTest::qWaitFor([&] { return !isLit(); }, 1000));
     Click(5, 5);
     EXPECT_FALSE(isLit() || Child<QTimer>("Timer1").isActive());
     EXPECT_EQ(project.Cells[CellAt(5, 5, 50)].Name, "gate valve");
-    EXPECT_FALSE(Child<QWidget>("Command2").isVisible());
-}
+    Do("Combo1#0;Command3");
+    Click(7, 5);
+    Select(7, 5);
+    EXPECT_TRUE(Child<QWidget>("Command2").isVisible());
+    Select(3, 5);
+    EXPECT_FALSE(Child<QWidget>("Command2").isVisible()) << "a pipe is selected, no pump";
 
-TEST_F(CommandPanel, ButtonsShowDataDeleteAndRefuse) {
-    Do("Command4");
+    Do("Command4;Option1_1");
     EXPECT_TRUE(program->editor.DataShown);
-    Do("Option1_1");
     const QImage labelled = View().grab().toImage();
     Do("Text10=2");
     EXPECT_NE(View().grab().toImage(), labelled) << "the label follows what is typed";
-    boxes.Expect(AskDeletePipe(1), Answer::Cancel);
+    const int lines = LinesDrawn();
+    boxes.Expect(AskDeletePipe(1), Answer::Cancel).Expect(AskDeletePipe(1));
     Do("Command4;Command9");
-    EXPECT_FALSE(program->editor.DataShown);
-    EXPECT_EQ(LinesDrawn(), 1);
-    boxes.Expect(AskDeletePipe(1)).Expect(kFixedGridDimension);
-    Do("Command9;Slider1#400");
-    EXPECT_EQ(LinesDrawn(), 0);
+    EXPECT_EQ(LinesDrawn(), lines);
+    Do("Command9");
+    EXPECT_EQ(LinesDrawn(), lines - 1);
     EXPECT_EQ(Enabled("Frame3"), "");
+    boxes.Expect(kFixedGridDimension);
+    Do("Slider1#400");
     EXPECT_EQ(Child<QAbstractSlider>("Slider1").value(), 278);
 }
 

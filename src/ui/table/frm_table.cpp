@@ -25,12 +25,25 @@ FrmTable::FrmTable(Program& program)
     column->addWidget(gap_);
     column->addWidget(TxtTab);
     setFocusProxy(TxtTab);
+    connect(TxtTab->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this](const QModelIndex& now) { LineChosen(now.row()); });
     ShowState();
 }
 
 void FrmTable::ShowState() {
     program_.tableModel.ShowState();
     gap_->ShowGap(NoteOfGap(program_.project, program_.table));
+    const QModelIndex current = TxtTab->currentIndex();
+    const int line = program_.tablePlace.line;
+    if (current.isValid() && current.row() != line) {
+        TxtTab->setCurrentIndex(current.siblingAtRow(line));
+    }
+}
+
+void FrmTable::LineChosen(int line) {
+    if (line < 0) return;
+    program_.tablePlace.line = line;
+    program_.changed();
 }
 
 void FrmTable::TakeEdits() {

@@ -18,6 +18,9 @@ class FrmTable : public ChildWindow {
     void TakeEdits() override;
 
   private:
+    /// The results window shows the pipe of the line that the cursor is in.
+    void LineChosen(int line);
+
     Program& program_;
     TableView* TxtTab;
     GapBar* gap_;

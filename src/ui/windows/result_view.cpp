@@ -49,7 +49,9 @@ void ResultView::SelectNumber(int number) {
     const QModelIndex shown =
         row < 0 ? QModelIndex() : sorted_->mapFromSource(model_.index(row, 0));
     if (!shown.isValid()) return clearSelection();
-    setCurrentIndex(shown);
+    // Whatever keys are down, this one row is selected.
+    selectionModel()->setCurrentIndex(
+        shown, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     scrollTo(shown);
 }
 
