@@ -59,6 +59,10 @@ ToolBar::ToolBar(const QMenuBar& menu, const std::function<void()>& compute)
 }
 
 void ToolBar::AddItem(const QMenuBar& menu, const char* name, const QIcon& icon) {
+    if (name == nullptr) {
+        addSeparator();
+        return;
+    }
     auto* action = menu.findChild<QAction*>(name);
     if (action == nullptr) return;
     action->setIcon(icon);
