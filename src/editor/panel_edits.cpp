@@ -89,6 +89,12 @@ void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text) {
     pipe->OuterSize = ToSingle(TakeSize(panel, panel.outerSize, text) / kMillimetresPerMetre);
 }
 
+void TypeLossSum(Project& project, PipePanel& panel, std::string_view text) {
+    PipeRec* pipe = CurrentPipe(project);
+    if (pipe == nullptr) return;
+    pipe->LossSum = ToSingle(TakeSize(panel, panel.lossSum, text));
+}
+
 void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
     PipeRec* pipe = CurrentPipe(project);
     if (pipe == nullptr || size < 1 || size > kNominalSizes) return;

@@ -32,6 +32,9 @@ void TypeLength(Project& project, PipePanel& panel, std::string_view text);
 void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text);
 void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text);
 
+/// The sum of the loss coefficients of the pipe's own fittings.
+void TypeLossSum(Project& project, PipePanel& panel, std::string_view text);
+
 /// `Combo2`: a nominal size (1 .. 12); fills both diameters.
 void ChoosePipeSize(Project& project, PipePanel& panel, int size);
 

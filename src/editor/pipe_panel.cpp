@@ -20,6 +20,7 @@ std::string ComputedFlowText(float kgPerSecond) {
 void ShowSize(const PipeRec& pipe, PipePanel& panel) {
     panel.length = GeneralText(pipe.Length);
     panel.innerSize = ScaledText(pipe.Diameter, kMillimetresPerMetre);
+    panel.lossSum = GeneralText(pipe.LossSum);
     panel.outerSize = ScaledText(pipe.OuterSize, kMillimetresPerMetre);
     if (panel.section.nominalSizes) panel.nominalSize = NominalSizeOf(pipe.Diameter);
 }

@@ -35,6 +35,7 @@ struct PipePanel {
     int nominalSize = 0;                     ///< `Combo2`: list position + 1; 0 when none
     std::string innerSize;                   ///< `Text7`, mm
     std::string outerSize;                   ///< `Text8`, mm
+    std::string lossSum;                     ///< of the pipe's own fittings
     PointPanel start, end;
     bool negative = false;       ///< the number being typed was negative: its rest is not taken
     std::string_view unitLabel;  ///< of the four pressure boxes

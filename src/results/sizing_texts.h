@@ -10,7 +10,7 @@ namespace idrova {
 /// The two figures that a pipe is sized by, as shown beside its flow.
 struct SizingTexts {
     std::string velocity;      ///< m/s
-    std::string dropPerMetre;  ///< Pa/m, friction and fittings
+    std::string dropPerMetre;  ///< Pa/m, of friction and fittings
     bool operator==(const SizingTexts&) const = default;
 };
 

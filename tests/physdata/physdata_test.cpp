@@ -7,6 +7,7 @@
 
 #include "base/number_text.h"
 #include "physdata/component_commands.h"
+#include "physdata/fittings.h"
 #include "physdata/fluid_commands.h"
 #include "physdata/messages.h"
 #include "physdata/pipe_settings.h"
@@ -161,6 +162,20 @@ TEST(PipeSettings, SetTheirValueAndLabel) {
     EXPECT_EQ(settings.Roughness, 0.00015);
     ChoosePressureUnit(settings, Unit::MilliBar);
     EXPECT_EQ(1000 * settings.PressureUnitFactor, 101325.0F);
+}
+
+TEST(Fittings, AreTheLossesWithACoefficientCountedAndSummed) {
+    LossDb losses;
+    for (const LossRecord& loss : {LossRecord{"Elbow 90°", .75F, 0}, LossRecord{"Filter", 0, 5000},
+                                   LossRecord{"Gate valve", .17F, 0}}) {
+        losses = WithRecord(losses, loss);
+    }
+    std::vector<FittingCount> fittings = FittingsOf(losses);
+    ASSERT_EQ(fittings.size(), 2U);
+    fittings[0].count = 2;
+    fittings[1].count = 1;
+    EXPECT_EQ(ListText(fittings), "2 x Elbow 90°, 1 x Gate valve");
+    EXPECT_NEAR(SumOf(fittings), 1.67, 1e-12);
 }
 
 namespace fs = std::filesystem;

@@ -26,12 +26,13 @@ TEST_F(CommandPanel, EveryBoxReachesItsFieldAndMayBeRefused) {
     EXPECT_FALSE(Child<QComboBox>("Combo2").isVisible());
     Do("Option6_1;Option1_1;Option2_1;Text12:3600");
     EXPECT_EQ(pipe.FlowRate, 1);
-    const QString boxesInUse = "Text13 Text6 Text7 Text8 Text5 Text11 Text10 Text9";
-    Do("Text13:1.8;Text6:12.5;Text7:500;Text8:250;Text5:3;Text11:4;Text10:2;Text9:1");
-    EXPECT_EQ(Shown(boxesInUse), "1.8|12.5|500|250|3|4|2|1");
+    const QString boxesInUse = "Text13 Text6 Text7 Text8 Text5 Text11 Text10 Text9 LossSum";
+    Do("LossSum:.75;Text13:1.8;Text6:12.5;Text7:500;Text8:250;Text5:3;Text11:4;Text10:2;Text9:1");
+    EXPECT_EQ(Shown(boxesInUse), "1.8|12.5|500|250|3|4|2|1|.75");
     EXPECT_EQ(
         std::tuple(pipe.FlowRate, pipe.Length, pipe.Diameter, pipe.OuterSize, pipe.Z1, pipe.Z2),
         std::tuple(.5, 12.5, .5, .25, 3, 4));
+    EXPECT_EQ(pipe.LossSum, .75F);
     EXPECT_EQ(std::pair(project.Points[1].Pressure, project.Points[2].Pressure),
               std::pair(202650.0F, 101325.0F));
     Choose("Circolare");

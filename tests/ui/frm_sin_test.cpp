@@ -47,6 +47,9 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses)
     Do("Text3=3");
     EXPECT_NEAR(Value("Text4") / 3600, flow, 1e-3 * flow);
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 2 to point 1");
+    Do("LossSum=1000");
+    EXPECT_LT(Value("Text4") / 3600, .5 * flow);
+    Do("LossSum=");
     Choose("t4");
     EXPECT_LT(Value("Text4") / 3600, .9 * flow) << "a setting changes it too";
     Choose("t1");

@@ -3,7 +3,10 @@
 
 #include <QDialogButtonBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -11,6 +14,7 @@
 
 #include "base/number_text.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/form_parts.h"
 #include "ui/kit/qt_text.h"
 
 namespace idrova {
@@ -83,6 +87,19 @@ std::optional<double> PickFittings(const LossDb& losses, double before, QWidget*
     FittingPicker picker(FittingsOf(losses), before, parent);
     if (picker.exec() != QDialog::Accepted) return std::nullopt;
     return picker.Sum();
+}
+
+QWidget* FittingRow(QLineEdit* field, const std::function<void()>& pick) {
+    auto* row = new QWidget;
+    auto* line = new QHBoxLayout(row);
+    line->setContentsMargins(0, 0, 0, 0);
+    auto* button = CommandButton("PickFittings", "...", pick);
+    button->setAccessibleName("Pick fittings");
+    button->setToolTip("Count fittings from the concentrated losses");
+    button->setMaximumWidth(36);
+    line->addWidget(field, 1);
+    line->addWidget(button);
+    return row;
 }
 
 }  // namespace idrova

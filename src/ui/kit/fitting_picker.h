@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <functional>
 #include <optional>
 
 #include "physdata/fittings.h"
@@ -9,6 +10,7 @@
 class QDialogButtonBox;
 class QGridLayout;
 class QLabel;
+class QLineEdit;
 
 namespace idrova {
 
@@ -32,5 +34,8 @@ class FittingPicker : public QDialog {
 
 /// The sum that the user has picked; nothing when the window was cancelled.
 std::optional<double> PickFittings(const LossDb& losses, double before, QWidget* parent);
+
+/// The field with a button behind it that picks its fittings.
+QWidget* FittingRow(QLineEdit* field, const std::function<void()>& pick);
 
 }  // namespace idrova

@@ -43,7 +43,7 @@ FlowFrame::FlowFrame(PanelContext& context)
     rows->addWidget(volumeFlowComputed_, 3, 2);
     rows->addWidget(LabelFor(velocity_, "velocity [m/s]"), 4, 0, 1, 2);
     rows->addWidget(velocity_, 4, 2);
-    rows->addWidget(LabelFor(dropPerMetre_, "friction [Pa/m]"), 5, 0, 1, 2);
+    rows->addWidget(LabelFor(dropPerMetre_, "losses [Pa/m]"), 5, 0, 1, 2);
     rows->addWidget(dropPerMetre_, 5, 2);
     flowGiven_->setAccessibleName("Given flow rate [kg/h]");
     volumeFlowGiven_->setAccessibleName("Given flow rate [mc/h]");

@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QSignalBlocker>
 
+#include "base/number_text.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/fitting_picker.h"
 #include "ui/kit/name_list.h"
 #include "ui/kit/qt_text.h"
 #include "ui/panel/flow_frame.h"
@@ -22,6 +24,7 @@ PipeFrame::PipeFrame(PanelContext& context)
       sizes_(SizeList("Combo2")),
       innerSize_(EditBox("Text7", TypeInnerSize)),
       outerSize_(EditBox("Text8", TypeOuterSize)),
+      lossSum_(EditBox("LossSum", TypeLossSum)),
       startHeight_(HeightBox("Text5", PipeEnd::Start)),
       endHeight_(HeightBox("Text11", PipeEnd::End)),
       nominalLabel_(Named(LabelFor(sizes_, "Diameter \""), "LabelNominal")),
@@ -41,6 +44,8 @@ PipeFrame::PipeFrame(PanelContext& context)
     form->addRow(nominalLabel_, sizes_);
     form->addRow(firstSideLabel_, innerSize_);
     form->addRow(secondSideLabel_, outerSize_);
+    form->addRow(LabelFor(lossSum_, "ΣK of fittings"),
+                 FittingRow(lossSum_, [this] { PickLosses(); }));
     form->addRow(startHeightLabel_, startHeight_);
     form->addRow(endHeightLabel_, endHeight_);
 }
@@ -70,6 +75,7 @@ void PipeFrame::Show() {
     length_->Show(panel.length);
     innerSize_->Show(panel.innerSize);
     outerSize_->Show(panel.outerSize);
+    lossSum_->Show(panel.lossSum);
     startHeight_->Show(panel.start.height);
     endHeight_->Show(panel.end.height);
     if (panel.pipe != 0) {
@@ -79,6 +85,12 @@ void PipeFrame::Show() {
     const QSignalBlocker silent(sizes_);
     sizes_->setCurrentIndex(panel.nominalSize - 1);
     ShowSection();
+}
+
+void PipeFrame::PickLosses() {
+    const double before = ReadNumber(context_.panel.lossSum);
+    const auto sum = PickFittings(context_.program.components.losses, before, this);
+    if (sum) lossSum_->setText(ToQt(GeneralText(ToSingle(*sum))));
 }
 
 void PipeFrame::ShowSection() {

@@ -26,6 +26,7 @@ class PipeFrame : public QGroupBox {
     NumberBox* EditBox(const char* name, const Edit& edit);
     NumberBox* HeightBox(const char* name, PipeEnd end);
     void ShowSection();
+    void PickLosses();
 
     PanelContext& context_;
     FlowFrame* flowFrame_;
@@ -33,6 +34,7 @@ class PipeFrame : public QGroupBox {
     QComboBox* sizes_;
     NumberBox* innerSize_;
     NumberBox* outerSize_;
+    NumberBox* lossSum_;
     NumberBox* startHeight_;
     NumberBox* endHeight_;
     QLabel* nominalLabel_;

@@ -12,11 +12,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "base/number_text.h"
 #include "model/pipe_sizes.h"
 #include "results/sizing_texts.h"
 #include "shell/run_command.h"
 #include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
+#include "ui/kit/fitting_picker.h"
 #include "ui/kit/flow_arrow.h"
 #include "ui/kit/form_parts.h"
 #include "ui/kit/name_list.h"
@@ -78,6 +80,7 @@ FrmSin::FrmSin(Program& program)
       program_(program),
       computedWith_(program.project.settings),
       sizes_(SizeList("Combo2")),
+      lossSum_(TextField("LossSum")),
       turnButton_(CommandButton("Command9", "Directions", [this] { Turn(); })),
       velocity_(new ComputedField("Velocity")),
       dropPerMetre_(new ComputedField("DropPerMetre")),
@@ -110,9 +113,12 @@ void FrmSin::LayOut() {
     AddQuantity(*grid, 3, PipeQuantity::Length, "Pipe");
     AddQuantity(*grid, 4, PipeQuantity::FlowRate);
     AddComputed(*grid, 5, "velocity [m/s]", velocity_);
-    AddComputed(*grid, 6, "friction [Pa/m]", dropPerMetre_);
+    AddComputed(*grid, 6, "losses [Pa/m]", dropPerMetre_);
     AddDiameterList(*grid, 7);
     AddQuantity(*grid, 8, PipeQuantity::Diameter);
+    grid->addWidget(LabelFor(lossSum_, "ΣK of fittings"), 9, kCaption);
+    grid->addWidget(FittingRow(lossSum_, [this] { PickLosses(); }), 9, kBox);
+    connect(lossSum_, &QLineEdit::textChanged, this, [this] { TakeLossSum(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(form);
     column->addStretch(1);
@@ -120,7 +126,7 @@ void FrmSin::LayOut() {
 
 /// Typing goes from box to box; what is chosen once comes behind them.
 void FrmSin::SetTabOrder() {
-    const std::array<QWidget*, 8> order = {Of(PipeQuantity::PressureAt1).box,
+    const std::array<QWidget*, 9> order = {Of(PipeQuantity::PressureAt1).box,
                                            Of(PipeQuantity::PressureAt2).box,
                                            Of(PipeQuantity::Length).box,
                                            Of(PipeQuantity::FlowRate).box,
@@ -225,6 +231,16 @@ void FrmSin::ShowUnknown() {
 
 void FrmSin::ChooseSize(int position) {
     Of(PipeQuantity::Diameter).box->setText(ToQt(InnerDiameterText(position + 1)));
+}
+
+void FrmSin::TakeLossSum() {
+    pipe_.lossSum = std::max(ReadNumber(FromQt(lossSum_->text())), 0.0);
+    Recompute();
+}
+
+void FrmSin::PickLosses() {
+    const auto sum = PickFittings(program_.components.losses, pipe_.lossSum, this);
+    if (sum) lossSum_->setText(ToQt(GeneralText(ToSingle(*sum))));
 }
 
 void FrmSin::Turn() {

@@ -10,6 +10,7 @@
 
 class QComboBox;
 class QGridLayout;
+class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QToolButton;
@@ -57,6 +58,8 @@ class FrmSin : public ChildWindow {
     void Step(PipeQuantity quantity, int steps);
     void ChooseUnknown(PipeQuantity quantity);
     void ChooseSize(int position);
+    void TakeLossSum();
+    void PickLosses();
     void Turn();
     void ShowUnknown();
     void ShowDirection();
@@ -74,6 +77,7 @@ class FrmSin : public ChildWindow {
     bool isTold_ = true;     ///< the last computation has been reported
     std::array<Controls, kPipeQuantities> controls_;
     QComboBox* sizes_;
+    QLineEdit* lossSum_;
     QPushButton* turnButton_;
     ComputedField* velocity_;
     ComputedField* dropPerMetre_;
