@@ -28,6 +28,7 @@ ResultView::ResultView(const char* name, ResultModel& model)
     setEditTriggers(NoEditTriggers);
     setAlternatingRowColors(true);
     setTabKeyNavigation(false);
+    horizontalHeader()->setHighlightSections(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
     connect(sorted_, &QAbstractItemModel::modelReset, this, [this] { resizeColumnsToContents(); });
