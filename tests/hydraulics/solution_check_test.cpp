@@ -127,16 +127,19 @@ TEST(UniqueSolution, IsSeenFromWhatIsJoinedAndGiven) {
         network.SetFlow(2 * side * (side - 1) + 1, 1);
         EXPECT_FALSE(IsUnique(network));
     }
-    for (const int end : {4, 2}) {
+    for (const bool unique : {true, false}) {
         NetworkBuilder network = Loop();
         network.AddPipe(2, network.AddPoint(9, 9));
         network.AddPipe(3, network.AddPoint(9, 8));
+        network.AddPipe(2, network.AddPoint(9, 7));
         network.SetPressure(4, 2e5F);
-        network.SetFlow(5, 1);
-        network.SetPressure(end == 4 ? 6 : end, 1e5F);
-        // A flow that was given twice leaves the open end beyond point 3 without any.
-        if (end == 2) network.SetFlow(4, 1);
-        EXPECT_EQ(IsUnique(network), end == 4);
+        if (unique) {
+            network.SetPressure(6, 1e5F);
+            for (const int branch : {5, 7}) network.SetFlow(branch, 1);
+        } else {  // one flow too many round the loop, one too few in the branches of point 2
+            for (const int side : {1, 2, 3}) network.SetFlow(side, 1);
+        }
+        EXPECT_EQ(IsUnique(network), unique);
     }
 }
 
