@@ -147,23 +147,6 @@ TEST(FirstStage, FindsTheNeighbourhood) {
     }
 }
 
-/// Between two pools of one level, at heights that agree with it or not.
-TEST(ComputeNetwork, LevelHeadsStandStillAndOthersDoNot) {
-    for (const float excess : {0.0F, 1.0F}) {
-        NetworkBuilder network(3);
-        for (const int start : {1, 2}) {
-            PipeRec& pipe = network->Pipes[network.AddPipe(start, start + 1, 100, 0.1F)];
-            pipe.Z1 = static_cast<std::int16_t>(20 - 10 * start);
-            pipe.Z2 = static_cast<std::int16_t>(10 - 10 * start);
-        }
-        network.SetPressure(1, 1e5F);
-        network.SetPressure(3, 1e5F + 2 * 98100 - excess);
-        const NetworkRun run(network);
-        EXPECT_EQ(run.outcome.end, RunEnd::Settled);
-        EXPECT_EQ(run.Flow(1) == 0, excess == 0);
-    }
-}
-
 /// In the first stage, at its end, and in the closing stage.
 TEST(ComputeNetwork, StopsBetweenPasses) {
     const NetworkBuilder network = LoopedNetwork(3, 2);
