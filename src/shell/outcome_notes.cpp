@@ -12,7 +12,7 @@ bool IsTrustworthy(RunEnd end) {
 OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age) {
     OutcomeView view{OutcomeLine(outcome), EffortText(outcome)};
     if (!view.tip.empty()) view.tip += ". ";
-    view.tip += "A click shows all notes on the last computation";
+    view.tip += "A click opens the list of problems";
     if (WarningCount(outcome) > 0) view.ground = OutcomeGround::Noted;
     if (!IsTrustworthy(outcome.end)) view.ground = OutcomeGround::Faulty;
     if (age == ResultAge::Current) return view;
@@ -20,13 +20,6 @@ OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age) {
     view.text = "Changed since the computation";
     view.ground = OutcomeGround::Old;
     return view;
-}
-
-MessageBox OutcomeNotes(const Outcome& outcome) {
-    std::string text = OutcomeLine(outcome);
-    for (const Note& note : outcome.notes) text += "\n" + note.text;
-    return {text, "Computation",
-            IsTrustworthy(outcome.end) ? BoxIcon::Information : BoxIcon::Exclamation};
 }
 
 }  // namespace idrova

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 
 namespace idrova {
@@ -25,8 +24,5 @@ struct OutcomeView {
 };
 
 OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age);
-
-/// The outcome of a computation with all its notes, one to a line.
-MessageBox OutcomeNotes(const Outcome& outcome);
 
 }  // namespace idrova

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
+#include <QListWidget>
 #include <QProgressBar>
 #include <QToolButton>
 
@@ -85,8 +86,10 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     boxes.Expect(kSelectAFluid);
     Do("Command1");
     EXPECT_TRUE(outcome.isVisible() && IsRed());
-    boxes.Expect({"Not computed\nSelect a fluid", "Computation", BoxIcon::Exclamation});
     outcome.click();
+    auto& list = Child<QListWidget>("Problems");
+    EXPECT_TRUE(list.isVisible());
+    EXPECT_EQ(list.item(0)->text(), "Select a fluid");
 
     ChooseWater();
     Choose("Tabella");
@@ -108,6 +111,39 @@ TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     boxes.Expect(kLeaveProject, Answer::Ok);
     Choose("Nuovo");
     EXPECT_FALSE(outcome.isVisible()) << "nothing is computed of the new one";
+}
+
+TEST_F(Run, OfAPlantWithThreeMistakesIsMendedFromTheListOfProblems) {
+    ChooseWater();
+    Draw(15, 5, 15, 12);
+    Select(15, 8);
+    Do("Text6=100;Text7=50");
+    project.Pipes[1].Length = 0;
+    project.Pipes[2].Diameter = 0;
+    project.PressureUnknown[1] = true;
+    boxes.Expect(RefusalBox({RefusalKind::ZeroLength, {1}}));
+    Do("Command1");
+    outcome.click();
+    auto& list = Child<QListWidget>("Problems");
+    ASSERT_GE(list.count(), 3);
+    const auto goTo = [&list](int line) {
+        list.setCurrentRow(line);
+        QTest::keyClick(&list, Qt::Key_Return);
+    };
+    goTo(1);
+    EXPECT_EQ(project.CurrentPipe, 2);
+    Do("Text7=50");
+    EXPECT_EQ(list.item(0)->text(), "Pipe 1 has no length") << "what is mended is gone";
+    goTo(0);
+    EXPECT_EQ(project.CurrentPipe, 1);
+    Do("Text6=100");
+    EXPECT_EQ(list.item(0)->text(),
+              "Point 1 is an open end: give its pressure or the flow of pipe 1");
+    goTo(0);
+    Do("Option1_1;Text10=3");
+    EXPECT_EQ(list.count(), 0);
+    Do("Command1");
+    EXPECT_EQ(outcome.text(), "Computed");
 }
 
 /// Counts how often an object is painted.

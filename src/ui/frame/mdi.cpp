@@ -36,6 +36,7 @@
 #include "ui/program.h"
 #include "ui/table/frm_table.h"
 #include "ui/windows/frm_help.h"
+#include "ui/windows/frm_prob.h"
 #include "ui/windows/frm_sin.h"
 
 namespace idrova {
@@ -63,6 +64,13 @@ ChildWindow* MakeModeWindow(WorkMode mode, Program& program) {
     return new FrmCel(program);
 }
 
+void OpenBeside(MDI& mdi, FrmHelp& hints, FrmProb& problems) {
+    constexpr int height = 120;  // five of them
+    problems.Open();
+    mdi.resizeDocks({&hints, &problems}, {1, 1}, Qt::Horizontal);
+    mdi.resizeDocks({&problems}, {height}, Qt::Vertical);
+}
+
 /// The project file in what is being dragged; empty when there is none.
 std::filesystem::path DraggedProject(const QMimeData& data) {
     for (const QUrl& url : data.urls()) {
@@ -81,12 +89,14 @@ MDI::MDI(Program& program)
       recent_(std::make_unique<RecentMenu>(
           *menuBar()->findChild<QMenu*>("Recenti"),
           [this](const std::filesystem::path& file) { OpenRecentFile(*this, file); })),
-      statusLine_(std::make_unique<StatusLine>(*statusBar(), program.boxes)),
+      statusLine_(std::make_unique<StatusLine>(*statusBar(),
+                                               [this] { OpenBeside(*this, *hints_, *problems_); })),
       toolBar_(new ToolBar(*menuBar(), [this] { panel_->calculate(); })),
       settingsBar_(new SettingsBar(program)),
       windows_(new ChildWindows),
       panel_(new FrmCom(program, this)),
-      hints_(new FrmHelp(program, this)) {
+      hints_(new FrmHelp(program, this)),
+      problems_(new FrmProb(program, this)) {
     Named(this, "MDI");
     setAcceptDrops(true);
     // The menu of docks would show the hint window behind the back of its menu item.
@@ -102,6 +112,7 @@ MDI::MDI(Program& program)
     addToolBar(toolBar_);
     addDockWidget(Qt::RightDockWidgetArea, panel_);
     addDockWidget(Qt::BottomDockWidgetArea, hints_);
+    addDockWidget(Qt::BottomDockWidgetArea, problems_, Qt::Horizontal);
     LoadStartState(program_);
     AttachCommands(*this);
     program_.changed = [this] { ShowState(); };
@@ -140,6 +151,7 @@ void MDI::ShowState() {
     statusLine_->ShowSettings(settings);
     ShowOutcome();
     hints_->ShowState();
+    problems_->ShowState();
     ShowTitle();
     windows_->ShowState();
 }

@@ -10,6 +10,7 @@ namespace idrova {
 class ChildWindows;
 class FrmCom;
 class FrmHelp;
+class FrmProb;
 class MenuBar;
 class RecentMenu;
 class SettingsBar;
@@ -17,7 +18,8 @@ class StatusLine;
 class ToolBar;
 struct Program;
 
-/// The main window: menu bar, area of the child windows, command panel, hint window, status bar.
+/// The main window: menu bar, area of the child windows, command panel, hint window, list of
+/// problems, status bar.
 /// Shows the state of the program, which the commands change.
 class MDI : public QMainWindow {
   public:
@@ -67,6 +69,7 @@ class MDI : public QMainWindow {
     ChildWindows* windows_;
     FrmCom* panel_;
     FrmHelp* hints_;
+    FrmProb* problems_;
     QString title_;
 };
 

@@ -40,9 +40,8 @@ QString FluidText(const Settings& settings) {
 
 }  // namespace
 
-StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
-    : boxes_(boxes),
-      said_(Named(new QLabel, "StatusSaid")),
+StatusLine::StatusLine(QStatusBar& bar, const std::function<void()>& openProblems)
+    : said_(Named(new QLabel, "StatusSaid")),
       mode_(Named(new QLabel, "StatusMode")),
       fluid_(Named(new QLabel, "StatusFluid")),
       outcomeButton_(Named(new QToolButton, "StatusOutcome")) {
@@ -53,8 +52,7 @@ StatusLine::StatusLine(QStatusBar& bar, MessageBoxes& boxes)
     for (QLabel* label : {fluid_, mode_}) label->setContentsMargins(8, 0, 8, 0);
     outcomeButton_->setAutoRaise(true);
     outcomeButton_->hide();
-    QObject::connect(outcomeButton_, &QToolButton::clicked, outcomeButton_,
-                     [this] { ShowNotes(); });
+    QObject::connect(outcomeButton_, &QToolButton::clicked, outcomeButton_, openProblems);
     bar.addPermanentWidget(outcomeButton_);
     bar.addPermanentWidget(fluid_);
     bar.addPermanentWidget(mode_);
@@ -75,17 +73,12 @@ void StatusLine::HideOutcome() {
 }
 
 void StatusLine::ShowOutcome(const Outcome& outcome, ResultAge age) {
-    outcome_ = outcome;
     const OutcomeView view = idrova::ShowOutcome(outcome, age);
     outcomeButton_->setText(ToQt(view.text));
     outcomeButton_->setToolTip(ToQt(view.tip));
     const QString style = kGrounds[static_cast<int>(view.ground)];
     if (outcomeButton_->styleSheet() != style) outcomeButton_->setStyleSheet(style);
     outcomeButton_->setVisible(!outcomeButton_->text().isEmpty());
-}
-
-void StatusLine::ShowNotes() {
-    boxes_.Show(OutcomeNotes(outcome_));
 }
 
 }  // namespace idrova

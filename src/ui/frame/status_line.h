@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
 
-#include "base/message_boxes.h"
 #include "hydraulics/compute_network.h"
 #include "model/settings.h"
 #include "shell/outcome_notes.h"
@@ -15,10 +15,10 @@ class QToolButton;
 namespace idrova {
 
 /// The part of the status bar that stays: what a command had to say, what became of the last
-/// computation, fluid and mode. A click on the outcome shows all its notes.
+/// computation, fluid and mode. A click on the outcome opens the list of problems.
 class StatusLine {
   public:
-    StatusLine(QStatusBar& bar, MessageBoxes& boxes);
+    StatusLine(QStatusBar& bar, const std::function<void()>& openProblems);
     StatusLine(const StatusLine&) = delete;
     StatusLine& operator=(const StatusLine&) = delete;
 
@@ -30,14 +30,10 @@ class StatusLine {
     void HideOutcome();
 
   private:
-    void ShowNotes();
-
-    MessageBoxes& boxes_;
     QLabel* said_;
     QLabel* mode_;
     QLabel* fluid_;
     QToolButton* outcomeButton_;
-    Outcome outcome_;
 };
 
 }  // namespace idrova

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/problem_list.h"
+
+#include <memory>
+#include <utility>
+
+#include "hydraulics/problems.h"
+#include "hydraulics/work_network.h"
+#include "table/table_network.h"
+
+namespace idrova {
+namespace {
+
+std::vector<Note> PresentProblems(Project& project, const TableTexts& texts) {
+    if (project.settings.Mode == WorkMode::SinglePipe) return {};
+    const auto work = std::make_unique<WorkNetwork>();
+    if (project.settings.Mode == WorkMode::Graphic) {
+        CopyNetwork(project, *work);
+    } else if (auto refusal = TableToNetwork(project, texts, *work)) {
+        return std::move(refusal->notes);
+    }
+    return ProblemsOf(project.settings, *work);
+}
+
+int FirstRowOf(const Project& project, int point) {
+    for (int row = kFirstTableRow; row <= kLastTableRow; ++row) {
+        const TableRowRec& data = project.TableRows[row];
+        if (data.StartPoint == point || data.EndPoint == point) return row;
+    }
+    return 0;
+}
+
+/// The table shows pipes and points by their rows.
+Note OnRow(const Project& project, Note note) {
+    if (note.on == NoteOn::Pipe) return {note.text, NoteOn::Row, note.number + kFirstTableRow - 1};
+    if (note.on != NoteOn::Point) return note;
+    return {note.text, NoteOn::Row, FirstRowOf(project, note.number)};
+}
+
+}  // namespace
+
+ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last) {
+    ProblemView view;
+    if (last != nullptr && last->inputs == InputsOf(project)) {
+        view = {OutcomeLine(last->outcome), last->outcome.notes};
+    } else {
+        view.notes = PresentProblems(project, texts);
+        view.caption = view.notes.empty() ? "Not yet computed" : "Cannot be computed yet";
+    }
+    if (project.settings.Mode != WorkMode::Table) return view;
+    for (Note& note : view.notes) note = OnRow(project, std::move(note));
+    return view;
+}
+
+}  // namespace idrova
