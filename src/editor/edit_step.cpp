@@ -3,18 +3,8 @@
 
 #include <algorithm>
 
-#include "model/pipe_sizes.h"
-
 namespace idrova {
 namespace {
-
-/// The outside diameter of a round pipe of nominal size follows from its inside one.
-float GivenOuterSize(const Settings& settings, const PipeRec& pipe) {
-    const bool round = settings.SectionType == Section::Circular;
-    const int size = round ? NominalSizeOf(pipe.Diameter) : 0;
-    return size == 0 ? pipe.OuterSize
-                     : static_cast<float>(OuterDiameters[size] / kMillimetresPerMetre);
-}
 
 template <typename Record>
 std::vector<Change<Record>> Differences(const Listed<Record>& before, const Listed<Record>& after) {
@@ -104,7 +94,6 @@ Plan PlanOf(const Project& project, const Editor& editor) {
     for (int i = 1; i <= project.numtubo; ++i) {
         PipeRec pipe = project.Pipes[i];
         if (project.FlowUnknown[i]) pipe.FlowRate = 0;
-        pipe.OuterSize = GivenOuterSize(project.settings, pipe);
         plan.pipes.push_back({i, {pipe, project.FlowUnknown[i]}});
     }
     for (int i = 1; i <= project.npres; ++i) {

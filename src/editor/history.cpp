@@ -4,8 +4,21 @@
 #include <utility>
 
 #include "editor/step_name.h"
+#include "model/pipe_sizes.h"
 
 namespace idrova {
+namespace {
+
+/// Selecting a round pipe of nominal size completes its outside diameter: that is no step.
+bool IsCompletion(const EditStep& step, Section section) {
+    if (section != Section::Circular || !IsTyping(step) || step.pipes.empty()) return false;
+    Plan::Pipe before = *step.pipes.front().before;
+    const Plan::Pipe& after = *step.pipes.front().after;
+    before.record.OuterSize = after.record.OuterSize;
+    return before == after && NominalSizeOf(after.record.Diameter) != 0;
+}
+
+}  // namespace
 
 void EditHistory::StartAnew(const Project& project, const Editor& editor) {
     *this = EditHistory();
@@ -16,7 +29,7 @@ void EditHistory::Note(const Project& project, const Editor& editor) {
     Plan plan = PlanOf(project, editor);
     EditStep step = StepBetween(plan_, plan);
     if (step.before != step.after) isTyping_ = false;
-    if (!step.IsEmpty()) {
+    if (!step.IsEmpty() && !IsCompletion(step, project.settings.SectionType)) {
         const bool goesOn = isTyping_ && IsTyping(step) && StepName(step) == UndoName();
         steps_.erase(steps_.begin() + static_cast<std::ptrdiff_t>(done_), steps_.end());
         if (goesOn) {

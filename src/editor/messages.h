@@ -35,6 +35,8 @@ MessageBox AskDeletePipe(int pipe);
 
 constexpr FixedMessage kFluidForVolumeFlow{"To insert the volumetric flow rate select a fluid",
                                            "Select a fluid", BoxIcon::Information};
+constexpr FixedMessage kNothingFound{"There is no drawn pipe or point of this number", "Find",
+                                     BoxIcon::Information};
 constexpr FixedMessage kFixedGridDimension{"Function not available yet", "Grid dimension",
                                            BoxIcon::Information};
 

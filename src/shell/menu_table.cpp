@@ -77,6 +77,12 @@ constexpr MenuEntry kMenuTable[] = {
      .caption = "Redo",
      .shortcut = "Ctrl+Y; Ctrl+Shift+Z",
      .tip = "Make the change again that was taken back"},
+    {.name = "Trova",
+     .parent = "Modifica",
+     .caption = "Find pipe or point",
+     .shortcut = "Ctrl+F",
+     .tip = "Select the pipe of a number, or the one that ends in a point",
+     .separated = true},
 
     {.name = "Fluido",
      .parent = "",

@@ -90,6 +90,11 @@ constexpr ClickList kClickLists[] = {
      "selected:c204 R5,5 selected:c205 R5,5 selected:2 R5,5 selected:3",
      "1:1(2,5)-3(4,5) 2:4(4,5)-5(5,5) 3:6(5,5)-2(8,5)"},
 
+    {"pipes and points are found by number",
+     "L2,5 L8,5 L8,5 L8,9 R20,20 S9,9 find=1 selected:1 L1,1 R1,1 find=P3 selected:2 find=p2 "
+     "selected:1 find=3 find=P4 find=x selected:1 L9,5 L9,6",
+     "1:1(2,5)-2(8,5) 2:2(8,5)-3(8,9) 3:4(10,9)-5(10,10)"},
+
     {"the pipe drawn last", "L2,5 L8,5 L3,7 L6,7 delete", "1:1(2,5)-2(8,5)", "2 ?"},
 };
 

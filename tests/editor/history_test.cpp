@@ -57,6 +57,13 @@ TEST(History, WhatIsTypedAndTypedBackIsNoStep) {
     EXPECT_EQ(plant.history.UndoName(), "insert pipe");
 }
 
+TEST(History, WhatASelectionCompletesIsNoStep) {
+    Plant plant;
+    plant.Do("L2,5 L8,5 R5,5 again size=7 pump L5,5 R7,5");
+    EXPECT_GT(plant.project.Pipes[2].OuterSize, 0) << "the piece got none by the cut";
+    EXPECT_EQ(plant.history.UndoName(), "insert pump");
+}
+
 TEST(History, ValuesOfManyPipesAreOneStep) {
     Plant plant;
     plant.Do("L2,5 L8,5 L8,5 L8,9");

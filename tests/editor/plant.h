@@ -11,6 +11,7 @@
 #include "editor/cell_click.h"
 #include "editor/component_insertion.h"
 #include "editor/deletion.h"
+#include "editor/find_element.h"
 #include "editor/grid_view.h"
 #include "editor/history.h"
 #include "editor/panel_edits.h"
@@ -138,6 +139,7 @@ class Plant {
         const auto sign = step.find_first_of("=:,");
         const std::string before = step.substr(0, sign);
         const std::string after = step.substr(sign + 1);
+        if (before == "find") return static_cast<void>(FindElement(project, editor, after));
         if (step[sign] == '=') {
             edits.at(before)(after);
         } else if (step[sign] == ':') {

@@ -70,9 +70,13 @@ TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
     EXPECT_EQ(Stored(), program->report);
 
     project.Pipes[1].FlowRate = -2;
-    boxes.Expect(kChangeDirections, Answer::Ok);
-    Choose("Ordina");
-    EXPECT_EQ(project.Pipes[1].FlowRate, 2);
+    for (const auto& [answer, flow] : {std::pair(Answer::Cancel, -2), std::pair(Answer::Ok, 2)}) {
+        boxes.Expect(kChangeDirections, answer);
+        Choose("Ordina");
+        EXPECT_EQ(project.Pipes[1].FlowRate, flow);
+    }
+    Choose("Annulla");
+    EXPECT_EQ(project.Pipes[1].FlowRate, -2) << "as it was counted before";
 
     boxes.Expect(kAskDeleteResults, Answer::Ok);
     Choose("Elris");

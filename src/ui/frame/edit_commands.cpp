@@ -1,12 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/frame/edit_commands.h"
 
+#include <QInputDialog>
+
+#include "editor/find_element.h"
+#include "editor/messages.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/kit/qt_text.h"
 #include "ui/program.h"
 
 namespace idrova {
+
+namespace {
+
+void Find(MDI& mdi) {
+    Program& program = mdi.State();
+    bool isGiven = false;
+    const QString text = QInputDialog::getText(
+        &mdi, ToQt(kNothingFound.title),
+        "Number of a pipe, or P and the number of a point:", QLineEdit::Normal, {}, &isGiven);
+    if (!isGiven) return;
+    if (!FindElement(program.project, program.editor, FromQt(text.trimmed()))) {
+        program.boxes.Show(kNothingFound);
+    }
+}
+
+}  // namespace
 
 void AttachEditCommands(MDI& mdi) {
     Program& program = mdi.State();
@@ -19,6 +39,7 @@ void AttachEditCommands(MDI& mdi) {
     };
     attach("Annulla", &EditHistory::Undo);
     attach("Ripeti", &EditHistory::Redo);
+    mdi.Menu().Attach("Trova", [&mdi] { Find(mdi); });
 }
 
 void ShowSteps(MDI& mdi) {
@@ -31,6 +52,7 @@ void ShowSteps(MDI& mdi) {
     };
     show("Annulla", "&Undo", program.history.UndoName());
     show("Ripeti", "&Redo", program.history.RedoName());
+    mdi.Menu().ShowItem("Trova", "&Find pipe or point", isDrawing);
 }
 
 }  // namespace idrova
