@@ -137,10 +137,10 @@ void ForCells(const TableBlock& block, const Visit& visit) {
 
 }  // namespace
 
-std::string CopyBlock(const TableTexts& texts, const TableBlock& block) {
+std::string CopyBlock(const TableTexts& texts, const RowResults& results, const TableBlock& block) {
     std::string copy;
     ForCells(block, [&](int row, int column) {
-        copy += texts.At(row, column);
+        copy += column < kTableColumns ? texts.At(row, column) : results.At(row, column);
         copy += column == block.lastColumn ? '\n' : '\t';
     });
     return copy;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "model/project.h"
+#include "table/row_results.h"
 #include "table/table_texts.h"
 
 namespace idrova {
@@ -18,7 +19,7 @@ struct TableBlock {
 };
 
 /// The cells' texts as spreadsheets exchange them: tabs between cells, a line feed after each row.
-std::string CopyBlock(const TableTexts& texts, const TableBlock& block);
+std::string CopyBlock(const TableTexts& texts, const RowResults& results, const TableBlock& block);
 
 /// What of a pasted text does not fit into the table.
 struct PasteLoss {

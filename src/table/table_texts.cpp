@@ -109,8 +109,11 @@ float TableRowRec::*FieldOf(int column) {
 }
 
 std::string HeaderOf(const Settings& settings, int column) {
-    std::string header(kTableColumnList[column].header);
-    if (!IsPressureColumn(column)) return header;
+    constexpr std::string_view results[] = {"flow [kg/h]", "velocity [m/s]", "Pa/m", "p1", "p2"};
+    const bool isResult = column >= kTableColumns;
+    std::string header(isResult ? results[column - kTableColumns]
+                                : kTableColumnList[column].header);
+    if (!IsPressureColumn(column) && column < kTableColumns + 3) return header;
     return header + (settings.PressureUnit == Unit::Bar ? " [bar]" : " [mbar]");
 }
 

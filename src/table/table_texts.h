@@ -58,7 +58,7 @@ CellUnit UnitOf(const Settings& settings, int column);
 /// The field of a row that a column shows; null for those that hold no quantity.
 float TableRowRec::*FieldOf(int column);
 
-/// The header of a column; those of the pressures say their unit.
+/// The header of a column, results included; those of the pressures say their unit.
 std::string HeaderOf(const Settings& settings, int column);
 
 /// What the cell of the nominal size shows beside a diameter in m; empty when it has no such size.

@@ -1,46 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "table/table_network.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <cmath>
-#include <memory>
-#include <vector>
 
 #include "support/network_run.h"
 #include "table/messages.h"
-#include "table/table_edit.h"
+#include "table_script.h"
 
 namespace idrova {
 namespace {
 
 constexpr float kBar = kPascalPerBar;
 
-class TableNetwork : public testing::Test {
+class TableNetwork : public TableScript {
   protected:
     void Load(const std::vector<TableRowRec>& rows) {
-        project->TableRows.fill({});
-        texts = TableTexts();
+        Clear();
         std::ranges::copy(rows, project->TableRows.begin() + kFirstTableRow);
         FillTable(*project, texts);
     }
 
     bool Convert() { return !TableToNetwork(*project, texts, *work); }
 
-    std::string Notes() const { return Lines(TableNotes(*project, texts)); }
     static std::string Lines(const std::vector<Note>& notes) {
         std::string lines;
         for (const Note& note : notes) {
             EXPECT_EQ(note.on, NoteOn::Row);
-            lines += std::to_string(note.number) + " " + note.text + "\n";
+            lines += std::to_string(note.number) + " " + note.text + ";";
         }
         return lines;
     }
 
-    std::unique_ptr<Project> project = std::make_unique<Project>();
     std::unique_ptr<WorkNetwork> work = std::make_unique<WorkNetwork>();
-    TableTexts texts;
 };
 
 TEST_F(TableNetwork, RowsBecomePipesAndPoints) {
@@ -96,68 +87,51 @@ TEST_F(TableNetwork, ComputesAsTheSamePlantDrawn) {
 }
 
 TEST_F(TableNetwork, RefusedTablesNameThePlaceAndLeaveTheWorkingNetwork) {
-    const std::string gap = "The point numbers must run from 1 without gaps: ";
-    struct Case {
-        std::vector<TableRowRec> rows;
-        std::string box, notes;
-    };
-    const std::vector<Case> cases = {
-        {{{1, kBar, 2}, {2, 0, 3}, {1, 1.5F * kBar, 3}},
-         std::string(kPressuresDiffer.text),
-         "3 Rows 1, 3 give point 1 different pressures\n"},
-        {{{1, 0, 2, kBar}, {3, kBar, 2, 0}, {3, 0, 2, kBar}},
-         std::string(kPressuresDiffer.text),
-         "3 Rows 1 to 3 give point 2 different pressures\n"
-         "3 Rows 2, 3 give point 3 different pressures\n"},
-        {{{1, 0, 2}, {2, 0, 4}}, gap + "3 is missing", "2 Of the point numbers 3 is missing\n"},
-        {{{2, 0, 8}},
-         gap + "1, 3 to 7 are missing",
-         "1 Of the point numbers 1, 3 to 7 are missing\n"},
-        {{{1, 0, -2}},
-         gap + "-2 is not between 1 and 400",
-         "1 Of the point numbers -2 is not between 1 and 400\n"},
-        {{{1, 0, 2}, {401, 0, 2}},
-         gap + "401 is not between 1 and 400",
-         "2 Of the point numbers 401 is not between 1 and 400\n"},
-    };
-    for (const auto& [rows, box, notes] : cases) {
-        Load(rows);
+    for (const auto& table : Cases(R"(
+        2.1<1 1 2/2  3/1 1.5 3 # 3 Rows 1, 3 give point 1 different pressures;
+        2.1<1  2 1/3 1 2 2/3  2 1 # 3 Rows 1 to 3 give point 2 different pressures;
+        2.1<1  2/2  4 # 3 is missing # 2
+        2.1<2  8 # 1, 3 to 7 are missing # 1
+        2.1<1  -2 # -2 is not between 1 and 400 # 1
+        2.1<1  2/401  2 # 401 is not between 1 and 400 # 2)")) {
+        Clear();
+        Do(table[0]);
         work->WorkPipeCount = 7;
         const auto refusal = TableToNetwork(*project, texts, *work);
-        ASSERT_TRUE(refusal);
-        EXPECT_EQ(refusal->box, MessageBox(box, "Coherence check"));
-        EXPECT_EQ(Lines(refusal->notes), notes);
+        ASSERT_TRUE(refusal) << table[0];
+        const bool gap = table.size() == 3;
+        EXPECT_EQ(refusal->box, gap ? PointsLeaveGap(table[1]) : MessageBox(kPressuresDiffer));
+        EXPECT_EQ(Lines(refusal->notes),
+                  gap ? table[2] + " Of the point numbers " + table[1] + ";" : table[1]);
         EXPECT_EQ(work->WorkPipeCount, 7);
     }
 }
 
 TEST_F(TableNetwork, NotesTellWhatIsNotComputedOrReadAsItStands) {
-    Load({{1, kBar, 2, 2 * kBar}, {2, 0, 3}, {3, 0, 4}});
-    EXPECT_EQ(Notes(), "2 Rows 1, 2 give point 2 different pressures: that of row 2 counts\n");
-    Load({{1, kBar, 2}, {2, 0, 3}, {.EndPoint = 3}});
-    EXPECT_EQ(Notes(), "3 Row 3 lacks a point: it is not computed\n");
-    ChangeCell(*project, texts, 8, 7, "x");
-    EXPECT_EQ(Notes(), "7 Row 7 stands below row 3, which lacks a point: it is not computed\n");
-    Load({{1, 0, 2}});
-    ChangeCell(*project, texts, 2, 2, "2.5bar");
-    ChangeCell(*project, texts, 2, 3, "2nd");
-    ChangeCell(*project, texts, 2, 5, "DN50");
-    ChangeCell(*project, texts, 2, 8, "x");
-    project->settings.PressureUnitFactor = kPascalPerMilliBar;
-    EXPECT_EQ(Notes(),
-              "1 Row 1: P1 \"2.5bar\" is read as 2500, a \"2nd\" is read as 2, "
-              "diameter \"DN50\" is no size, flow rate \"x\" is read as 0\n");
+    for (const auto& table : Cases(R"(
+        2.1<1 1 2 2/2 3 3/3  4 # 2 Rows 1, 2 give point 2 different pressures: that of row 2 counts;
+        2.1<1 1 2/2  3/  3 # 3 Row 3 lacks a point: it is not computed;
+        2.1<1 1 2/2  3/  3;8.7=x # 7 Row 7 stands below row 3, which lacks a point: it is not computed;
+        2.1<1 1 2/2  3;8.7=x;9.1=1 # 7 Rows 7, 8 stand below the empty row 3: they are not computed; # close up
+        2.1<1 2.5bar 2nd;2.5=DN 50 # 1 Row 1: P1 "2.5bar" is read as 2500, a "2nd" is read as 2, diameter "DN 50" is no size;
+        2.1<1  2;2.8=x;9.7= # 1 Row 1: flow rate "x" is read as 0;)")) {
+        Clear();
+        Do(table[0]);
+        project->settings.PressureUnitFactor = kPascalPerMilliBar;
+        EXPECT_EQ(Lines(TableNotes(*project, texts)), table[1]);
+        EXPECT_EQ(NoteOfGap(*project, texts).canCloseUp, table.size() == 3);
+    }
 }
 
 TEST_F(TableNetwork, FullAndEmptyTables) {
     ASSERT_TRUE(Convert());
     EXPECT_EQ(work->WorkPipeCount, 0);
-    for (std::int16_t row = kFirstTableRow; row <= kLastTableRow + 1; ++row) {
-        project->TableRows[row] = {.StartPoint = static_cast<std::int16_t>(row - 1),
-                                   .EndPoint = row};
+    for (int row = kFirstTableRow; row <= kLastTableRow + 1; ++row) {
+        Row(row) = {.StartPoint = ToInt16(row - 1), .EndPoint = ToInt16(row)};
     }
     ASSERT_TRUE(Convert());
     EXPECT_EQ(work->WorkPipeCount * 1000 + work->WorkPointCount, 99'100);
+    EXPECT_EQ(Lines(TableNotes(*project, texts)), "");
 }
 
 }  // namespace

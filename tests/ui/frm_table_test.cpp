@@ -4,7 +4,6 @@
 #include <QAbstractItemModelTester>
 #include <QClipboard>
 #include <QTableView>
-#include <random>
 #include <string_view>
 
 #include "hydraulics/messages.h"
@@ -43,10 +42,14 @@ class TableWindow : public MainWindow {
         }
     }
 
-    void Select(int row, int column, int lastRow, int lastColumn) {
+    /// Selects cells and chooses a command of the table, with this text on the clipboard.
+    void On(int row, int column, int lastRow, int lastColumn, const char* caption,
+            const QString& clipboard = {}) {
+        if (!clipboard.isEmpty()) QApplication::clipboard()->setText(clipboard);
         View().setCurrentIndex(Cell(row, column));
         View().selectionModel()->select({Cell(row, column), Cell(lastRow, lastColumn)},
                                         QItemSelectionModel::ClearAndSelect);
+        Press(caption);
     }
     void Press(const char* caption, int times = 1) {
         for (QAction* action : View().actions()) {
@@ -124,31 +127,42 @@ TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
     EXPECT_EQ(Text(4, kDiameter), "42.5") << "the same size again counts";
 }
 
-TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
-    const auto paste = [this](int row, const QString& block) {
-        QApplication::clipboard()->setText(block);
-        Select(row, kStartPoint, row, kStartPoint);
-        Press("&Paste");
-    };
+TEST_F(TableWindow, BlocksAndRowsAreEditedAndAllIsUndone) {
     const TableTexts empty = program->table;
-    paste(2, "1\t3\t2\t\t\t\t10\t0\t-2\n\t\t1\t\t\"1 1/2\"\"\"\n");
+    const QString block = "1\t3\t2\t\t\t\t10\t0\t-2\n\t\t1\t\t\"1 1/2\"\"\"\n";
+    On(2, kStartPoint, 2, kStartPoint, "&Paste", block);
     EXPECT_EQ(Text(3, kEndPressure) + Text(3, kNominalSize), "31 1/2\"");
     const TableTexts typed = program->table;
     const auto rows = project.TableRows;
-    Select(2, kNumber, 3, kZ2);
-    Press("&Copy");
-    Press("&Delete");
+    On(2, kNumber, 3, kZ2, "&Copy");
+    QTest::keyClick(&View(), Qt::Key_Backspace);
     EXPECT_EQ(program->table, empty);
     Press("&Paste");
     EXPECT_EQ(program->table, typed);
     EXPECT_EQ(project.TableRows, rows);
-    paste(99, "7\t\t8\t2\r\n8\t\t9\r\n");
+    On(99, kStartPoint, 99, kStartPoint, "&Paste", "7\t\t8\t2\r\n8\t\t9\r\n");
     EXPECT_EQ(Text(100, kStartPressure), "2") << "given once for point 8";
 
-    Press("&Undo", 20);
+    On(4, kLength, 6, kLength, "&Paste", "x");
+    On(6, kLength, 7, kLength, "Fill d&own");
+    EXPECT_TRUE(Cell(7, kLength).data(Qt::UserRole).toBool()) << "with a frame";
+    Press("Cu&t");
+    EXPECT_EQ(Text(5, kLength) + Text(7, kLength) + QApplication::clipboard()->text(), "xx\nx\n");
+    const MessageBox question = PartLeftOut({3, 1, 2, 0});
+    boxes.Expect(question, Answer::No).Expect(question, Answer::Yes).Expect(kNoRoomForRows);
+    On(100, kLength, 100, kLength, "&Paste", "1\n2\n3\n");
+    EXPECT_EQ(Text(100, kLength), "");
+    Press("&Paste");
+    EXPECT_EQ(Text(100, kLength), "1");
+    Press("&Insert rows");
+
+    EXPECT_EQ(Item("Annulla").text(), "&Undo paste");
+    for (int i = 0; i < 20; ++i) Choose("Annulla");
+    EXPECT_FALSE(Item("Annulla").isEnabled());
     EXPECT_EQ(program->table, empty);
     EXPECT_EQ(project.TableRows[2], TableRowRec());
-    Press("&Redo", 20);
+    Press("&Redo", 3);
+    Choose("Ripeti");
     EXPECT_EQ(Text(99, kEndPressure), "2");
     Choose("p_mbar");
     Press("&Undo");
@@ -160,47 +174,42 @@ TEST_F(TableWindow, BlocksAreCopiedDeletedAndPastedAndAllIsUndone) {
 }
 
 TEST_F(TableWindow, RowsBelowAGapAreShadedNamedAndMovedUp) {
-    const auto paste = [this](const QString& text, int row, int column, int lastRow) {
-        QApplication::clipboard()->setText(text);
-        Select(row, column, lastRow, column);
-        Press("&Paste");
+    const auto shaded = [this](int row) {
+        return Cell(row, kLength).data(Qt::BackgroundRole).isValid();
     };
-    const auto ground = [this](int row) { return Cell(row, kLength).data(Qt::BackgroundRole); };
-    paste("1\t\t2\n2\t\t3\n3\t\t4\n", 2, kStartPoint, 2);
     auto& bar = Child<QWidget>("GapBar");
-    EXPECT_FALSE(bar.isVisible() || ground(4).isValid());
-    Select(3, kStartPoint, 3, kStartPoint);
-    Press("&Insert rows");
+    On(2, kStartPoint, 2, kStartPoint, "&Paste", "1\t\t2\n2\t\t3\n3\t\t4\n");
+    EXPECT_FALSE(bar.isVisible() || shaded(4));
+    On(3, kStartPoint, 3, kStartPoint, "&Insert rows");
     EXPECT_EQ(Shown("LabelGap"), "Rows 3, 4 stand below the empty row 2: they are not computed");
-    EXPECT_TRUE(bar.isVisible() && ground(4).isValid() && !ground(3).isValid());
-    QTest::keyClick(&View(), Qt::Key_Backspace);
-    Child<QAbstractButton>("CommandCloseUp").click();
+    EXPECT_TRUE(bar.isVisible() && shaded(4) && !shaded(3));
+    Do("CommandCloseUp");
     EXPECT_FALSE(bar.isVisible());
     EXPECT_EQ(Text(3, kStartPoint) + Text(4, kStartPoint), "23");
     Press("Delete &rows");
     EXPECT_EQ(Text(3, kStartPoint), "3");
-    QTest::keyClick(&View(), Qt::Key_Backspace);
-    EXPECT_EQ(Text(3, kStartPoint), "");
+}
 
-    paste("7", 2, kLength, 4);
-    paste("x", 5, kLength, 5);
-    Select(5, kLength, 6, kLength);
-    Press("Fill d&own");
-    EXPECT_EQ(Text(4, kLength) + Text(6, kLength), "7x");
-    EXPECT_TRUE(Cell(6, kLength).data(Qt::UserRole).toBool()) << "with a frame";
-    Press("Cu&t");
-    EXPECT_EQ(Text(5, kLength) + Text(6, kLength) + QApplication::clipboard()->text(), "x\nx\n");
-    const TableTexts before = program->table;
-    const MessageBox question = PartLeftOut({3, 1, 2, 0});
-    boxes.Expect(question, Answer::No).Expect(question, Answer::Yes);
-    paste("1\n2\n3\n", 100, kLength, 100);
-    EXPECT_EQ(program->table, before);
-    paste("1\n2\n3\n", 100, kLength, 100);
-    EXPECT_EQ(Text(100, kLength), "1");
-    boxes.Expect(kNoRoomForRows);
-    Press("&Insert rows");
-    Press("&Undo", 20);
-    EXPECT_EQ(program->table, TableTexts());
+TEST_F(TableWindow, ResultsStandBesideTheirRowsGreyWhenOutOfDate) {
+    const int flow = kTableColumns;
+    const auto grey = [&] { return Cell(2, flow).data(Qt::ForegroundRole).isValid(); };
+    project.settings.FluidDensity = 1000;
+    project.settings.FluidViscosity = .001;
+    EXPECT_TRUE(View().isColumnHidden(flow));
+    On(2, kStartPoint, 2, kStartPoint, "&Paste", "1\t3\t2\t2\t2\t\t10");
+    Do("Command1");
+    EXPECT_FALSE(View().isColumnHidden(flow) || grey());
+    EXPECT_FALSE(Cell(2, flow).flags() & Qt::ItemIsEditable);
+    const double litres = Text(2, flow).toDouble() / 3600;
+    EXPECT_NEAR(Text(2, flow + 1).toDouble(), litres / 1000 / (.0538 * .0538 * .785398), .001);
+    EXPECT_EQ(Text(2, flow + 2) + ";" + Text(2, flow + 3) + ";" + Text(2, flow + 4),
+              "10132.50;3.0000;2.0000");
+    Put(2, kLength, "20");
+    EXPECT_TRUE(grey() && Text(2, flow + 3) == "3.0000");
+    Put(2, kEndPoint, "3");
+    EXPECT_EQ(Text(2, flow), "") << "it is another pipe";
+    Keys(2, flow, "\t");
+    EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
 }
 
 TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {
@@ -250,27 +259,22 @@ TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {
     }
 }
 
-TEST_F(TableWindow, SwitchingModesAtRandomLosesNothing) {
-    Put(2, kStartPoint, "1");
+TEST_F(TableWindow, SwitchingModesLosesNothing) {
     Put(2, kNominalSize, "2\"");
     project.Pipes[1].Length = 5;
     project.numtubo = 1;
     const auto before = std::make_unique<Project>(project);
     const TableTexts texts = program->table;
-    const struct {
-        const char *item, *window, *status;
-    } modes[] = {{"Grafico", "FrmCel", "Mode: Graphic"},
-                 {"Tabella", "FrmTable", "Mode: Table"},
-                 {"sintub", "FrmSin", "Mode: Single pipe"}};
-    std::mt19937 random(7);
-    for (int step = 0; step < 60; ++step) {
-        const auto& entered = modes[random() % 3];
-        Choose(entered.item);
-        for (const auto& mode : modes) {
-            EXPECT_EQ(Window(mode.window) != nullptr, &mode == &entered);
+    for (const QString mode :
+         {"sintub FrmSin Single", "Grafico FrmCel Graphic", "Tabella FrmTable Table",
+          "Grafico FrmCel Graphic", "sintub FrmSin Single", "Tabella FrmTable Table"}) {
+        const QStringList words = mode.split(' ');
+        Choose(words[0].toLatin1());
+        for (const char* name : {"FrmCel", "FrmTable", "FrmSin"}) {
+            EXPECT_EQ(Window(name) != nullptr, words[1] == name);
         }
-        EXPECT_EQ(Shown("StatusMode"), entered.status);
-        EXPECT_EQ(program->shell.HintsShown, &entered == &modes[0]);
+        EXPECT_TRUE(Shown("StatusMode").startsWith("Mode: " + words[2]));
+        EXPECT_EQ(program->shell.HintsShown, words[2] == "Graphic");
         ASSERT_EQ(program->table, texts);
         before->settings.Mode = project.settings.Mode;
         ASSERT_TRUE(project == *before);

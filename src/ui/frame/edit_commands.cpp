@@ -26,32 +26,54 @@ void Find(MDI& mdi) {
     }
 }
 
+bool IsTable(const Program& program) {
+    return program.project.settings.Mode == WorkMode::Table;
+}
+
+struct StepNames {
+    QString undo, redo;  ///< empty when there is none
+};
+
+StepNames NamesOf(Program& program) {
+    switch (program.project.settings.Mode) {
+        case WorkMode::Graphic:
+            return {ToQt(program.history.UndoName()), ToQt(program.history.RedoName())};
+        case WorkMode::Table:
+            return {program.tableModel.Undo().undoText(), program.tableModel.Undo().redoText()};
+        case WorkMode::SinglePipe:
+            break;
+    }
+    return {};
+}
+
 }  // namespace
 
 void AttachEditCommands(MDI& mdi) {
     Program& program = mdi.State();
-    const auto attach = [&](const char* item, void (EditHistory::*step)(Project&, Editor&)) {
-        mdi.Menu().Attach(item, [&program, step] {
+    const auto attach = [&](const char* item, void (EditHistory::*step)(Project&, Editor&),
+                            void (QUndoStack::*tableStep)()) {
+        mdi.Menu().Attach(item, [&program, step, tableStep] {
+            if (IsTable(program)) return (program.tableModel.Undo().*tableStep)();
             (program.history.*step)(program.project, program.editor);
             const auto record = program.records.find(WorkMode::Graphic);
             if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
         });
     };
-    attach("Annulla", &EditHistory::Undo);
-    attach("Ripeti", &EditHistory::Redo);
+    attach("Annulla", &EditHistory::Undo, &QUndoStack::undo);
+    attach("Ripeti", &EditHistory::Redo, &QUndoStack::redo);
     mdi.Menu().Attach("Trova", [&mdi] { Find(mdi); });
 }
 
 void ShowSteps(MDI& mdi) {
     Program& program = mdi.State();
     program.history.Note(program.project, program.editor);
-    const bool isDrawing = program.project.settings.Mode == WorkMode::Graphic;
-    const auto show = [&](const char* item, const QString& caption, const std::string& step) {
-        const bool named = isDrawing && !step.empty();
-        mdi.Menu().ShowItem(item, named ? caption + " " + ToQt(step) : caption, named);
+    const auto show = [&](const char* item, const QString& caption, const QString& step) {
+        mdi.Menu().ShowItem(item, step.isEmpty() ? caption : caption + " " + step, !step.isEmpty());
     };
-    show("Annulla", "&Undo", program.history.UndoName());
-    show("Ripeti", "&Redo", program.history.RedoName());
+    const StepNames names = NamesOf(program);
+    show("Annulla", "&Undo", names.undo);
+    show("Ripeti", "&Redo", names.redo);
+    const bool isDrawing = program.project.settings.Mode == WorkMode::Graphic;
     mdi.Menu().ShowItem("Trova", "&Find pipe or point", isDrawing);
 }
 

@@ -3,6 +3,7 @@
 
 #include <QVBoxLayout>
 
+#include "shell/table_results.h"
 #include "table/table_rows.h"
 #include "ui/program.h"
 #include "ui/table/gap_bar.h"
@@ -32,6 +33,11 @@ FrmTable::FrmTable(Program& program)
 
 void FrmTable::ShowState() {
     program_.tableModel.ShowState();
+    const auto record = program_.records.find(WorkMode::Table);
+    const RowResults results = ShowRowResults(
+        program_.project, record == program_.records.end() ? nullptr : &record->second);
+    TxtTab->ShowResultColumns(!results.isEmpty);
+    program_.tableModel.ShowResults(results);
     gap_->ShowGap(NoteOfGap(program_.project, program_.table));
     const QModelIndex current = TxtTab->currentIndex();
     const int line = program_.tablePlace.line;

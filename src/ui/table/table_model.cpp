@@ -21,8 +21,12 @@ struct TableState {
     TableTexts texts;
 };
 
-/// Of rows that are not computed; on light and dark grounds.
+// On light and dark grounds.
 const QColor kNotComputed(128, 128, 128, 90);
+const QColor kResultGround(128, 128, 128, 30);
+const QColor kOutOfDate(128, 128, 128);
+
+const auto kAlignment = QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
 
 }  // namespace
 
@@ -62,12 +66,13 @@ int TableModel::rowCount(const QModelIndex& parent) const {
 }
 
 int TableModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : kTableColumns;
+    return parent.isValid() ? 0 : kShownColumns;
 }
 
 QVariant TableModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) return {};
     const int row = RowOf(index);
+    if (index.column() >= kTableColumns) return Result(row, index.column(), role);
     switch (role) {
         case Qt::DisplayRole:
         case Qt::EditRole:
@@ -79,7 +84,22 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
         case kFramedRole:
             return texts_.IsFramed(row, index.column());
         case Qt::TextAlignmentRole:
-            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+            return kAlignment;
+        default:
+            return {};
+    }
+}
+
+QVariant TableModel::Result(int row, int column, int role) const {
+    switch (role) {
+        case Qt::DisplayRole:
+            return ToQt(results_.At(row, column));
+        case Qt::ForegroundRole:
+            return results_.outOfDate ? QVariant(kOutOfDate) : QVariant();
+        case Qt::BackgroundRole:
+            return kResultGround;
+        case Qt::TextAlignmentRole:
+            return kAlignment;
         default:
             return {};
     }
@@ -89,7 +109,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation == Qt::Vertical) {
         return role == Qt::DisplayRole ? index(section, table_column::kNumber).data() : QVariant();
     }
-    if (section < 0 || section >= kTableColumns || role != Qt::DisplayRole) return {};
+    if (section < 0 || section >= kShownColumns || role != Qt::DisplayRole) return {};
     return ToQt(HeaderOf(project_.settings, section));
 }
 
@@ -106,8 +126,9 @@ QString TableModel::Tip(int row, int column) const {
 
 Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
     const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
-    return index.isValid() && index.column() != table_column::kNumber ? flags | Qt::ItemIsEditable
-                                                                      : flags;
+    const int column = index.isValid() ? index.column() : table_column::kNumber;
+    const bool isTyped = column != table_column::kNumber && column < kTableColumns;
+    return isTyped ? flags | Qt::ItemIsEditable : flags;
 }
 
 bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
@@ -123,7 +144,7 @@ void TableModel::ChooseSize(const QModelIndex& cell, int position) {
 }
 
 std::string TableModel::Copy(const TableBlock& block) const {
-    return CopyBlock(texts_, block);
+    return CopyBlock(texts_, results_, block);
 }
 
 void TableModel::Paste(const TableBlock& block, const std::string& text) {
@@ -156,9 +177,15 @@ void TableModel::ShowState() {
     const float unit = project_.settings.PressureUnitFactor;
     if (std::exchange(shownUnit_, unit) != unit) {
         undo_.clear();
-        Q_EMIT headerDataChanged(Qt::Horizontal, 0, kTableColumns - 1);
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, kShownColumns - 1);
     }
     if (shown_ != texts_) Announce();
+}
+
+void TableModel::ShowResults(const RowResults& results) {
+    if (results_ == results) return;
+    results_ = results;
+    Q_EMIT dataChanged(index(0, kTableColumns), index(rowCount() - 1, columnCount() - 1));
 }
 
 void TableModel::StartAnew() {

@@ -40,6 +40,8 @@ class TableModel : public QAbstractTableModel {
     void DeleteRows(int firstRow, int lastRow);
     void CloseUp();
 
+    /// Shows these right of the cells; they cannot be edited.
+    void ShowResults(const RowResults& results);
     /// Shows what differs from what is shown. In another pressure unit nothing can be undone any
     /// more.
     void ShowState();
@@ -56,11 +58,13 @@ class TableModel : public QAbstractTableModel {
     void Apply(const QString& name, const std::function<void()>& edit);
     void Announce();
     QVariant Ground(int row, int column) const;
+    QVariant Result(int row, int column, int role) const;
     QString Tip(int row, int column) const;
 
     Project& project_;
     TableTexts& texts_;
     TableTexts shown_;
+    RowResults results_;
     int lastListed_ = 0;   ///< row
     float shownUnit_ = 0;  ///< Pa per unit
     QUndoStack undo_;

@@ -33,13 +33,17 @@ int HeaderMargin(const QHeaderView& header) {
 }
 
 /// The width of a column, given in screen units. Where a word of its header is wider than that,
-/// as "diameter" is in most fonts, the column is just wide enough for the word.
+/// as "diameter" is in most fonts, the column is just wide enough for the word. Results have the
+/// widths of flow rates and pressures.
 int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
+    const int result =
+        column == kTableColumns ? table_column::kFlowRate : table_column::kStartPressure;
+    const int listed = column < kTableColumns ? column : result;
     int widest = 0;
     for (const QString& word : words.split(' ')) {
         widest = std::max(widest, header.fontMetrics().horizontalAdvance(word));
     }
-    return std::max(kTableColumnList[column].width / kUnitsPerPixel, widest + HeaderMargin(header));
+    return std::max(kTableColumnList[listed].width / kUnitsPerPixel, widest + HeaderMargin(header));
 }
 
 }  // namespace
@@ -50,6 +54,8 @@ TableView::TableView(TableModel& model, TablePlace& place, MessageBoxes& boxes)
     Named(verticalScrollBar(), "ScrY");
     Named(horizontalScrollBar(), "ScrX");
     setAccessibleName("Pipes of the table");
+    // Styles draw the lines between cells too dark for dark grounds.
+    setStyleSheet("QTableView { gridline-color: rgba(128, 128, 128, 110); }");
     setModel(&model);
     auto* delegate = new TableDelegate(this);
     delegate->sizeChosen = [this](QWidget* list, const QModelIndex& cell, int position) {
@@ -98,7 +104,7 @@ void TableView::SizeColumns() {
     QHeaderView& header = *horizontalHeader();
     header.setMinimumSectionSize(kTableColumnList[0].width / kUnitsPerPixel);
     int height = 0;
-    for (int column = 0; column < kTableColumns; ++column) {
+    for (int column = 0; column < kShownColumns; ++column) {
         const QString words = model_.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
         const int width = ColumnWidth(header, column, words);
         setColumnWidth(column, width);
@@ -107,6 +113,12 @@ void TableView::SizeColumns() {
             std::max(height, header.fontMetrics().boundingRect(room, kHeaderFlags, words).height());
     }
     header.setFixedHeight(height + HeaderMargin(header));
+}
+
+void TableView::ShowResultColumns(bool shown) {
+    for (int column = kTableColumns; column < kShownColumns; ++column) {
+        setColumnHidden(column, !shown);
+    }
 }
 
 void TableView::SizeLines() {
@@ -120,8 +132,8 @@ void TableView::SizeLines() {
 
 void TableView::AddCommands() {
     setContextMenuPolicy(Qt::ActionsContextMenu);
-    AddCommand("&Undo", {QKeySequence("Ctrl+Z")}, &TableView::Undo);
-    AddCommand("&Redo", {QKeySequence("Ctrl+Y"), QKeySequence("Ctrl+Shift+Z")}, &TableView::Redo);
+    AddCommand("&Undo", {}, &TableView::Undo);  // the keys are those of the menu Edit
+    AddCommand("&Redo", {}, &TableView::Redo);
     AddCommand("Cu&t", {QKeySequence("Ctrl+X")}, &TableView::Cut);
     AddCommand("&Copy", {QKeySequence("Ctrl+C")}, &TableView::Copy);
     AddCommand("&Paste", {QKeySequence("Ctrl+V")}, &TableView::Paste);
@@ -266,7 +278,9 @@ QModelIndex TableView::moveCursor(CursorAction action, Qt::KeyboardModifiers mod
     const int step = action == MoveNext ? 1 : -1;
     const int perRow = kTableColumns - 1;  // without the hidden number
     const QModelIndex from = currentIndex();
-    const int cell = from.row() * perRow + from.column() - 1 + step;
+    // Results are passed over.
+    const int column = std::min(from.column(), step == 1 ? perRow : perRow + 1);
+    const int cell = from.row() * perRow + column - 1 + step;
     if (cell < 0 || cell >= perRow * model_.rowCount()) return from;
     return model_.index(cell / perRow, cell % perRow + 1);
 }

@@ -19,6 +19,8 @@ class TableView : public QTableView {
     /// Starts at `place` and leaves there where it ended. All live longer than the view.
     TableView(TableModel& model, TablePlace& place, MessageBoxes& boxes);
 
+    void ShowResultColumns(bool shown);
+
     /// Takes what is being typed into a cell as if it had been finished.
     void TakeEdit();
 
