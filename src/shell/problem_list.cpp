@@ -6,6 +6,7 @@
 
 #include "hydraulics/problems.h"
 #include "hydraulics/work_network.h"
+#include "table/table_columns.h"
 #include "table/table_network.h"
 
 namespace idrova {
@@ -30,11 +31,11 @@ int FirstRowOf(const Project& project, int point) {
     return 0;
 }
 
-/// The table shows pipes and points by their rows.
+/// The table shows pipes, whose numbers its rows have, and points by their rows.
 Note OnRow(const Project& project, Note note) {
-    if (note.on == NoteOn::Pipe) return {note.text, NoteOn::Row, note.number + kFirstTableRow - 1};
+    if (note.on == NoteOn::Pipe) return {note.text, NoteOn::Row, note.number};
     if (note.on != NoteOn::Point) return note;
-    return {note.text, NoteOn::Row, FirstRowOf(project, note.number)};
+    return {note.text, NoteOn::Row, ShownRow(FirstRowOf(project, note.number))};
 }
 
 }  // namespace

@@ -56,8 +56,8 @@ void FrmProb::GoTo(int line) {
     if (line < 0 || line >= static_cast<int>(shown_.notes.size())) return;
     const Note& note = shown_.notes[static_cast<std::size_t>(line)];
     const bool row = note.on == NoteOn::Row;
-    SelectElement(program_, row ? Element{NoteOn::Pipe, note.number - kFirstTableRow + 1}
-                                : Element{note.on, note.number});
+    SelectElement(program_,
+                  row ? Element{NoteOn::Pipe, note.number} : Element{note.on, note.number});
     program_.changed();
 }
 
