@@ -48,6 +48,8 @@ ComponentsFrame::ComponentsFrame(PanelContext& context)
     blinkTimer_->setInterval(kBlink);
     connect(blinkTimer_, &QTimer::timeout, this, [this] { Blink(); });
     setLayout(new QVBoxLayout);
+    layout()->setContentsMargins(kFrameMargins);
+    layout()->setSpacing(kRowSpacing);
     for (QWidget* control :
          {static_cast<QWidget*>(kinds_), static_cast<QWidget*>(names_),
           static_cast<QWidget*>(insertButton_), static_cast<QWidget*>(turnButton_)}) {

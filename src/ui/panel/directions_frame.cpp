@@ -44,6 +44,7 @@ DirectionsFrame::DirectionsFrame(PanelContext& context)
       arrow_(new DirectionArrow) {
     Named(this, "Frame8");
     auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(kFrameMargins);
     row->addWidget(fromStart_);
     row->addWidget(arrow_, 1);
     row->addWidget(fromEnd_);

@@ -31,6 +31,7 @@ FlowFrame::FlowFrame(PanelContext& context)
       dropPerMetre_(new ComputedField("DropPerMetre")) {
     Named(this, "Frame7");
     auto* rows = new QGridLayout(this);
+    rows->setContentsMargins(kFrameMargins);
     rows->setVerticalSpacing(kRowSpacing);
     rows->addWidget(choice_, 0, 0, 1, 3);
     rows->addWidget(PlainLabel("given"), 1, 1);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QMargins>
 #include <QWidget>
 #include <functional>
 #include <string>
@@ -16,7 +17,9 @@ namespace idrova {
 
 struct Program;
 
-constexpr int kRowSpacing = 3;  ///< pixels; all frames are to be seen on a screen of 1080 lines
+/// In pixels, small: all frames are to be seen on a screen of 1080 lines.
+constexpr int kRowSpacing = 3;
+constexpr QMargins kFrameMargins(8, 3, 8, 4);
 
 /// What the frames of the command panel share.
 struct PanelContext {

@@ -38,6 +38,7 @@ PipeFrame::PipeFrame(PanelContext& context)
         context_.edited();
     });
     auto* form = new QFormLayout(this);
+    form->setContentsMargins(kFrameMargins);
     form->setVerticalSpacing(kRowSpacing);
     form->addRow(flowFrame_);
     form->addRow(LabelFor(length_, "Lenght [m]"), length_);

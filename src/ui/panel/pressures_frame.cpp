@@ -21,6 +21,8 @@ PressuresFrame::PressuresFrame(PanelContext& context)
     LayOut(start_);
     LayOut(end_);
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(kFrameMargins);
+    column->setSpacing(kRowSpacing);
     column->addWidget(start_.frame);
     column->addWidget(end_.frame);
 }
@@ -51,6 +53,7 @@ void PressuresFrame::LayOut(const PointBoxes& point) {
     point.given->setAccessibleName("Given pressure");
     point.computed->setAccessibleName("Computed pressure");
     auto* grid = new QGridLayout(point.frame);
+    grid->setContentsMargins(kFrameMargins);
     grid->setVerticalSpacing(kRowSpacing);
     grid->addWidget(point.option, 0, 0, 1, 4);
     grid->addWidget(PlainLabel("given"), 1, 0);

@@ -45,7 +45,7 @@ FrmRis::FrmRis(Program& program)
         connect(tab.view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
                 [this, &tab] { Select(tab); });
     }
-    ShowState();
+    FrmRis::ShowState();
     setFocusProxy(tables_.front().view);
 }
 
