@@ -15,7 +15,6 @@ inline QColor ToQt(Rgb colour) {
 /// Sizes are screen units, 15 to a pixel at scale 1.
 namespace drawing_style {
 constexpr QColor kGridLine(0x9A, 0x9A, 0x9A);
-constexpr QColor kHeader(0x20, 0x20, 0x20);
 constexpr QColor kCursor(0xC0, 0x40, 0x00);
 constexpr QColor kLeader(0x40, 0x40, 0x40);
 constexpr double kCursorWidth = 30;

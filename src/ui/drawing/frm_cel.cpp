@@ -54,7 +54,7 @@ QScrollBar* FrmCel::Bar(const char* name, Qt::Orientation orientation) {
 
 void FrmCel::ConnectView() {
     view_->press = [this](int place, MouseButton button, bool goOn) {
-        Img_MouseDown(place, button, goOn);
+        PressMouse(place, button, goOn);
     };
     view_->drop = [this](int place, bool goOn) { Drop(place, goOn); };
     view_->hover = [this](int place) { ShowPlace(place); };
@@ -82,7 +82,7 @@ void FrmCel::ShowState() {
     scene_->Show(std::move(drawing));
 }
 
-void FrmCel::Img_MouseDown(int place, MouseButton button, bool goOn) {
+void FrmCel::PressMouse(int place, MouseButton button, bool goOn) {
     const bool begun = program_.editor.state == InsertState::EndPoint;
     CellClick(program_.project, program_.editor, place, button, program_.boxes, goOn);
     isBegunByPress_ = !begun && program_.editor.state == InsertState::EndPoint;
@@ -91,7 +91,7 @@ void FrmCel::Img_MouseDown(int place, MouseButton button, bool goOn) {
 
 void FrmCel::Drop(int place, bool goOn) {
     if (isBegunByPress_ && program_.editor.state == InsertState::EndPoint) {
-        Img_MouseDown(place, MouseButton::Left, goOn);
+        PressMouse(place, MouseButton::Left, goOn);
     }
 }
 

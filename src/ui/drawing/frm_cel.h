@@ -26,7 +26,7 @@ class FrmCel final : public ChildWindow {
   private:
     QScrollBar* Bar(const char* name, Qt::Orientation orientation);
     void ConnectView();
-    void Img_MouseDown(int place, MouseButton button, bool goOn);
+    void PressMouse(int place, MouseButton button, bool goOn);
     void Drop(int place, bool goOn);
     QString TipOf(int place) const;
     void Scrolled();

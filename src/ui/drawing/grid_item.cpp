@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/drawing/grid_item.h"
 
+#include <QGraphicsScene>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 
@@ -69,7 +70,7 @@ void GridItem::PaintCells(QPainter& painter, const QRectF& exposed) const {
 }
 
 void GridItem::PaintHeaders(QPainter& painter, const QRectF& exposed) const {
-    painter.setPen(drawing_style::kHeader);
+    painter.setPen(scene()->palette().color(QPalette::Text));
     painter.setFont(drawing_style::Font(drawing_style::kHeaderHeight));
     const auto paint = [&](const QRectF& cell, int number) {
         if (!cell.intersects(exposed)) return;
