@@ -9,6 +9,7 @@
 #include "hydraulics/messages.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/run_checks.h"
+#include "hydraulics/run_notes.h"
 
 namespace idrova {
 namespace {
@@ -81,9 +82,8 @@ class ProblemList {
     void AddUnjoinedComponents() {
         for (const Component& component : plan_.components) {
             if (component.high != 0) continue;
-            Add(NoteOn::Cell, component.cell,
-                "The component in cell " + GeneralText(component.cell) +
-                    " does not stand between two pipes");
+            notes_.push_back(NoteOnCell(work_, component.cell, "The component",
+                                        " does not stand between two pipes"));
         }
     }
 

@@ -28,14 +28,6 @@ Note OnPipe(int pipe, const std::string& before, const std::string& after) {
     return {before + GeneralText(pipe) + after, NoteOn::Pipe, pipe};
 }
 
-/// A component by the place that the headers of the drawing give it.
-Note OnCell(const WorkNetwork& work, int cell, const std::string& what, const std::string& after) {
-    const int column = (cell - 1) % work.GridSize + 1;
-    const int row = (cell - 1) / work.GridSize + 1;
-    return {what + " in column " + GeneralText(column) + ", row " + GeneralText(row) + after,
-            NoteOn::Cell, cell};
-}
-
 void NoteUnsettled(const WorkNetwork& work, const StageResult& result, Notes& notes) {
     std::vector<std::pair<double, Note>> unsettled;
     for (const auto [i, pipe] : DrawnPipes(work)) {
@@ -46,8 +38,8 @@ void NoteUnsettled(const WorkNetwork& work, const StageResult& result, Notes& no
             OnPipe(i, "Pipe ", " has not settled: " + PercentText(residual.relative)));
     }
     for (const auto& [cell, relative] : result.unsettledComponents) {
-        unsettled.emplace_back(relative, OnCell(work, cell, "The component",
-                                                " has not settled: " + PercentText(relative)));
+        unsettled.emplace_back(relative, NoteOnCell(work, cell, "The component",
+                                                    " has not settled: " + PercentText(relative)));
     }
     std::ranges::stable_sort(unsettled, std::greater(), &std::pair<double, Note>::first);
     for (auto& [relative, note] : unsettled) notes.push_back(std::move(note));
@@ -136,7 +128,7 @@ void NotePump(const WorkNetwork& work, const Component& component, double flow, 
     CellRec pump = component.record;
     pump.Result = ToSingle(flow);
     const auto add = [&](const std::string& what, const std::string& after) {
-        notes.push_back(OnCell(work, component.cell, what, after));
+        notes.push_back(NoteOnCell(work, component.cell, what, after));
     };
     if (component.throughSign * flow < 0) {
         add("The pump", " runs backwards");
@@ -155,8 +147,8 @@ void NoteComponent(const Settings& settings, const WorkNetwork& work, const Comp
     if (cell.Kind == CellKind::Pump) return NotePump(work, component, flow, notes);
     if (cell.Param2 == 0) return;
     if (std::abs(flow) >= FullDropFlow(settings, work.WorkPipes[component.pipeA])) return;
-    notes.push_back(OnCell(work, component.cell, "The fixed drop",
-                           " holds the flow still: less than it is there to drive the flow"));
+    notes.push_back(NoteOnCell(work, component.cell, "The fixed drop",
+                               " holds the flow still: less than it is there to drive the flow"));
 }
 
 /// At the end where the gas is thinner, with sound at constant temperature: the isothermal law
@@ -240,6 +232,14 @@ void NoteNetwork(const NetworkPlan& plan, const WorkNetwork& work, const StageRe
 }
 
 }  // namespace
+
+Note NoteOnCell(const WorkNetwork& work, int cell, const std::string& what,
+                const std::string& after) {
+    const int column = (cell - 1) % work.GridSize + 1;
+    const int row = (cell - 1) / work.GridSize + 1;
+    return {what + " in column " + GeneralText(column) + ", row " + GeneralText(row) + after,
+            NoteOn::Cell, cell};
+}
 
 std::string PercentText(double share) {
     const double percent = share * 100;

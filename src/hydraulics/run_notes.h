@@ -18,6 +18,11 @@ namespace idrova {
 std::vector<Note> ResultNotes(const Settings& settings, const NetworkPlan& plan,
                               const WorkNetwork& work, const StageResult& result);
 
+/// On a component, by the place that the headers of the drawing give it: "`what` in column 5, row
+/// 6" and then `after`.
+Note NoteOnCell(const WorkNetwork& work, int cell, const std::string& what,
+                const std::string& after);
+
 /// A share in percent: "3 %", below one percent with two decimals: "0.04 %".
 std::string PercentText(double share);
 
