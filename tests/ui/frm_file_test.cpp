@@ -2,6 +2,7 @@
 #include "ui/windows/frm_file.h"
 
 #include <QListWidget>
+#include <QStatusBar>
 
 #include "drawing_window.h"
 #include "physdata/settings_file.h"
@@ -126,7 +127,7 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     Do("Command1");
     const std::string unsaved = FileBytes(folder / kUnsavedFile);
     EXPECT_NE(unsaved, "") << "both pipes had not been saved";
-    EXPECT_EQ(Shown("StatusSaid"), "Unsaved work is kept in " + Path("unsaved.iv"));
+    EXPECT_EQ(mdi->statusBar()->currentMessage(), "Unsaved work is kept in " + Path("unsaved.iv"));
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
     EXPECT_EQ(project.ProjectDescription, "to be found again");
     EXPECT_EQ(LinesDrawn(), 1);

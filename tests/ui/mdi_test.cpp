@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QStatusBar>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QUrl>
@@ -90,12 +91,17 @@ TEST_F(MainWindow, HelpShowsTheManualAndHintsFitTheMode) {
     PutFile(folder / "manual.pdf", "manual");
     boxes.Expect(kManualNotice).Expect(kManualNotice);
     Choose("Help");
-    EXPECT_EQ(Shown("StatusSaid"), "The user manual was not found");
+    EXPECT_EQ(mdi->statusBar()->currentMessage(), "The user manual was not found");
     program->shipped.manual = folder / "manual.pdf";
     Choose("Help");
     EXPECT_EQ(viewer.source().toLocalFile(), PathToQt(folder / "manual.pdf"));
     QDesktopServices::unsetUrlHandler("file");
-    EXPECT_EQ(Shown("StatusSaid"), "") << "a command takes the words of the one before away";
+    EXPECT_EQ(mdi->statusBar()->currentMessage(), "")
+        << "a command takes the words of the one before away";
+    mdi->Say("kept");
+    mdi->statusBar()->showMessage("a tip");
+    mdi->statusBar()->clearMessage();
+    EXPECT_EQ(mdi->statusBar()->currentMessage(), "kept") << "a tip only comes over it";
     for (const auto& [mode, hint] : {std::pair("Tabella", "compute the table"),
                                      std::pair("sintub", "the unknown one is computed at once")}) {
         Choose(mode);

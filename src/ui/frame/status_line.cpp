@@ -41,14 +41,14 @@ QString FluidText(const Settings& settings) {
 }  // namespace
 
 StatusLine::StatusLine(QStatusBar& bar, const std::function<void()>& openProblems)
-    : said_(Named(new QLabel, "StatusSaid")),
+    : bar_(bar),
       mode_(Named(new QLabel, "StatusMode")),
       fluid_(Named(new QLabel, "StatusFluid")),
       outcomeButton_(Named(new QToolButton, "StatusOutcome")) {
-    for (QLabel* label : {said_, fluid_}) label->setTextFormat(Qt::PlainText);
-    // A long text is cut: it must not widen the main window.
-    said_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    bar.addWidget(said_, 1);
+    fluid_->setTextFormat(Qt::PlainText);
+    QObject::connect(&bar, &QStatusBar::messageChanged, mode_, [this](const QString& shown) {
+        if (shown.isEmpty() && !said_.isEmpty()) bar_.showMessage(said_);
+    });
     for (QLabel* label : {fluid_, mode_}) label->setContentsMargins(8, 0, 8, 0);
     outcomeButton_->setAutoRaise(true);
     outcomeButton_->hide();
@@ -59,8 +59,8 @@ StatusLine::StatusLine(QStatusBar& bar, const std::function<void()>& openProblem
 }
 
 void StatusLine::Say(const std::string& words) {
-    said_->setText(ToQt(words));
-    said_->setToolTip(ToQt(words));
+    said_ = ToQt(words);
+    bar_.showMessage(said_);
 }
 
 void StatusLine::ShowSettings(const Settings& settings) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <string>
 
@@ -22,7 +23,8 @@ class StatusLine {
     StatusLine(const StatusLine&) = delete;
     StatusLine& operator=(const StatusLine&) = delete;
 
-    /// On the left, where the tips are, until it is replaced. Empty words take it away.
+    /// On the left, where tips come over it for their time, until it is replaced. Empty words take
+    /// it away.
     void Say(const std::string& words);
     void ShowSettings(const Settings& settings);
     void ShowOutcome(const Outcome& outcome, ResultAge age);
@@ -30,7 +32,8 @@ class StatusLine {
     void HideOutcome();
 
   private:
-    QLabel* said_;
+    QStatusBar& bar_;
+    QString said_;
     QLabel* mode_;
     QLabel* fluid_;
     QToolButton* outcomeButton_;
