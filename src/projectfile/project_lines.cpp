@@ -26,11 +26,12 @@ std::string_view CutItem(std::string_view& line) {
     return item;
 }
 
-}  // namespace
-
+/// `bytes` as UTF-8: as they are when they are valid, else read as Latin-1.
 std::string TextFromFile(std::string_view bytes) {
     return IsUtf8(bytes) ? std::string(bytes) : FromLatin1(bytes);
 }
+
+}  // namespace
 
 void ProjectLines::FailAt(int line, std::string_view reason) {
     if (fault_) return;

@@ -71,7 +71,4 @@ class ProjectLines {
     std::optional<std::string> fault_;
 };
 
-/// `bytes` as UTF-8: as they are when they are valid, else read as Latin-1.
-std::string TextFromFile(std::string_view bytes);
-
 }  // namespace idrova

@@ -15,6 +15,10 @@ constexpr FixedMessage kManualNotice{"The user manual is the file IDROVA.PDF", "
 constexpr FixedMessage kSmallScreen{"The min resolution must be 1024x768", "Resolution",
                                     BoxIcon::Critical};
 
+inline std::string FolderNotMade(const std::string& folder) {
+    return "The folder " + folder + " can not be made";
+}
+
 inline std::string ManualNotShown(const std::string& file) {
     return file.empty() ? "The user manual was not found"
                         : "Nothing here shows PDF files: the manual is " + file;

@@ -5,9 +5,14 @@
 
 namespace idrova {
 
+namespace {
+
+/// False when the results shown are no solution, or when there are none.
 bool IsTrustworthy(RunEnd end) {
     return end == RunEnd::Settled || end == RunEnd::Empty;
 }
+
+}  // namespace
 
 OutcomeView ShowOutcome(const Outcome& outcome, ResultAge age) {
     OutcomeView view{OutcomeLine(outcome), EffortText(outcome)};

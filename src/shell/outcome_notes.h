@@ -7,9 +7,6 @@
 
 namespace idrova {
 
-/// False when the results shown are no solution, or when there are none.
-bool IsTrustworthy(RunEnd end);
-
 /// The ground that the status bar gives an outcome.
 enum class OutcomeGround { Plain, Noted, Faulty, Old };
 

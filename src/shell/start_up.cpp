@@ -40,7 +40,7 @@ Status PrepareWorkingFolder(const fs::path& folder, const fs::path& shared) {
     std::error_code error;
     if (fs::exists(folder, error)) return Done{};
     fs::create_directories(folder, error);
-    if (error) return Failure{"The folder " + folder.string() + " can not be made"};
+    if (error) return Failure{FolderNotMade(folder.string())};
     // An absent database is made empty and an absent icon is drawn, so a failed copy is no failure.
     for (const char* name : {"fluidi.dat", "pompe.dat", "percon.dat", "IMG"}) {
         fs::copy(shared / name, folder / name, fs::copy_options::recursive, error);

@@ -9,38 +9,23 @@ namespace {
 TEST(OutcomeNotes, WordsAndGroundTellWhetherToTrust) {
     const Note note{"Mind the step"};
     const Note remark{.text = "A fine step", .weight = NoteWeight::Remark};
+    using enum OutcomeGround;
+    const std::vector<Note> both{note, note};
     const struct {
         Outcome outcome;
-        const char *text = "", *effort = "";
-        OutcomeGround ground = OutcomeGround::Plain;
+        const char *text, *effort;
+        OutcomeGround ground;
     } cases[] = {
-        {{.end = RunEnd::Settled, .passes = {12, 3}, .notes = {remark}, .seconds = .00144},
-         "Computed",
-         "12 + 3 passes, 1.4 ms",
-         OutcomeGround::Plain},
-        {{.end = RunEnd::Settled, .passes = {1, 0}, .notes = {note}},
-         "Computed, 1 note",
-         "1 pass, 0 ms",
-         OutcomeGround::Noted},
-        {{.end = RunEnd::Settled, .notes = {note, note}},
-         "Computed, 2 notes",
-         "",
-         OutcomeGround::Noted},
-        {{.end = RunEnd::Unsettled, .worstResidual = .03, .worstPipe = 12, .notes = {note}},
-         "Not settled: pipe 12, 3 %",
-         "",
-         OutcomeGround::Faulty},
-        {{.end = RunEnd::Unsettled, .worstResidual = 4e-4, .worstPipe = 1},
-         "Not settled: pipe 1, 0.04 %",
-         "",
-         OutcomeGround::Faulty},
-        {{.end = RunEnd::Singular},
-         "The equations have no single solution",
-         "",
-         OutcomeGround::Faulty},
-        {{.end = RunEnd::Refused}, "Not computed", "", OutcomeGround::Faulty},
-        {{.end = RunEnd::Empty}, "Nothing to compute", "", OutcomeGround::Plain},
-    };
+        // clang-format off
+        {{.end = RunEnd::Settled, .passes = {12, 3}, .notes = {remark}, .seconds = .00144}, "Computed", "12 + 3 passes, 1.4 ms", Plain},
+        {{.end = RunEnd::Settled, .passes = {1, 0}, .notes = {note}}, "Computed, 1 note", "1 pass, 0 ms", Noted},
+        {{.end = RunEnd::Settled, .notes = both}, "Computed, 2 notes", "", Noted},
+        {{.end = RunEnd::Unsettled, .worstResidual = .03, .worstPipe = 12, .notes = {note}}, "Not settled: pipe 12, 3 %", "", Faulty},
+        {{.end = RunEnd::Unsettled, .worstResidual = 4e-4, .worstPipe = 1}, "Not settled: pipe 1, 0.04 %", "", Faulty},
+        {{.end = RunEnd::Singular}, "The equations have no single solution", "", Faulty},
+        {{.end = RunEnd::Refused}, "Not computed", "", Faulty},
+        {{.end = RunEnd::Empty}, "Nothing to compute", "", Plain}};
+    // clang-format on
     for (const auto& c : cases) {
         const OutcomeView view = ShowOutcome(c.outcome, ResultAge::Current);
         EXPECT_EQ(view.text, c.text);

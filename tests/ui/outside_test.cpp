@@ -10,7 +10,7 @@
 
 #include "support/scripted_boxes.h"
 #include "support/temp_folder.h"
-#include "ui/frame/messages.h"
+#include "ui/kit/messages.h"
 #include "ui/kit/print_text.h"
 #include "ui/kit/qt_message_boxes.h"
 #include "ui/kit/qt_text.h"

@@ -15,7 +15,7 @@
 #include <cmath>
 
 #include "base/file.h"
-#include "ui/frame/messages.h"
+#include "ui/kit/messages.h"
 #include "ui/kit/qt_text.h"
 
 namespace idrova {

@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include "ui/kit/editor_window.h"
+#include "ui/kit/messages.h"
 #include "ui/kit/qt_text.h"
 
 namespace idrova {
@@ -44,13 +45,13 @@ Status StartWithFile(const std::filesystem::path& program, const std::filesystem
     if (!process->waitForStarted()) {
         const std::string reason = FromQt(process->errorString());
         delete process;
-        return Failure{program.string() + " can not be started: " + reason};
+        return Failure{NotStarted(program.string(), reason)};
     }
     QElapsedTimer running;
     running.start();
     QObject::connect(process, &QProcess::finished, &asker, [process, program, gaveUp, running] {
         if (!HasFailed(*process) || running.hasExpired(kStartMilliseconds)) return;
-        gaveUp(program.string() + " has ended without showing the file. It may need a terminal");
+        gaveUp(GaveUp(program.string()));
     });
     QObject::connect(process, &QProcess::finished, process, &QObject::deleteLater);
     window.BringToFront(process->processId(), PathToQt(file.filename()));
