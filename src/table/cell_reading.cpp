@@ -31,6 +31,7 @@ std::string_view WithoutBlanks(std::string_view text) {
 std::string CellText(int column, std::string_view typed) {
     if (column == kNominalSize) return std::string(typed);
     std::string text = WithDecimalPoint(typed);
+    if (column == kLossSum && ReadNumber(text) < 0) return "0";
     if (column != kZ1 && column != kZ2) return text;
     const auto height = ParseNumber(WithoutBlanks(text));
     if (!height || *height == ToInt16(*height)) return text;

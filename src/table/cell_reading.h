@@ -7,7 +7,8 @@
 namespace idrova {
 
 /// What becomes of a text that is put into a cell of a column: a comma that is its only separator
-/// stands for the decimal point, and a height is a whole number of metres.
+/// stands for the decimal point, a height is a whole number of metres, a sum of loss coefficients
+/// is not negative.
 std::string CellText(int column, std::string_view typed);
 
 /// Whether a text is, as a whole, what the column holds: one number, or a nominal size. An empty

@@ -7,7 +7,7 @@
 
 namespace idrova {
 
-constexpr int kTableColumns = 11;
+constexpr int kTableColumns = 12;
 constexpr int kTableLines = 100;  ///< line 1 is the header
 
 namespace table_column {
@@ -22,6 +22,7 @@ constexpr int kLength = 7;
 constexpr int kFlowRate = 8;
 constexpr int kZ1 = 9;
 constexpr int kZ2 = 10;
+constexpr int kLossSum = 11;
 }  // namespace table_column
 
 struct TableColumn {
@@ -39,7 +40,8 @@ constexpr std::array<TableColumn, kTableColumns> kTableColumnList = {{{"nr.", 35
                                                                       {"length [m]", 1100},
                                                                       {"flow rate [kg/h]", 1100},
                                                                       {"z1 [m]", 750},
-                                                                      {"z2 [m]", 750}}};
+                                                                      {"z2 [m]", 750},
+                                                                      {"ΣK", 500}}};
 constexpr int kTableRowHeight = 300;  ///< screen units
 
 /// The number that the table shows beside a row: that of the row's pipe.

@@ -8,7 +8,7 @@
 
 namespace idrova {
 
-/// Puts what is `typed` into a data cell (rows 2 .. 100, columns 1 .. 10), as `CellText` has it,
+/// Puts what is `typed` into a data cell (rows 2 .. 100, columns 1 .. 11), as `CellText` has it,
 /// and its number into the field of the row; the longest leading number counts, 0 when there is
 /// none. Rows that name the same point keep one pressure: it goes to all of them. A point number
 /// leaves the pressure of the old point to the rows that still have it, and fetches that of the new

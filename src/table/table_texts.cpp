@@ -103,6 +103,8 @@ float TableRowRec::*FieldOf(int column) {
             return &TableRowRec::RowZ1;
         case kZ2:
             return &TableRowRec::RowZ2;
+        case kLossSum:
+            return &TableRowRec::RowLossSum;
         default:
             return nullptr;
     }

@@ -10,7 +10,7 @@
 
 namespace idrova {
 
-/// What the cells of the table editor show: lines 1 .. 100, columns 0 .. 10. Line r shows row r of
+/// What the cells of the table editor show: lines 1 .. 100, columns 0 .. 11. Line r shows row r of
 /// the project's table; line 1 holds the headers and column 0 the numbers of the pipes.
 class TableTexts {
   public:

@@ -10,8 +10,8 @@ namespace {
 class TableEdit : public TableScript {};
 
 TEST_F(TableEdit, CellsFillTheirFieldsInSiUnits) {
-    Do("2.1= 1;2.2=2.5bar;2.3=2.5;2.4=0;2.6=53.8;2.7=12;2.8=7200;2.9=-1.6;2.10=x");
-    const TableRowRec expected{1, 253312.5F, 2, 0, .0538F, 12, 2, -2, 0, true, true, true};
+    Do("2.1= 1;2.2=2.5bar;2.3=2.5;2.4=0;2.6=53.8;2.7=12;2.8=7200;2.9=-1.6;2.10=x;2.11=.5");
+    const TableRowRec expected{1, 253312.5F, 2, 0, .0538F, 12, 2, -2, 0, true, true, true, .5F};
     EXPECT_EQ(Row(2), expected);
     Do("4.3=3;4.8=100;4.7=7;4.8=;4.7=;5.1=x");
     EXPECT_EQ(Row(4), TableRowRec{.EndPoint = 3});
@@ -82,6 +82,7 @@ TEST_F(TableEdit, TextsThatAreNoNumbersAreFramedAndStayAsTheyAre) {
         3.7= 1.  #  1. | # 1|
         3.9=12,7 # 13| # 13|
         3.10=2.5 # 2| # 2|
+        3.11=-1.5k # 0| # 0|
         3.5=2 # 2"| # 2"|
         3.2=1.000,5 # 1.000,5|
         3.7=1,0,5 # 1,0,5|

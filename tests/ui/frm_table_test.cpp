@@ -75,7 +75,7 @@ TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     EXPECT_EQ(View().currentIndex(), Cell(3, kEndPressure));
     Keys(3, kStartPoint, "2\n");
     EXPECT_EQ(project.TableRows[3].StartPressure, 151987.5F) << "as row 2 has it";
-    Keys(2, kZ2, "\t");
+    Keys(2, kLossSum, "\t");
     EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
     Keys(2, kEndPressure, "#5\n");
     EXPECT_EQ(Text(2, kEndPressure), "5") << "F2 edits the cell";
