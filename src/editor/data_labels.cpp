@@ -91,6 +91,11 @@ class LabelPlaces {
     std::map<int, std::vector<Label>> taken_;  ///< by row of cells
 };
 
+Rgb GroundOf(const Editor& editor, bool computed) {
+    if (!computed) return drawing_colour::kKnown;
+    return editor.resultsOld ? drawing_colour::kOld : drawing_colour::kUnknown;
+}
+
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
     const ScreenPoint origin = Shown(project, editor, {0, 0});
     LabelPlaces places(project, {-origin.x, -origin.y});
@@ -103,9 +108,8 @@ void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& s
         if (const auto end = places.LeaderEnd(point, corner, text.size())) {
             surface.LeaderLine(from, Shown(project, editor, *end));
         }
-        surface.TextLabel(
-            Shown(project, editor, corner), text,
-            project.PressureUnknown[number] ? drawing_colour::kUnknown : drawing_colour::kKnown);
+        surface.TextLabel(Shown(project, editor, corner), text,
+                          GroundOf(editor, project.PressureUnknown[number]));
     }
 }
 

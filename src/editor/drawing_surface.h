@@ -23,6 +23,7 @@ constexpr Rgb kRefused{0xD0, 0, 0};
 constexpr Rgb kArrow = kPipe;
 constexpr Rgb kKnown{0xFF, 0xFF, 0xFF};
 constexpr Rgb kUnknown{0xFF, 0x80, 0x80};
+constexpr Rgb kOld{0xB8, 0xB8, 0xB8};  ///< computed, of a plant that has changed since
 }  // namespace drawing_colour
 
 /// What the plant is drawn with. Positions are screen units, 15 to a pixel at scale 1, as shown:

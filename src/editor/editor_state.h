@@ -36,6 +36,7 @@ struct Editor {
     Removal removal;            ///< what an open question would delete
     bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
     bool DataShown = false;     ///< pressures and flow directions are shown on the drawing
+    bool resultsOld = false;    ///< computed values do not belong to the plant as it is
     int ScrX = 1, ScrY = 1;     ///< column and row that the drawing shows first
 
     CellKind componentKind = CellKind::Pump;  ///< `Combo1`

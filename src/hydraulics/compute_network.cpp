@@ -62,7 +62,7 @@ void DescribeResiduals(const WorkNetwork& work, const StageResult& result, Outco
     outcome.residual = result.residual;
     for (const auto [i, pipe] : DrawnPipes(work)) {
         const PipeResidual& residual = result.pipes[i];
-        if (residual.settled) continue;
+        if (residual.settled || residual.belowVacuum) continue;
         if (outcome.worstPipe != 0 && residual.relative <= outcome.worstResidual) continue;
         outcome.worstResidual = residual.relative;
         outcome.worstPipe = i;

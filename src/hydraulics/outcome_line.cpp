@@ -9,8 +9,11 @@
 namespace idrova {
 namespace {
 
-std::string WorstPipe(const Outcome& outcome) {
-    if (outcome.worstPipe == 0) return "";
+/// What keeps a run from settling: the worst pipe, else what its first note says.
+std::string Unsettled(const Outcome& outcome) {
+    if (outcome.worstPipe == 0) {
+        return outcome.notes.empty() ? "" : ": " + outcome.notes.front().text;
+    }
     return ": pipe " + GeneralText(outcome.worstPipe) + ", " + PercentText(outcome.worstResidual);
 }
 
@@ -36,7 +39,7 @@ std::string OutcomeLine(const Outcome& outcome) {
         case RunEnd::Settled:
             return "Computed" + NoteCount(WarningCount(outcome));
         case RunEnd::Unsettled:
-            return "Not settled" + WorstPipe(outcome);
+            return "Not settled" + Unsettled(outcome);
         case RunEnd::Singular:
             return "The equations have no single solution";
         case RunEnd::NotFinite:

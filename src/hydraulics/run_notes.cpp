@@ -45,6 +45,14 @@ void NoteUnsettled(const WorkNetwork& work, const StageResult& result, Notes& no
     for (auto& [relative, note] : unsettled) notes.push_back(std::move(note));
 }
 
+/// Such a pipe keeps the run from settling, however well its law holds.
+void NoteThinGas(const WorkNetwork& work, const StageResult& result, Notes& notes) {
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!result.pipes[i].belowVacuum) continue;
+        notes.push_back(OnPipe(i, "The gas in pipe ", " would fall below a vacuum"));
+    }
+}
+
 void NoteGivenFlow(const WorkNetwork& work, int i, const PipeRec& pipe, Notes& notes) {
     if (pipe.FlowRate < 0 && !work.WorkFlowUnknown[i]) {
         notes.push_back(
@@ -57,13 +65,8 @@ void NoteGivenFlow(const WorkNetwork& work, int i, const PipeRec& pipe, Notes& n
     }
 }
 
-void NotePipes(const WorkNetwork& work, const StageResult& result, Notes& notes) {
-    for (const auto [i, pipe] : DrawnPipes(work)) {
-        NoteGivenFlow(work, i, pipe, notes);
-        if (result.pipes[i].belowVacuum) {
-            notes.push_back(OnPipe(i, "The gas in pipe ", " would fall below a vacuum"));
-        }
-    }
+void NoteGivenFlows(const WorkNetwork& work, Notes& notes) {
+    for (const auto [i, pipe] : DrawnPipes(work)) NoteGivenFlow(work, i, pipe, notes);
 }
 
 /// The narrowest pipe, if its wall is too rough for the friction formulas.
@@ -231,6 +234,16 @@ void NoteNetwork(const NetworkPlan& plan, const WorkNetwork& work, const StageRe
     if (!result.balanced) notes.push_back({"The flows do not balance at every junction"});
 }
 
+void NoteUnjoined(const NetworkPlan& plan, const WorkNetwork& work, Notes& notes) {
+    for (const Component& component : plan.components) {
+        if (component.high != 0 || !component.record.Placed) continue;
+        const bool hasPipes = component.pipeA != 0 && component.pipeB != 0;
+        notes.push_back(NoteOnCell(
+            work, component.cell, "The component",
+            hasPipes ? " does not point along its pipes" : " does not stand between two pipes"));
+    }
+}
+
 }  // namespace
 
 Note NoteOnCell(const WorkNetwork& work, int cell, const std::string& what,
@@ -251,10 +264,12 @@ std::string PercentText(double share) {
 std::vector<Note> ResultNotes(const Settings& settings, const NetworkPlan& plan,
                               const WorkNetwork& work, const StageResult& result) {
     Notes notes;
-    NoteUnsettled(work, result, notes);
     NoteNetwork(plan, work, result, notes);
+    NoteUnjoined(plan, work, notes);
+    NoteUnsettled(work, result, notes);
+    NoteThinGas(work, result, notes);
     if (result.finite) NoteVacuum(settings, plan, work, result, notes);
-    NotePipes(work, result, notes);
+    NoteGivenFlows(work, notes);
     if (result.finite) {
         NoteMach(settings, plan, work, result, notes);
         for (const Component& component : plan.components) {

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "base/number_text.h"
+#include "hydraulics/fluid_density.h"
 #include "hydraulics/solution_check.h"
 
 namespace idrova {
@@ -12,6 +13,7 @@ namespace {
 
 constexpr double kSameHead = 1e-5;        ///< relative
 constexpr double kNegligibleFlow = 1e-8;  ///< of the largest
+constexpr double kAtRest = 1e3;           ///< of what rounding moves: all that flows is rounding
 
 double RelativeDifference(double start, double end) {
     if (start != 0) return std::abs(end - start) / std::abs(start);
@@ -19,18 +21,29 @@ double RelativeDifference(double start, double end) {
     return 0;
 }
 
+/// The largest flow that counts as none. Where nothing flows, that is what the rounding of the
+/// heads moves; where something does, even a little of it may be all that a pipe has to carry.
+double NegligibleFlow(const WorkNetwork& work, const FlowScale& scale) {
+    bool isAtRest = scale.largest <= kAtRest * scale.rounding;
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        if (!work.WorkFlowUnknown[i] && pipe.FlowRate != 0) isAtRest = false;
+    }
+    return kNegligibleFlow * scale.largest + (isAtRest ? scale.rounding : 0);
+}
+
 }  // namespace
 
 void CleanUpZeroFlows(const Settings& settings, const NetworkPlan& plan, const WorkNetwork& work,
                       StageResult& result) {
-    const FlowScale scale = FlowScaleOf(settings, plan, work, result.solution);
-    const double negligible = kNegligibleFlow * scale.largest + scale.rounding;
-    const double weight = settings.FluidDensity * kGravity;
+    const double negligible =
+        NegligibleFlow(work, FlowScaleOf(settings, plan, work, result.solution));
     for (const auto [i, pipe] : DrawnPipes(work)) {
         if (!work.WorkFlowUnknown[i]) continue;
-        const double start = result.Pressure(plan, pipe.StartPoint) + weight * pipe.Z1;
-        const double end = result.Pressure(plan, pipe.EndPoint) + weight * pipe.Z2;
-        if (RelativeDifference(start, end) >= kSameHead) continue;
+        const double start = result.Pressure(plan, pipe.StartPoint);
+        const double end = result.Pressure(plan, pipe.EndPoint);
+        const double weight = DensityAt(settings, start, end).value * kGravity;
+        if (RelativeDifference(start + weight * pipe.Z1, end + weight * pipe.Z2) >= kSameHead)
+            continue;
         if (std::abs(result.Flow(plan, i)) > negligible) continue;
         result.SetFlow(plan, i, 0);
     }

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "hydraulics/closing_stage.h"
+#include "hydraulics/loose_part.h"
 #include "hydraulics/solution_check.h"
 #include "hydraulics/unique_solution.h"
 
@@ -41,7 +42,8 @@ StageResult SolveNetwork(const Settings& settings, const NetworkPlan& plan, cons
                          const FlowGuesses& start, const PassReport& report) {
     FirstStage first = RunFirstStage(settings, plan, work, start, report);
     StageResult result;
-    const bool unique = HasUniqueSolution(settings, plan, work);
+    const bool unique =
+        PipeWithoutGivenPressure(plan, work) == 0 && HasUniqueSolution(settings, plan, work);
     int passes = 0;
     bool stopped = first.stopped;
     bool closed = false;

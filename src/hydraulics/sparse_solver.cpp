@@ -58,6 +58,8 @@ void SparseSolver::Order(const LinearSystem& system) {
     std::vector<std::pair<int, int>> taken = places;
     std::ranges::sort(taken);
     taken.erase(std::unique(taken.begin(), taken.end()), taken.end());
+    row_.clear();
+    place_.clear();
     columnStart_.assign(static_cast<std::size_t>(n_) + 1, 0);
     for (const auto& [column, row] : taken) {
         row_.push_back(row);

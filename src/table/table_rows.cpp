@@ -85,6 +85,7 @@ void DeleteRows(Project& project, TableTexts& texts, int firstRow, int lastRow) 
 
 std::string RowsText(const std::vector<int>& rows) {
     std::vector<int> shown;
+    shown.reserve(rows.size());
     for (const int row : rows) shown.push_back(ShownRow(row));
     return (rows.size() == 1 ? "Row " : "Rows ") + RangesText(shown);
 }

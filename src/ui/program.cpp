@@ -15,6 +15,11 @@ bool ResultsAreOld(const Program& program) {
     return record != nullptr && record->inputs != InputsOf(program.project);
 }
 
+bool ShowsOldResults(const Program& program) {
+    const RunRecord* record = RecordOf(program);
+    return record != nullptr && (!record->results || ResultsAreOld(program));
+}
+
 void RereadComponents(Program& program) {
     LoadComponentDatabases(program.components, program.folder, program.boxes);
     RefreshComponentChoice(program.editor, program.components);

@@ -66,6 +66,10 @@ const RunRecord* RecordOf(const Program& program);
 /// True when the working mode has been computed, and what it was computed from has changed since.
 bool ResultsAreOld(const Program& program);
 
+/// True when computed values that the project shows are not of a run of the plant as it is: it has
+/// changed since, or the last run found none.
+bool ShowsOldResults(const Program& program);
+
 /// Reads the pump and loss databases again, and finds the chosen component in them.
 void RereadComponents(Program& program);
 

@@ -187,6 +187,9 @@ const struct {
        " out, counts",
        NoteOn::Pipe, 1}}},
     {[](auto& n) { BlowAir(n, 0.4F); }, {}},
+    {[](auto& n) { BlowAir(n, -4), n.SetPressure(1, 0), n->PressureUnknown[2] = true; },
+     {{"The gas in pipe 1 would fall below a vacuum", NoteOn::Pipe, 1},
+      {"Pipe 1 has a negative flow given, which was taken as positive", NoteOn::Pipe, 1}}},
     {FlowSlowly,
      {{"The flow in pipe 1, and in 1 more, is laminar (Re below 2300): the friction formula gives"
        " up to 9 % more than the laminar law",

@@ -104,6 +104,18 @@ TEST(ZeroFlows, AreCleanedUpByHeadAndFlow) {
     }
 }
 
+/// In the short wide pipe the rounding of the heads would move more than the thin ones take.
+TEST(ZeroFlows, LeaveTheLittleThatIsGiven) {
+    NetworkBuilder network(4);
+    network.AddPipe(1, 2, 1, .1F);
+    network.AddPipe(2, 3, 1, .05F);
+    network.AddPipe(3, 4, 1, .05F);
+    network.SetPressure(1, 1e6F);
+    network.SetFlow(3, 1e-4F);
+    const NetworkRun run(network);
+    for (int i = 1; i <= 3; ++i) EXPECT_NEAR(run.Flow(i), 1e-4, 1e-9);
+}
+
 /// Three pipes round and a branch to them.
 NetworkBuilder Loop() {
     NetworkBuilder network(4);

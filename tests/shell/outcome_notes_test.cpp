@@ -22,6 +22,7 @@ TEST(OutcomeNotes, WordsAndGroundTellWhetherToTrust) {
         {{.end = RunEnd::Settled, .notes = both}, "Computed, 2 notes", "", Noted},
         {{.end = RunEnd::Unsettled, .worstResidual = .03, .worstPipe = 12, .notes = {note}}, "Not settled: pipe 12, 3 %", "", Faulty},
         {{.end = RunEnd::Unsettled, .worstResidual = 4e-4, .worstPipe = 1}, "Not settled: pipe 1, 0.04 %", "", Faulty},
+        {{.end = RunEnd::Unsettled, .notes = {note}}, "Not settled: Mind the step", "", Faulty},
         {{.end = RunEnd::Singular}, "The equations have no single solution", "", Faulty},
         {{.end = RunEnd::Refused}, "Not computed", "", Faulty},
         {{.end = RunEnd::Empty}, "Nothing to compute", "", Plain}};

@@ -108,6 +108,7 @@ QString FrmCel::TipOf(int place) const {
         if (pipe <= results.WorkPipeCount && computed.IsDrawn()) {
             const double speed = FiguresOf(computed, results, run->second.settings).speed;
             text += "\n" + HoverFlow(computed.FlowRate, speed);
+            if (program_.editor.resultsOld) text += " (changed since the computation)";
         }
     }
     return ToQt(text);

@@ -142,6 +142,9 @@ void MDI::OpenModeWindow() {
 
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
+    if (settings.Mode == WorkMode::Graphic) {
+        program_.editor.resultsOld = ShowsOldResults(program_);
+    }
     menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);
     toolBar_->setVisible(program_.shell.ToolBarShown);

@@ -122,7 +122,7 @@ void FrmCom::ShowState() {
     if (!isEdited_) context_.panel = ShowPipeData(program_.project);
     const RunRecord* record = RecordOf(program_);
     context_.sizing = record == nullptr ? SizingTexts() : SizingOf(*record, context_.panel.pipe);
-    context_.resultsOld = ResultsAreOld(program_);
+    context_.resultsOld = ShowsOldResults(program_);
     ShowFrames();
     componentsFrame_->Show();
     ShowEnabling();

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "shell/outcome_notes.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
 #include "ui/kit/qt_text.h"
@@ -97,6 +98,12 @@ void FrmRis::ShowTables() {
 void FrmRis::ShowReport() {
     const QString report = ToQt(program_.report).remove('\r');
     if (report != report_->toPlainText()) report_->setPlainText(report);
+    QPalette shown = palette();
+    if (ShowsOldResults(program_)) {
+        shown.setColor(QPalette::Text,
+                       OldResultColour(shown.color(QPalette::Text), shown.color(QPalette::Base)));
+    }
+    report_->setPalette(shown);
 }
 
 void FrmRis::ShowSelection() {
