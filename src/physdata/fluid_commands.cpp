@@ -46,7 +46,7 @@ int MeantFluid(const FluidDb& db, const FluidFields& fields, const FluidFields& 
 }
 
 bool UseFluid(Project& project, int selected, const FluidFields& fields, MessageBoxes& boxes) {
-    if (ValuesOf(fields) == FluidFields{}) {
+    if (fields.density.empty() && fields.viscosity.empty()) {
         boxes.Show(kNoFluidToUse);
         return false;
     }

@@ -43,7 +43,7 @@ void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxe
     }
 }
 
-std::string FastLengthText(std::string_view text) {
+std::string FastSizeText(std::string_view text) {
     return ReadNumber(text) < 0 ? "0" : std::string(text);
 }
 

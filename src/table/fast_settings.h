@@ -19,7 +19,8 @@ void SetAllLengths(Project& project, std::string_view text, MessageBoxes& boxes)
 /// `text` in mm; the outside size stays.
 void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxes);
 
-/// What the length field shows once `text` was typed: "0" in the place of a negative number.
-std::string FastLengthText(std::string_view text);
+/// What the length or diameter field shows once `text` was typed: "0" in the place of a negative
+/// number.
+std::string FastSizeText(std::string_view text);
 
 }  // namespace idrova

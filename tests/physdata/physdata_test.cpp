@@ -26,7 +26,7 @@ TEST(Fluids, UseTakesTheTypedValues) {
     Settings& settings = project->settings;
     ScriptedBoxes boxes;
     boxes.Expect(kNoFluidToUse);
-    EXPECT_FALSE(UseFluid(*project, 0, {"Sand", "", "", "", "", ""}, boxes));
+    EXPECT_FALSE(UseFluid(*project, 0, {"Sand", "", "", "", "", ".6"}, boxes));
     EXPECT_EQ(settings.FluidName, "");
     UseFluid(*project, 7, {"Water", "1500 kg", "1500", "z", "", ""}, boxes);
     project->numtubo = 1;  // a slot whose pipe was deleted

@@ -185,13 +185,17 @@ TEST_F(FileCommands, WhatIsLeftUnsavedIsKept) {
     const auto again = NewTestProject();
     EXPECT_TRUE(ReadProjectText(FileBytes(copy), *again));
     EXPECT_EQ(again->numtubo, 4);
+    project->FlowUnknown[1] = true;
     ASSERT_TRUE(Confirm(FilePurpose::Save, "plant").done);
-    EXPECT_EQ(UnsavedText(*project), std::nullopt) << "its own file holds the same";
+    project->Pipes[1].FlowRate += 1;
+    EXPECT_EQ(UnsavedText(*project), std::nullopt) << "its own file holds all that was typed";
     project->Pipes[1].Length += 1;
     const auto second = UnsavedText(*project);
     for (int times = 0; times < 2; ++times) EXPECT_NE(*KeepUnsaved(second, folder.Path()), "");
     EXPECT_EQ(FileBytes(copy), second);
     EXPECT_EQ(FileBytes(copy.string() + "~"), first) << "the same again leaves the one before";
+    EXPECT_TRUE(IsUnsavedCopy(copy.string() + "~", folder.Path()));
+    EXPECT_FALSE(IsUnsavedCopy(project->ProjectName, folder.Path()));
 }
 
 }  // namespace

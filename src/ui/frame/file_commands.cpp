@@ -67,7 +67,9 @@ void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folde
     TakeNetwork(mdi, change.network);
     program.offered.reset();
     if (change.network == NetworkChange::Emptied) return;
-    mdi.Recent().Add(program.project.ProjectName);
+    if (!IsUnsavedCopy(program.project.ProjectName, program.folder)) {
+        mdi.Recent().Add(program.project.ProjectName);
+    }
     program.offered = ReadSettingsOf(program.project.ProjectName);
     if (SettingsOffer(program.offered, program.project.settings).empty()) program.offered.reset();
 }
@@ -110,6 +112,9 @@ void ShowFileWindow(MDI& mdi, FilePurpose purpose) {
 
 void Save(MDI& mdi) {
     Program& program = mdi.State();
+    if (IsUnsavedCopy(program.project.ProjectName, program.folder)) {
+        return ShowFileWindow(mdi, FilePurpose::Save);  // the next copy would take its place
+    }
     const auto saved = SaveToOwnFile(program.project, program.boxes);
     if (!saved) ShowFileWindow(mdi, FilePurpose::Save);
     if (saved == SaveOutcome::Saved) FinishSaving(mdi);

@@ -132,6 +132,7 @@ void FrmSin::SetTabOrder() {
                                            Of(PipeQuantity::FlowRate).box,
                                            sizes_,
                                            Of(PipeQuantity::Diameter).box,
+                                           lossSum_,
                                            Of(PipeQuantity::FlowRate).unknown,
                                            turnButton_};
     for (std::size_t i = 1; i < order.size(); ++i) setTabOrder(order[i - 1], order[i]);

@@ -17,6 +17,16 @@
 
 namespace idrova {
 
+namespace {
+
+void Tidy(QLineEdit& box) {
+    const QString text = ToQt(FastSizeText(FromQt(box.text())));
+    // The same text put again would take the cursor to its end and forget what can be undone.
+    if (text != box.text()) box.setText(text);
+}
+
+}  // namespace
+
 FrmVel::FrmVel(Program& program)
     : ChildWindow("FrmVel", "Idrova - fast data"),
       program_(program),
@@ -28,7 +38,9 @@ FrmVel::FrmVel(Program& program)
     column->addLayout(Rows());
     column->addStretch(1);
     OnChosen(*sizes_, [this](int position) { ChooseSize(position); });
-    connect(length_, &QLineEdit::textChanged, this, [this] { TidyLength(); });
+    for (QLineEdit* box : {length_, diameter_}) {
+        connect(box, &QLineEdit::textChanged, this, [box] { Tidy(*box); });
+    }
     setFocusProxy(flow_);
 }
 
@@ -68,12 +80,6 @@ void FrmVel::SetDiameters() {
 
 void FrmVel::ChooseSize(int position) {
     diameter_->setText(ToQt(InnerDiameterText(position + 1)));
-}
-
-void FrmVel::TidyLength() {
-    const QString text = ToQt(FastLengthText(FromQt(length_->text())));
-    // The same text put again would take the cursor to its end and forget what can be undone.
-    if (text != length_->text()) length_->setText(text);
 }
 
 }  // namespace idrova

@@ -29,7 +29,6 @@ class FrmVel : public ChildWindow {
     void SetLengths();
     void SetDiameters();
     void ChooseSize(int position);
-    void TidyLength();
 
     Program& program_;
     QLineEdit* flow_;
