@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The real windows: what a user waits for after a click or a key, repaint included.
 #include <benchmark/benchmark.h>
-
 #include <malloc.h>
 
 #include <QAction>
