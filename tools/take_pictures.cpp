@@ -113,7 +113,8 @@ class Studio {
     }
 
     void Click(int column, int row, MouseButton button = MouseButton::Left) {
-        Find<PlantView>("Drawing").press(CellAt(column, row, program_->project.GridSize), button);
+        Find<PlantView>("Drawing").press(CellAt(column, row, program_->project.GridSize), button,
+                                         false);
     }
 
     /// The right click on an empty cell gives the panel its frames back.
@@ -237,7 +238,8 @@ void TakeTable(const fs::path& data, const fs::path& output) {
     studio.Choose("Tabella");
     studio.OpenSample("irrigation-table.iv");
     studio.Compute();
-    studio.SaveWindow("FrmTable", "table.png", QSize(660, 330));
+    studio.SaveWindow("FrmTable", "table.png", QSize(1040, 330));
+    studio.Choose("Grafico");
     studio.Choose("Veloce");
     ChildWindow& fast = studio.Window("FrmVel");
     studio.Find<QLineEdit>("Text2", &fast).setText("25");

@@ -165,7 +165,7 @@ std::string FormatDecimal(Number value, std::string_view pattern) {
 
 std::string PlainForm(double value, std::chars_format form, int precision) {
     if (!std::isfinite(value)) return "";
-    std::array<char, 400> buffer;  // holds the largest double with its decimals
+    std::array<char, 400> buffer{};  // holds the largest double with its decimals
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, form, precision);
     std::string text(buffer.data(), end.ptr);
