@@ -44,6 +44,7 @@ std::string_view ValueName(const Plan::Pipe& before, const Plan::Pipe& after) {
     if (was.FlowRate != is.FlowRate) return "flow rate";
     if (was.Length != is.Length) return "length";
     if (was.Diameter != is.Diameter || was.OuterSize != is.OuterSize) return "diameter";
+    if (was.LossSum != is.LossSum) return "fittings";
     return "heights";
 }
 
@@ -51,6 +52,7 @@ std::string ValuesName(const EditStep& step) {
     if (step.pipes.empty() && step.points.empty()) return "change";
     if (step.pipes.empty()) return "pressure of P" + GeneralText(step.points.front().number);
     const Change<Plan::Pipe>& first = step.pipes.front();
+    if (!first.before || !first.after) return "change";  // a slot without a pipe came or went
     const std::string value(ValueName(*first.before, *first.after));
     if (step.pipes.size() == 1) return value + " of pipe " + GeneralText(first.number);
     return value + " of " + GeneralText(static_cast<int>(step.pipes.size())) + " pipes";
@@ -80,7 +82,10 @@ std::string StepName(const EditStep& step) {
 
 bool IsTyping(const EditStep& step) {
     const bool values = step.components.empty() && step.nodes.empty() && !IsPipeInserted(step);
-    return values && !IsPipeDeleted(step) && step.pipes.size() + step.points.size() == 1;
+    // A slot without a pipe may come and go, too.
+    const bool lasts = std::ranges::all_of(
+        step.pipes, [](const auto& change) { return change.before && change.after; });
+    return values && lasts && !IsPipeDeleted(step) && step.pipes.size() + step.points.size() == 1;
 }
 
 }  // namespace idrova

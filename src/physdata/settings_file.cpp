@@ -200,7 +200,7 @@ std::string SettingsDifference(const StoredSettings& stored, const Settings& set
     const auto add = [&words](bool differs, const std::string& what) {
         if (differs) words += (words.empty() ? "" : ", ") + what;
     };
-    add(!SameFluid(other, settings), "fluid " + FluidWords(other));
+    add(!SameFluid(settings, other), "fluid " + FluidWords(other));
     add(other.Roughness != settings.Roughness,
         "roughness " + GeneralText(other.Roughness * kMillimetresPerMetre) + " mm");
     add(other.SectionType != settings.SectionType,

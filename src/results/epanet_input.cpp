@@ -163,7 +163,10 @@ class EpanetWriter {
             if (!here || NodeOf(component.high) == NodeOf(component.low)) continue;
             const PipeRec& pipe = work_.WorkPipes[PipeAt(component, point)];
             const bool starts = pipe.StartPoint == point;
-            const auto towards = [](int from, int to) { return (to > from) - (to < from); };
+            const auto towards = [](int from, int to) {
+                if (from == to) return 0;
+                return to > from ? 1 : -1;
+            };
             column += kPumpReach * kCellUnits *
                       (starts ? towards(pipe.X1, pipe.X2) : towards(pipe.X2, pipe.X1));
             row -= kPumpReach * kCellUnits *
