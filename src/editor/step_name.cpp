@@ -75,7 +75,7 @@ bool IsPipeDeleted(const EditStep& step) {
 std::string StepName(const EditStep& step) {
     const bool inserted = IsPipeInserted(step);
     if (IsPipeDeleted(step) && !inserted) return "delete pipe";
-    const std::string component = ComponentName(step);
+    std::string component = ComponentName(step);
     if (!component.empty()) return component;
     return inserted ? "insert pipe" : ValuesName(step);
 }
