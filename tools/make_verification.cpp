@@ -96,9 +96,12 @@ std::string Document() {
                     "| --- | --- | --- | --- | --- |\n";
         }
         const std::string unit = *c.unit == '\0' ? "" : std::string(" ") + c.unit;
-        text += std::string("| ") + c.plant + " | " + c.source + " | " + Number(c.expected) + unit +
-                " | " + Number(c.computed) + unit + " | " +
-                Percent((c.computed - c.expected) / c.expected) + " |\n";
+        for (const std::string& column :
+             {std::string(c.plant), std::string(c.source), Number(c.expected) + unit,
+              Number(c.computed) + unit, Percent((c.computed - c.expected) / c.expected)}) {
+            text.append("| ").append(column).append(" ");
+        }
+        text += "|\n";
     }
     return text;
 }

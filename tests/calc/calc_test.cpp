@@ -22,7 +22,6 @@ namespace idrova {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ContainsRegex;
 using testing::HasSubstr;
 using testing::StartsWith;
 using Json = nlohmann::json;

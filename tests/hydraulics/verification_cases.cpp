@@ -124,9 +124,7 @@ constexpr const char* kGas = "Gases and ducts";
 constexpr const char* kWhite = "White, Fluid Mechanics, smooth walls, Prandtl's formula";
 constexpr const char* kKarman = "von Kármán 1930, 1/√λ = 1.14 − 2 log10(ε/D)";
 
-}  // namespace
-
-std::vector<VerificationCase> VerificationCases() {
+std::vector<VerificationCase> FrictionCases() {
     return {
         {kFriction, "λ = 4f, smooth, Re 10^4", kWhite, "", 0.0309, 4 * Fanning(1e4, 0), 0.01},
         {kFriction, "λ = 4f, smooth, Re 10^5", kWhite, "", 0.0180, 4 * Fanning(1e5, 0), 0.005},
@@ -149,7 +147,11 @@ std::vector<VerificationCase> VerificationCases() {
          1e-5},
         {kFriction, "f, ε/D 0.001, Re 10^5", "`fanning(1e5, .001)`", "", 0.0055447723,
          Fanning(1e5, 1e-3), 1e-5},
+    };
+}
 
+std::vector<VerificationCase> PipeCases() {
+    return {
         {kPipes,
          "oil of 900 kg/m³ and 10⁻⁵ m²/s, 0.2 m³/s through 500 m of 200 mm, ε 0.26 mm: head loss",
          "White, Fluid Mechanics, worked example", "m", 117,
@@ -173,7 +175,11 @@ std::vector<VerificationCase> VerificationCases() {
         {kPipes, "1 Pa·s, 100 m of 50 mm, 10⁵ Pa: below Re 50",
          "`flow(lambda w: 1e5 - drop(w, 100, .05, mu=1))`", "kg/s", 0.345431867,
          Flow(With(1000, 1, 1e-4, Line({{100, 0.05F}}, 1e5F)))},
+    };
+}
 
+std::vector<VerificationCase> NetworkCases() {
+    return {
         {kNetworks, "water, 100 m of 100 mm and 50 m of 80 mm, 10⁵ Pa",
          "`flow(lambda w: 1e5 - drop(w, 100, .1) - drop(w, 50, .08))`", "kg/s", 15.072291,
          Flow(Line({{100, 0.1F}, {50, 0.08F}}, 1e5F))},
@@ -195,7 +201,11 @@ std::vector<VerificationCase> VerificationCases() {
          ".05))(flow(loop)) - "
          "drop(4, 10, .05)`",
          "Pa", 452856.866, Pressure(Loop(), 6), 2e-6},
+    };
+}
 
+std::vector<VerificationCase> PumpCases() {
+    return {
         {kPumps, "−20 w² + 10⁵ Pa, without its constant",
          "`flow(lambda w: 1e5 - 20 * w * w - drop(w, 300, .1) - drop(w, 150, .08))`", "kg/s",
          8.4838888, Flow(CutPipe({300, 0.1F}, kPump, {-20, 1e5F, 0}, {150, 0.08F}, 0))},
@@ -208,7 +218,11 @@ std::vector<VerificationCase> VerificationCases() {
         {kPumps, "−200 w² + 5·10⁴ Pa pushed back by 10⁵ Pa",
          "`-flow(lambda w: 5e4 - 2 * drop(w, 10, .0538))`", "kg/s", -7.61114887,
          Flow(CutPipe({10, 0.0538F}, kPump, {-200, 5e4F, 0}, {10, 0.0538F}, 1e5F, 2e5F))},
+    };
+}
 
+std::vector<VerificationCase> LossCases() {
+    return {
         {kLosses, "K = 0.5 between two pipes of 10 m of 53.8 mm, 10⁵ Pa",
          "`flow(lambda w: 1e5 - drop(w, 10, .0538, .5) - drop(w, 10, .0538))`", "kg/s", 10.5310835,
          Flow(CutPipe({10, 0.0538F}, kLoss, {0.5F}, {10, 0.0538F}, 1e5F))},
@@ -231,7 +245,11 @@ std::vector<VerificationCase> VerificationCases() {
          Flow(Line({{100, 0.1F, 3}}, 1e5F))},
         {kLosses, "fittings of a pipe, ΣK = 3, 8 kg/s: drop", "`drop(8, 100, .1, 3)`", "Pa",
          13042.7399, -Pressure(Given(Line({{100, 0.1F, 3}}, 0), 8), 2), 1e-5},
+    };
+}
 
+std::vector<VerificationCase> GasCases() {
+    return {
         {kGas, "air of 20 °C, 500 m of 50 mm, 6 to 1 bar (10⁵ Pa)",
          "`flow(lambda w: 701325 ** 2 - 201325 ** 2 - 2 * G * 1.2929 * drop(w, 500, .05, **air))`",
          "kg/s", 0.297512599, Flow(Air(Line({{500, 0.05F}}, 6e5F, 1e5F)))},
@@ -245,6 +263,17 @@ std::vector<VerificationCase> VerificationCases() {
          "`flow(lambda w: 1e4 - drop(w, 100, 1.3 * (.2 * .1) ** .625 / .3 ** .25))`", "kg/s",
          22.6859554, Flow(Duct(Line({{100, 0.2F}}, 1e4F)))},
     };
+}
+
+}  // namespace
+
+std::vector<VerificationCase> VerificationCases() {
+    std::vector<VerificationCase> all;
+    for (const auto& group :
+         {FrictionCases(), PipeCases(), NetworkCases(), PumpCases(), LossCases(), GasCases()}) {
+        all.insert(all.end(), group.begin(), group.end());
+    }
+    return all;
 }
 
 }  // namespace idrova

@@ -226,7 +226,7 @@ TEST(Exports, EpanetInputOfWhatIsUnusual) {
     RunRecord run = Plant();
     const auto section = [&run](const std::string& name) {
         const std::string text = *EpanetInput(run, "", "");
-        const std::size_t from = text.find("\n", text.find("[" + name + "]\n;") + name.size() + 3);
+        const std::size_t from = text.find('\n', text.find("[" + name + "]\n;") + name.size() + 3);
         return text.substr(from, text.find("\n\n", from) - from);
     };
     WorkNetwork& work = *run.results;

@@ -13,8 +13,8 @@ TEST(OutcomeNotes, WordsAndGroundTellWhetherToTrust) {
     const std::vector<Note> both{note, note};
     const struct {
         Outcome outcome;
-        const char *text, *effort;
-        OutcomeGround ground;
+        const char *text = "", *effort = "";
+        OutcomeGround ground = Plain;
     } cases[] = {
         // clang-format off
         {{.end = RunEnd::Settled, .passes = {12, 3}, .notes = {remark}, .seconds = .00144}, "Computed", "12 + 3 passes, 1.4 ms", Plain},

@@ -22,7 +22,7 @@ inline NetworkBuilder CutPipe(CellKind kind, float length = 100, float diameter 
 }
 
 struct PipeSize {
-    float length, diameter, lossSum = 0;
+    float length = 0, diameter = 0, lossSum = 0;
 };
 
 /// Two pipes with a component of the two or three numbers between them, between two pressures.

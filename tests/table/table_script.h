@@ -71,7 +71,7 @@ class TableScript : public testing::Test {
         EXPECT_EQ(InsertRows(*project, texts, row, count), count < 9) << "more do not fit";
     }
     void DoStep(const std::string& step) {
-        static const std::regex form("(\\d*)\\.?(\\d*)(-?)(\\d*)\\.?(\\d*)(.)(.*)");
+        static const std::regex form(R"((\d*)\.?(\d*)(-?)(\d*)\.?(\d*)(.)(.*))");
         std::smatch part;
         ASSERT_TRUE(std::regex_match(step, part, form)) << step;
         const auto n = [&part](int i) { return static_cast<int>(ReadNumber(part.str(i))); };

@@ -14,7 +14,7 @@ namespace {
 constexpr int kIconSide = 16;  ///< low, so that the command panel need not scroll
 
 struct Tool {
-    const char* item;  ///< of the menu; none for a separator
+    const char* item = nullptr;  ///< of the menu; none for a separator
     const char* themeIcon = "";
     const char* strokes = "";
 };
@@ -24,15 +24,15 @@ constexpr Tool kBefore[] = {
     {"Apri", "document-open", "3,19 3,6 9,6 11,8 20,8 20,10;3,19 6,10 22,10 19,19 3,19"},
     {"Salva", "document-save",
      "4,4 17,4 20,7 20,20 4,20 4,4;8,4 8,9 15,9 15,4;7,20 7,13 17,13 17,20"},
-    {nullptr},
+    {},
     {"Annulla", "edit-undo", "9,5 4,10 9,15;4,10 15,10 19,13 19,16 16,19 10,19"},
     {"Ripeti", "edit-redo", "15,5 20,10 15,15;20,10 9,10 5,13 5,16 8,19 14,19"},
-    {nullptr},
+    {},
 };
 constexpr Tool kCompute = {"Calcola", "system-run", "7,4 19,12 7,20 7,4"};
 constexpr Tool kAfter[] = {
     {"Risultati", "x-office-spreadsheet", "4,4 20,4 20,20 4,20 4,4;4,9 20,9;4,14 20,14;10,4 10,20"},
-    {nullptr},
+    {},
     {"ZoomIn", "zoom-in",
      "10,4 14,6 16,10 14,14 10,16 6,14 4,10 6,6 10,4;14,14 20,20;10,7 10,13;7,10 13,10"},
     {"ZoomOut", "zoom-out",

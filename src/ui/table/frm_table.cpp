@@ -28,7 +28,7 @@ FrmTable::FrmTable(Program& program)
     setFocusProxy(TxtTab);
     connect(TxtTab->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex& now) { LineChosen(now.row()); });
-    ShowState();
+    FrmTable::ShowState();
 }
 
 void FrmTable::ShowState() {

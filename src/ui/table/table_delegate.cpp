@@ -111,11 +111,10 @@ void TableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
 
 bool TableDelegate::eventFilter(QObject* editor, QEvent* event) {
     const auto* key = dynamic_cast<QKeyEvent*>(event);
+    if (key == nullptr) return QStyledItemDelegate::eventFilter(editor, event);
     // The view takes the edit at once; here it would be taken later, from an editor that is gone.
-    if (key != nullptr && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter)) {
-        return false;
-    }
-    if (event->type() == QEvent::KeyPress && key != nullptr && key->text() == "," &&
+    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) return false;
+    if (event->type() == QEvent::KeyPress && key->text() == "," &&
         qobject_cast<QLineEdit*>(editor) != nullptr) {
         QKeyEvent period(QEvent::KeyPress, Qt::Key_Period, key->modifiers(), ".");
         QCoreApplication::sendEvent(editor, &period);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -14,13 +15,18 @@ namespace idrova {
 
 namespace {
 
+bool IsNoNumber(const ResultCell& cell) {
+    const auto* value = std::get_if<double>(&cell);
+    return value != nullptr && std::isnan(*value);
+}
+
 /// Equal as shown: two numbers that are none are equal.
 bool LookAlike(const ResultTable& one, const ResultTable& other) {
     const auto sameColumn = [](const ResultColumn& a, const ResultColumn& b) {
         return a.key == b.key;
     };
     const auto sameCell = [](const ResultCell& a, const ResultCell& b) {
-        return a == b || (a != a && b != b);
+        return a == b || (IsNoNumber(a) && IsNoNumber(b));
     };
     const auto sameRow = [&](const ResultRow& a, const ResultRow& b) {
         return a.number == b.number && std::ranges::equal(a.cells, b.cells, sameCell);
@@ -33,7 +39,7 @@ bool LookAlike(const ResultTable& one, const ResultTable& other) {
 QVariant SortValue(const ResultCell& cell) {
     if (const auto* text = std::get_if<std::string>(&cell)) return ToQt(*text);
     const double value = std::get<double>(cell);
-    return value == value ? value : -std::numeric_limits<double>::infinity();
+    return std::isnan(value) ? -std::numeric_limits<double>::infinity() : value;
 }
 
 }  // namespace
