@@ -69,7 +69,7 @@ class SampleDrawing {
 
     /// The flow of the last pipe drawn, kg/h.
     void KnownFlow(std::string_view kgPerHour) {
-        PipePanel panel = ShowPipeData(*project_);
+        PipePanel panel = ShowPipeData(*project_, editor_);
         ChooseFlow(*project_, panel, true);
         TypeKgPerHour(*project_, panel, kgPerHour);
     }

@@ -20,35 +20,38 @@ void LeftClick(Project& project, Editor& editor, int cell, bool goOn, MessageBox
     }
 }
 
-void RightClick(Project& project, Editor& editor, int cell) {
+void RightClick(Project& project, Editor& editor, int cell, bool add) {
     editor.framesEnabled = true;
-    if (editor.state == InsertState::FirstPoint) {
-        SelectCell(project, editor, cell);
-    } else {
-        AbortInsertion(editor);
-        editor.selectedIn = 0;
-    }
+    if (editor.state == InsertState::FirstPoint && !add) return SelectCell(project, editor, cell);
+    if (editor.state == InsertState::FirstPoint) ExtendSelection(project, editor, cell);
+    AbortInsertion(editor);
+    editor.selectedIn = 0;
 }
 
 }  // namespace
 
 void CellClick(Project& project, Editor& editor, int place, MouseButton button, MessageBoxes& boxes,
-               bool goOn) {
+               HeldKey held) {
     const int cell = CellShownAt(project, editor, place);
     if (cell == 0) return;
     editor.DataShown = false;
     if (button == MouseButton::Left) {
-        LeftClick(project, editor, cell, goOn, boxes);
+        LeftClick(project, editor, cell, held == HeldKey::Shift, boxes);
     } else {
-        RightClick(project, editor, cell);
+        RightClick(project, editor, cell, held == HeldKey::Ctrl);
     }
 }
 
-void AbortByKey(Editor& editor) {
-    if (editor.state == InsertState::FirstPoint) return;
+bool AbortByKey(Editor& editor) {
+    if (editor.state == InsertState::FirstPoint) {
+        const bool several = !editor.alsoSelected.empty();
+        editor.alsoSelected.clear();
+        return several;
+    }
     AbortInsertion(editor);
     editor.DataShown = false;
     editor.framesEnabled = true;
+    return true;
 }
 
 }  // namespace idrova

@@ -8,6 +8,7 @@
 
 #include "editor/messages.h"
 #include "editor/pipe_ends.h"
+#include "editor/selection.h"
 
 namespace idrova {
 namespace {
@@ -69,7 +70,7 @@ void DeleteSelected(Project& project, Editor& editor, MessageBoxes& boxes,
     const int pipe = project.CurrentPipe;
     if (pipe != 0 && agreed({pipe, ComponentsAtEnds(project, pipe)}, AskDeletePipe(pipe))) {
         DeletePipe(project, pipe);
-        project.CurrentPipe = 0;
+        Deselect(project, editor, pipe);
         if (!project.Cells[editor.selectedComponent].Placed) editor.selectedComponent = 0;
     }
     const int cell = editor.selectedComponent;

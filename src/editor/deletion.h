@@ -9,7 +9,8 @@
 
 namespace idrova {
 
-/// Deletes the current pipe, then the selected component, each after its question. `showRemoval` is
+/// Deletes the current pipe, then the selected component, each after its question; other selected
+/// pipes stay and stay selected. `showRemoval` is
 /// called before a question, with all whole, so that the drawing can show what it is about
 /// (`Editor::removal`). A component at the end of a deleted pipe loses the pipe it stands in and
 /// goes too.

@@ -83,6 +83,7 @@ void Put(const EditStep& step, const Side& side, Project& project) {
 
 void Select(const Plan::Selection& selection, Project& project, Editor& editor) {
     project.CurrentPipe = selection.pipe;
+    editor.alsoSelected = selection.others;
     editor.selectedComponent = selection.component;
     editor.selectedIn = 0;
 }
@@ -107,7 +108,7 @@ Plan PlanOf(const Project& project, const Editor& editor) {
         plan.components.emplace_back(cell, project.Cells[cell]);
         plan.components.back().second.Result = 0;
     }
-    plan.selection = {project.CurrentPipe, editor.selectedComponent};
+    plan.selection = {project.CurrentPipe, editor.alsoSelected, editor.selectedComponent};
     return plan;
 }
 

@@ -28,7 +28,8 @@ struct Plan {
     };
     struct Selection {
         int pipe = 0;
-        int component = 0;  ///< its cell
+        std::vector<int> others;  ///< selected with the pipe
+        int component = 0;        ///< its cell
         bool operator==(const Selection&) const = default;
     };
 

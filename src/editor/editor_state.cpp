@@ -32,6 +32,7 @@ void RedrawProject(Project& project, Editor& editor) {
     AbortInsertion(editor);
     editor.selectedComponent = 0;
     editor.selectedIn = 0;
+    editor.alsoSelected.clear();
     editor.DataShown = false;
     editor.ScrX = 1;
     editor.ScrY = 1;

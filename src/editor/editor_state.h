@@ -30,10 +30,11 @@ struct Removal {
 /// lines, blinking button, enabled frames) follows from it.
 struct Editor {
     InsertState state = InsertState::FirstPoint;
-    int firstCell = 0;          ///< first cell of the pipe begun; 0 unless `EndPoint`
-    int selectedComponent = 0;  ///< cell of the component last selected; 0 when none
-    int selectedIn = 0;         ///< cell of the last right click that selected; 0 after others
-    Removal removal;            ///< what an open question would delete
+    int firstCell = 0;              ///< first cell of the pipe begun; 0 unless `EndPoint`
+    int selectedComponent = 0;      ///< cell of the component last selected; 0 when none
+    int selectedIn = 0;             ///< cell of the last right click that selected; 0 after others
+    std::vector<int> alsoSelected;  ///< pipes beside the current one, ascending
+    Removal removal;                ///< what an open question would delete
     bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
     bool DataShown = false;     ///< pressures and flow directions are shown on the drawing
     bool resultsOld = false;    ///< computed values do not belong to the plant as it is

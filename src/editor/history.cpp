@@ -11,7 +11,7 @@ namespace {
 
 /// Selecting a round pipe of nominal size completes its outside diameter: that is no step.
 bool IsCompletion(const EditStep& step, Section section) {
-    if (section != Section::Circular || !IsTyping(step) || step.pipes.empty()) return false;
+    if (section != Section::Circular || !IsTyping(step) || step.pipes.size() != 1) return false;
     Plan::Pipe before = *step.pipes.front().before;
     const Plan::Pipe& after = *step.pipes.front().after;
     before.record.OuterSize = after.record.OuterSize;

@@ -8,8 +8,14 @@
 namespace idrova {
 namespace {
 
-PipeRec* CurrentPipe(Project& project) {
-    return project.CurrentPipe == 0 ? nullptr : &project.Pipes[project.CurrentPipe];
+/// Null when there is none, and when there are several.
+PipeRec* OnlyPipe(Project& project, const PipePanel& panel) {
+    return panel.OnlyPipe() == 0 ? nullptr : &project.Pipes[panel.OnlyPipe()];
+}
+
+template <typename Value>
+void StoreInAll(Project& project, const PipePanel& panel, Value PipeRec::*field, Value value) {
+    for (const int number : panel.pipes) project.Pipes[number].*field = value;
 }
 
 PointPanel& PanelOf(PipePanel& panel, PipeEnd end) {
@@ -38,16 +44,16 @@ void SetNominalSize(PipeRec& pipe, int size) {
 }
 
 void ChooseFlow(Project& project, PipePanel& panel, bool known) {
-    const PipeRec* pipe = CurrentPipe(project);
+    const PipeRec* pipe = OnlyPipe(project, panel);
     if (pipe == nullptr) return;
-    project.FlowUnknown[project.CurrentPipe] = !known;
+    project.FlowUnknown[panel.OnlyPipe()] = !known;
     ShowFlow(project, panel);
     EmptyZero(panel.kgPerHour, pipe->FlowRate);
     EmptyZero(panel.cubicMetresPerHour, pipe->FlowRate);
 }
 
 void TypeKgPerHour(Project& project, PipePanel& panel, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
+    PipeRec* pipe = OnlyPipe(project, panel);
     if (pipe == nullptr || !panel.flowKnown) return;
     const double kgPerHour = ReadNumber(text);
     panel.kgPerHour = text;
@@ -57,7 +63,7 @@ void TypeKgPerHour(Project& project, PipePanel& panel, std::string_view text) {
 
 bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view text,
                             MessageBoxes& boxes) {
-    PipeRec* pipe = CurrentPipe(project);
+    PipeRec* pipe = OnlyPipe(project, panel);
     if (pipe == nullptr || !panel.flowKnown) return true;
     if (project.settings.FluidDensity == 0) {
         panel.cubicMetresPerHour.clear();
@@ -71,56 +77,50 @@ bool TypeCubicMetresPerHour(Project& project, PipePanel& panel, std::string_view
 }
 
 void TypeLength(Project& project, PipePanel& panel, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr) return;
-    pipe->Length = ToSingle(TakeSize(panel, panel.length, text));
+    if (panel.pipes.empty()) return;
+    StoreInAll(project, panel, &PipeRec::Length, ToSingle(TakeSize(panel, panel.length, text)));
 }
 
 void TypeInnerSize(Project& project, PipePanel& panel, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr) return;
-    pipe->Diameter = ToSingle(TakeSize(panel, panel.innerSize, text) / kMillimetresPerMetre);
-    panel.nominalSize = panel.section.nominalSizes ? NominalSizeOf(pipe->Diameter) : 0;
+    if (panel.pipes.empty()) return;
+    const float size = ToSingle(TakeSize(panel, panel.innerSize, text) / kMillimetresPerMetre);
+    StoreInAll(project, panel, &PipeRec::Diameter, size);
+    panel.nominalSize = panel.section.nominalSizes ? NominalSizeOf(size) : 0;
 }
 
 void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr) return;
-    pipe->OuterSize = ToSingle(TakeSize(panel, panel.outerSize, text) / kMillimetresPerMetre);
+    if (panel.pipes.empty()) return;
+    const float size = ToSingle(TakeSize(panel, panel.outerSize, text) / kMillimetresPerMetre);
+    StoreInAll(project, panel, &PipeRec::OuterSize, size);
 }
 
 void TypeLossSum(Project& project, PipePanel& panel, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr) return;
-    pipe->LossSum = ToSingle(TakeSize(panel, panel.lossSum, text));
+    if (panel.pipes.empty()) return;
+    StoreInAll(project, panel, &PipeRec::LossSum, ToSingle(TakeSize(panel, panel.lossSum, text)));
 }
 
 void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr || size < 1 || size > kNominalSizes) return;
-    SetNominalSize(*pipe, size);
+    if (panel.pipes.empty() || size < 1 || size > kNominalSizes) return;
+    for (const int number : panel.pipes) SetNominalSize(project.Pipes[number], size);
     panel.nominalSize = size;
     panel.innerSize = InnerDiameterText(size);
     panel.outerSize = GeneralText(OuterDiameters[size]);
 }
 
 void TypeHeight(Project& project, PipePanel& panel, PipeEnd end, std::string_view text) {
-    PipeRec* pipe = CurrentPipe(project);
-    if (pipe == nullptr) return;
+    if (panel.pipes.empty()) return;
     const double height = TakeSize(panel, PanelOf(panel, end).height, text);
-    (end == PipeEnd::Start ? pipe->Z1 : pipe->Z2) = ToInt16(height);
+    StoreInAll(project, panel, end == PipeEnd::Start ? &PipeRec::Z1 : &PipeRec::Z2,
+               ToInt16(height));
 }
 
 void LeaveBox(const Project& project, PipePanel& panel) {
     panel.negative = false;
-    if (project.CurrentPipe == 0) return;
-    const PipeRec& pipe = project.Pipes[project.CurrentPipe];
-    panel.start.height = GeneralText(pipe.Z1);
-    panel.end.height = GeneralText(pipe.Z2);
+    if (!panel.pipes.empty()) ShowHeights(project, panel);
 }
 
 void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known) {
-    const PipeRec* pipe = CurrentPipe(project);
+    const PipeRec* pipe = OnlyPipe(project, panel);
     if (pipe == nullptr) return;
     const int point = PointAt(*pipe, end);
     project.PressureUnknown[point] = !known;
@@ -129,7 +129,7 @@ void ChoosePressure(Project& project, PipePanel& panel, PipeEnd end, bool known)
 }
 
 void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_view text) {
-    const PipeRec* pipe = CurrentPipe(project);
+    const PipeRec* pipe = OnlyPipe(project, panel);
     PointPanel& box = PanelOf(panel, end);
     if (pipe == nullptr || !box.known) return;
     box.given = text;
@@ -138,12 +138,12 @@ void TypePressure(Project& project, PipePanel& panel, PipeEnd end, std::string_v
 }
 
 void ChooseDirection(Project& project, PipePanel& panel, PipeEnd end) {
-    PipeRec* pipe = CurrentPipe(project);
+    PipeRec* pipe = OnlyPipe(project, panel);
     if (pipe == nullptr) return;
     const int point = PointAt(*pipe, end);
     if (pipe->FlowFromPoint == point) return;
     pipe->FlowFromPoint = static_cast<std::int16_t>(point);
-    if (project.FlowUnknown[project.CurrentPipe])
+    if (project.FlowUnknown[panel.OnlyPipe()])
         pipe->FlowRate = 0 - pipe->FlowRate;  // no negative zero
     ShowFlow(project, panel);
     panel.start.reference = end == PipeEnd::Start;

@@ -11,9 +11,9 @@
 namespace idrova {
 
 /// The user's edits of the command panel. Each takes what a box holds after the change, writes the
-/// number it begins with at once into the record of `CurrentPipe` or of its point, and leaves in
-/// `panel` what all boxes hold then. Without a current pipe nothing happens; numbers beyond a
-/// single are stored as the largest single.
+/// number it begins with at once into the records of the panel's pipes, and leaves in `panel` what
+/// all boxes hold then. Flow, pressures and direction are those of a single pipe: with several, and
+/// without any, nothing happens. Numbers beyond a single are stored as the largest single.
 
 /// `Option6`.
 void ChooseFlow(Project& project, PipePanel& panel, bool known);

@@ -127,6 +127,7 @@ void InsertPipePoint(Project& project, Editor& editor, int cell, bool goOn, Mess
     }
     CompletePipe(project, first, cell);
     editor.selectedComponent = 0;
+    editor.alsoSelected.clear();
     if (goOn && !FirstPointRefusal(project, cell)) BeginPipe(editor, cell);
 }
 

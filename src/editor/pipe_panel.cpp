@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/pipe_panel.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "base/number_text.h"
+#include "editor/selection.h"
 #include "model/pipe_sizes.h"
 
 namespace idrova {
@@ -17,19 +19,34 @@ std::string ComputedFlowText(float kgPerSecond) {
     return FormatNumber(kgPerHour, plain ? "###.##" : "0.00E+00");
 }
 
-void ShowSize(const PipeRec& pipe, PipePanel& panel) {
-    panel.length = GeneralText(pipe.Length);
-    panel.innerSize = ScaledText(pipe.Diameter, kMillimetresPerMetre);
-    panel.lossSum = GeneralText(pipe.LossSum);
-    panel.outerSize = ScaledText(pipe.OuterSize, kMillimetresPerMetre);
-    if (panel.section.nominalSizes) panel.nominalSize = NominalSizeOf(pipe.Diameter);
+/// What `valueOf` makes of the pipes of the panel where it is the same for all, else an empty
+/// value.
+template <typename ValueOf>
+auto Common(const Project& project, const PipePanel& panel, const ValueOf& valueOf) {
+    const auto first = valueOf(project.Pipes[panel.pipes.front()]);
+    const bool same = std::ranges::all_of(
+        panel.pipes, [&](int number) { return valueOf(project.Pipes[number]) == first; });
+    return same ? first : decltype(valueOf(project.Pipes[0])){};
 }
 
-PointPanel ShowEnd(const Project& project, const PipeRec& pipe, int point, int height) {
+void ShowSizes(const Project& project, PipePanel& panel) {
+    const auto common = [&](float PipeRec::*field, double factor) {
+        return Common(project, panel,
+                      [&](const PipeRec& pipe) { return ScaledText(pipe.*field, factor); });
+    };
+    panel.length = common(&PipeRec::Length, 1);
+    panel.innerSize = common(&PipeRec::Diameter, kMillimetresPerMetre);
+    panel.outerSize = common(&PipeRec::OuterSize, kMillimetresPerMetre);
+    panel.lossSum = common(&PipeRec::LossSum, 1);
+    if (!panel.section.nominalSizes) return;
+    panel.nominalSize =
+        Common(project, panel, [](const PipeRec& pipe) { return NominalSizeOf(pipe.Diameter); });
+}
+
+PointPanel ShowEnd(const Project& project, const PipeRec& pipe, int point) {
     PointPanel panel;
     panel.caption = "P" + GeneralText(point);
     panel.heightLabel = "Z" + GeneralText(point) + "[m]";
-    panel.height = GeneralText(height);
     panel.reference = pipe.FlowFromPoint == point;
     ShowPressure(project, point, panel);
     return panel;
@@ -47,8 +64,8 @@ std::string CubicMetresText(const Project& project, double kgPerHour) {
 }
 
 void ShowFlow(const Project& project, PipePanel& panel) {
-    const float flow = project.Pipes[panel.pipe].FlowRate;
-    panel.flowKnown = !project.FlowUnknown[panel.pipe];
+    const float flow = project.Pipes[panel.OnlyPipe()].FlowRate;
+    panel.flowKnown = !project.FlowUnknown[panel.OnlyPipe()];
     if (panel.flowKnown) {
         panel.kgPerHour = ScaledText(flow, kSecondsPerHour);
         panel.cubicMetresPerHour = CubicMetresText(project, ReadNumber(panel.kgPerHour));
@@ -71,19 +88,35 @@ void ShowPressure(const Project& project, int point, PointPanel& panel) {
     (panel.known ? panel.given : panel.computed) = FormatNumber(shown, "####.###");
 }
 
-PipePanel ShowPipeData(const Project& project) {
+void ShowHeights(const Project& project, PipePanel& panel) {
+    const auto common = [&](std::int16_t PipeRec::*height) {
+        return Common(project, panel,
+                      [&](const PipeRec& pipe) { return GeneralText(pipe.*height); });
+    };
+    panel.start.height = common(&PipeRec::Z1);
+    panel.end.height = common(&PipeRec::Z2);
+}
+
+PipePanel ShowPipeData(const Project& project, const Editor& editor) {
     PipePanel panel;
     panel.caption = "Pipe";
     panel.unitLabel = PressureUnitLabel(project.settings.PressureUnit);
     panel.section = DisplayOf(project.settings.SectionType);
-    if (project.settings.Mode == WorkMode::Graphic) panel.pipe = project.CurrentPipe;
-    if (panel.pipe == 0) return panel;
-    const PipeRec& pipe = project.Pipes[panel.pipe];
-    panel.caption = "Pipe " + GeneralText(panel.pipe);
-    ShowFlow(project, panel);
-    ShowSize(pipe, panel);
-    panel.start = ShowEnd(project, pipe, pipe.StartPoint, pipe.Z1);
-    panel.end = ShowEnd(project, pipe, pipe.EndPoint, pipe.Z2);
+    if (project.settings.Mode == WorkMode::Graphic) panel.pipes = SelectedPipes(project, editor);
+    if (panel.pipes.empty()) return panel;
+    if (const int number = panel.OnlyPipe(); number != 0) {
+        const PipeRec& pipe = project.Pipes[number];
+        panel.caption = "Pipe " + GeneralText(number);
+        ShowFlow(project, panel);
+        panel.start = ShowEnd(project, pipe, pipe.StartPoint);
+        panel.end = ShowEnd(project, pipe, pipe.EndPoint);
+    } else {
+        panel.caption = GeneralText(static_cast<int>(panel.pipes.size())) + " pipes";
+        panel.start.heightLabel = "Z start [m]";
+        panel.end.heightLabel = "Z end [m]";
+    }
+    ShowSizes(project, panel);
+    ShowHeights(project, panel);
     return panel;
 }
 

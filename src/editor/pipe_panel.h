@@ -3,7 +3,9 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "editor/editor_state.h"
 #include "model/project.h"
 #include "physdata/pipe_settings.h"
 
@@ -22,9 +24,10 @@ struct PointPanel {
     bool operator==(const PointPanel&) const = default;
 };
 
-/// What the command panel's boxes hold: texts as shown and as typed.
+/// What the command panel's boxes hold: texts as shown and as typed. Of several pipes it shows the
+/// sizes, heights and loss sums in which they agree, and nothing else.
 struct PipePanel {
-    int pipe = 0;                    ///< the current pipe; 0 when there is none
+    std::vector<int> pipes;          ///< the selected ones, the current first
     std::string caption;             ///< of `Frame3`
     bool flowKnown = false;          ///< `Option6`: "Value known", which opens the given boxes
     std::string kgPerHour;           ///< `Text12`
@@ -41,14 +44,21 @@ struct PipePanel {
     std::string_view unitLabel;  ///< of the four pressure boxes
     SectionDisplay section;
 
+    /// The pipe when it is a single one, else 0.
+    int OnlyPipe() const { return pipes.size() == 1 ? pipes.front() : 0; }
+
     bool operator==(const PipePanel&) const = default;
 };
 
-/// The data of `CurrentPipe`; empty boxes when there is none, and in the modes without a drawing.
-PipePanel ShowPipeData(const Project& project);
+/// The data of the selected pipes; empty boxes when there is none, and in the modes without a
+/// drawing.
+PipePanel ShowPipeData(const Project& project, const Editor& editor);
 
-/// The flow frame alone: flow rate of the panel's pipe as given or computed.
+/// The flow frame alone: flow rate of the panel's only pipe as given or computed.
 void ShowFlow(const Project& project, PipePanel& panel);
+
+/// The boxes of the heights alone.
+void ShowHeights(const Project& project, PipePanel& panel);
 
 /// A point's pressure as given or computed.
 void ShowPressure(const Project& project, int point, PointPanel& panel);

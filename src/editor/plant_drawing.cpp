@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/plant_drawing.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/number_text.h"
@@ -19,7 +20,9 @@ enum class Marks { None, Selection };
 
 Rgb ColourOf(const Project& project, const Editor& editor, int pipe) {
     if (editor.removal.pipe == pipe) return drawing_colour::kRemoved;
-    return project.CurrentPipe == pipe ? drawing_colour::kSelectedPipe : drawing_colour::kPipe;
+    const bool selected =
+        project.CurrentPipe == pipe || std::ranges::binary_search(editor.alsoSelected, pipe);
+    return selected ? drawing_colour::kSelectedPipe : drawing_colour::kPipe;
 }
 
 void DrawPipes(const Project& project, const Editor& editor, Marks marks, DrawingSurface& surface) {

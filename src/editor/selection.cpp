@@ -14,16 +14,22 @@ namespace {
 
 constexpr int kComponent = 0;  ///< among the numbers of pipes
 
-/// What a cell offers, in the order in which repeated clicks go through it.
-std::vector<int> ChoicesIn(const Project& project, int cell) {
-    std::vector<int> choices;
-    if (project.Cells[cell].Placed) choices.push_back(kComponent);
+/// Those that cross the cell or end in it, by number.
+std::vector<int> PipesIn(const Project& project, int cell) {
+    std::vector<int> pipes;
     const ScreenPoint centre = CellCentre(project, cell);
     for (const auto& [number, pipe] : DrawnPipes(project)) {
         const bool ends =
             PlaceOf(pipe, PipeEnd::Start) == centre || PlaceOf(pipe, PipeEnd::End) == centre;
-        if (ends || RunsThrough(pipe, centre)) choices.push_back(number);
+        if (ends || RunsThrough(pipe, centre)) pipes.push_back(number);
     }
+    return pipes;
+}
+
+/// What a cell offers, in the order in which repeated clicks go through it.
+std::vector<int> ChoicesIn(const Project& project, int cell) {
+    std::vector<int> choices = PipesIn(project, cell);
+    if (project.Cells[cell].Placed) choices.insert(choices.begin(), kComponent);
     return choices;
 }
 
@@ -36,15 +42,52 @@ int NextChoice(const Project& project, const Editor& editor, int cell,
     return at == choices.end() || at + 1 == choices.end() ? choices.front() : at[1];
 }
 
+void CompleteSize(const Settings& settings, PipeRec& pipe) {
+    if (settings.SectionType != Section::Circular) return;
+    const int size = NominalSizeOf(pipe.Diameter);
+    if (size != 0) SetNominalSize(pipe, size);
+}
+
 }  // namespace
 
 void SelectPipe(Project& project, Editor& editor, int number) {
     editor.selectedComponent = 0;
     editor.selectedIn = 0;
+    editor.alsoSelected.clear();
     project.CurrentPipe = number;
-    if (number == 0 || project.settings.SectionType != Section::Circular) return;
-    const int size = NominalSizeOf(project.Pipes[number].Diameter);
-    if (size != 0) SetNominalSize(project.Pipes[number], size);
+    if (number != 0) CompleteSize(project.settings, project.Pipes[number]);
+}
+
+std::vector<int> SelectedPipes(const Project& project, const Editor& editor) {
+    if (project.CurrentPipe == 0) return {};
+    std::vector<int> pipes = editor.alsoSelected;
+    pipes.insert(pipes.begin(), project.CurrentPipe);
+    return pipes;
+}
+
+void ExtendSelection(Project& project, Editor& editor, int cell) {
+    const std::vector<int> pipes = PipesIn(project, cell);
+    const std::vector<int> selected = SelectedPipes(project, editor);
+    const auto added = std::ranges::find_if(
+        pipes, [&](int pipe) { return std::ranges::find(selected, pipe) == selected.end(); });
+    if (added == pipes.end()) {
+        for (const int pipe : pipes) Deselect(project, editor, pipe);
+    } else if (selected.empty()) {
+        SelectPipe(project, editor, *added);
+    } else {
+        auto& others = editor.alsoSelected;
+        others.insert(std::ranges::upper_bound(others, *added), *added);
+        CompleteSize(project.settings, project.Pipes[*added]);
+    }
+}
+
+void Deselect(Project& project, Editor& editor, int pipe) {
+    auto& others = editor.alsoSelected;
+    if (pipe == project.CurrentPipe) {
+        project.CurrentPipe = others.empty() ? 0 : others.front();
+        pipe = project.CurrentPipe;
+    }
+    std::erase(others, pipe);
 }
 
 void SelectCell(Project& project, Editor& editor, int cell) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
 #include "editor/editor_state.h"
 #include "model/project.h"
 
@@ -14,5 +16,15 @@ void SelectCell(Project& project, Editor& editor, int cell);
 /// Selects a drawn pipe, or nothing (0). A round pipe of nominal size gets that size's diameters
 /// in full.
 void SelectPipe(Project& project, Editor& editor, int number);
+
+/// The current pipe and those selected with it, the current one first.
+std::vector<int> SelectedPipes(const Project& project, const Editor& editor);
+
+/// Adds to the selected pipes the first of a cell that is not among them; takes all pipes of the
+/// cell out when there is none. A cell without a pipe changes nothing.
+void ExtendSelection(Project& project, Editor& editor, int cell);
+
+/// Takes a pipe out of the selected ones, or nothing. After the current one comes the next.
+void Deselect(Project& project, Editor& editor, int pipe);
 
 }  // namespace idrova

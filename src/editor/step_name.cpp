@@ -48,14 +48,27 @@ std::string_view ValueName(const Plan::Pipe& before, const Plan::Pipe& after) {
     return "heights";
 }
 
+/// How many pipes are selected where the step changed those and nothing else; 0 elsewhere.
+int SelectedTogether(const EditStep& step) {
+    const Plan::Selection& selection = step.after;
+    const bool all = std::ranges::all_of(step.pipes, [&](const auto& change) {
+        return change.number == selection.pipe ||
+               std::ranges::binary_search(selection.others, change.number);
+    });
+    const bool several = !selection.others.empty() && step.before == selection;
+    if (!several || !all || !step.points.empty()) return 0;
+    return 1 + static_cast<int>(selection.others.size());
+}
+
 std::string ValuesName(const EditStep& step) {
     if (step.pipes.empty() && step.points.empty()) return "change";
     if (step.pipes.empty()) return "pressure of P" + GeneralText(step.points.front().number);
     const Change<Plan::Pipe>& first = step.pipes.front();
     if (!first.before || !first.after) return "change";  // a slot without a pipe came or went
     const std::string value(ValueName(*first.before, *first.after));
-    if (step.pipes.size() == 1) return value + " of pipe " + GeneralText(first.number);
-    return value + " of " + GeneralText(static_cast<int>(step.pipes.size())) + " pipes";
+    const int count = std::max(static_cast<int>(step.pipes.size()), SelectedTogether(step));
+    if (count == 1) return value + " of pipe " + GeneralText(first.number);
+    return value + " of " + GeneralText(count) + " pipes";
 }
 
 bool IsPipeInserted(const EditStep& step) {
@@ -85,7 +98,8 @@ bool IsTyping(const EditStep& step) {
     // A slot without a pipe may come and go, too.
     const bool lasts = std::ranges::all_of(
         step.pipes, [](const auto& change) { return change.before && change.after; });
-    return values && lasts && !IsPipeDeleted(step) && step.pipes.size() + step.points.size() == 1;
+    const bool together = step.pipes.size() + step.points.size() == 1 || SelectedTogether(step) > 1;
+    return values && lasts && together && !IsPipeDeleted(step);
 }
 
 }  // namespace idrova

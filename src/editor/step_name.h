@@ -10,7 +10,8 @@ namespace idrova {
 /// What the step did, as the menu names it: "insert pump", "length of pipe 7".
 std::string StepName(const EditStep& step);
 
-/// Whether the step is of the kind that typing goes on with: values of one pipe or point.
+/// Whether the step is of the kind that typing goes on with: values of one pipe or point, or of
+/// pipes that are selected together.
 bool IsTyping(const EditStep& step);
 
 }  // namespace idrova

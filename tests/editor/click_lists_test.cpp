@@ -95,6 +95,19 @@ constexpr ClickList kClickLists[] = {
      "selected:1 find=3 find=P4 find=x selected:1 L9,5 L9,6",
      "1:1(2,5)-2(8,5) 2:2(8,5)-3(8,9) 3:4(10,9)-5(10,10)"},
 
+    {"pipes are added to those selected, and taken out",
+     "L2,5 L8,5 L2,7 L8,7 L2,9 L8,9 R4,5 C4,9 selected:1+3 C20,20 C4,7 selected:1+2+3 C4,5 "
+     "selected:2+3 C4,9 C4,7 selected:0 C4,7 C4,5 selected:2+1 escape selected:2 C4,9 S9,9 "
+     "selected:2+3 S1,1 find=1 selected:1 C4,7 L20,20 C4,9 selected:1+2 L20,20 L20,25 selected:4 "
+     "C4,9 R4,5 selected:1",
+     "1:1(2,5)-2(8,5) 2:3(2,7)-4(8,7) 3:5(2,9)-6(8,9) 4:7(20,20)-8(20,25)"},
+    {"a cell adds its pipes in turn, a component gives way",
+     "L2,5 L8,5 pump L5,5 R5,5 selected:c205 C5,5 selected:1 C5,5 selected:1+2 C5,5 selected:0",
+     "1:1(2,5)-3(5,5) 2:4(5,5)-2(8,5)"},
+    {"of several pipes the current one is deleted",
+     "L2,5 L8,5 L2,7 L8,7 L2,9 L8,9 R4,7 C4,5 C4,9 delete selected:1+3 undo selected:2+1+3 redo",
+     "1:1(2,5)-2(8,5) 3:5(2,9)-6(8,9)", "2 ?"},
+
     {"the pipe drawn last", "L2,5 L8,5 L3,7 L6,7 delete", "1:1(2,5)-2(8,5)", "2 ?"},
 };
 

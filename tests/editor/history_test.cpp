@@ -28,6 +28,9 @@ constexpr struct {
     {"L2,5 L8,5 R5,5 again", "flow=given kg/h=36", "flow rate of pipe 1"},
     {"L2,5 L8,5 R5,5 again flow=given kg/h=36 left", "flow=unknown", "flow rate of pipe 1"},
     {"L2,5 L8,5 R5,5 again length=7", "end2=given p2=2", "pressure of P2"},
+    {"L2,5 L8,5 L2,7 L8,7 R5,5 again length=1 left C5,7 again", "length=1 length=12",
+     "length of 2 pipes"},
+    {"L2,5 L8,5 L2,7 L8,7 R5,5 C5,7 again", "z1=7 z1=72", "heights of 2 pipes"},
     {"L2,5 L8,5 L2,7 L8,7 R5,5 again length=7", "R5,7 again length=7", "length of pipe 2"},
 };
 

@@ -35,6 +35,12 @@ constexpr const char* kScripts[] = {
     "length=-5 length=02 length:0 length= length: length=2 length:2 again length:2",
     "z1=-1 z1=02 z1:0 leave= z1=05 z1:05 z1=-1 z1=7 z1:7 again z1:7",
     "p1=2 p1:/. again p1:/. end1=given p1:/ p1=2 p1:2/ again p1:2./ p2:/. end1=unknown p1:/2.",
+    // Of several pipes: what they agree in, and what goes to all.
+    "L2,7 L8,7 R5,7 again length=3 size=7 z1=4 C5,5 again length: inner: size:0 z1: z2:0 length=12 "
+    "length:12 z2=8.6 leave= z1: z2:9 flow=given kg/h=3 end1=given p1=2 from2= kg/h: p1:/ R5,5 "
+    "again length:12 z1:0 z2:9 flow:unknown p1:/. from2:no R5,7 again length:12 z1:4 inner:53.8 "
+    "C5,5 again length:12 size=6 size:6 inner:42.5 outer=60 inner=-7 inner:0 R5,5 again inner:0 "
+    "outer:60",
     "end2=given p2=1 again p2:1./ p1:/. from2:no from2= from2:yes again from2:yes",
 };
 
@@ -89,7 +95,7 @@ TEST(Panel, ShowsAPipeAsItIs) {
         {1e6F / 3600, "1000000."}, {-2e6F / 3600, "-2.00E+06"}, {0, "."}, {0.5F, "1800."}};
     for (const auto& [flow, text] : flows) {
         second.FlowRate = flow;
-        EXPECT_EQ(ShowPipeData(project).computedKgPerHour, text);
+        EXPECT_EQ(ShowPipeData(project, plant.editor).computedKgPerHour, text);
     }
     plant.Do("again mc/h:1.8 length:12.5 inner:60.1 outer:70 size:0");
     EXPECT_EQ(plant.panel.caption, "Pipe 2");

@@ -26,9 +26,9 @@ namespace idrova {
 /// click left or right on column 5, row 3; "pump" and "loss" choose and arm a component; "delete"
 /// deletes what is selected, "undo" takes a step back; "S5,3" scrolls to that cell; "labels" shows
 /// the data labels; "again" fills the panel, "length=12" edits it, "left" leaves the box,
-/// "length:12" is what should stand in it; "G5,3" is a left click that goes on; "selected:3" the
-/// pipe that should be selected, or the component of a cell ("c105"). Every question is answered
-/// with OK.
+/// "length:12" is what should stand in it; "G5,3" is a left click that goes on, "C5,3" a right one
+/// that adds; "selected:3+4" the pipes that should be selected, or the component of a cell
+/// ("c105"). Every question is answered with OK.
 class Plant {
   public:
     Plant() {
@@ -43,8 +43,9 @@ class Plant {
 
     int Place(int column, int row) const { return CellAt(column, row, project.GridSize); }
 
-    void Click(int column, int row, MouseButton button = MouseButton::Left, bool goOn = false) {
-        CellClick(project, editor, Place(column, row), button, boxes, goOn);
+    void Click(int column, int row, MouseButton button = MouseButton::Left,
+               HeldKey held = HeldKey::None) {
+        CellClick(project, editor, Place(column, row), button, boxes, held);
     }
 
     Plant& Do(const std::string& script) {
@@ -119,10 +120,15 @@ class Plant {
             {"p1", panel.start.given + "/" + panel.start.computed},
             {"p2", panel.end.given + "/" + panel.end.computed},
             {"from2", panel.end.reference ? "yes" : "no"},
-            {"selected", editor.selectedComponent == 0
-                             ? GeneralText(project.CurrentPipe)
-                             : "c" + GeneralText(editor.selectedComponent)}};
+            {"selected", Selected()}};
         return texts.at(name);
+    }
+
+    std::string Selected() const {
+        const int cell = editor.selectedComponent;
+        std::string text = cell == 0 ? GeneralText(project.CurrentPipe) : "c" + GeneralText(cell);
+        for (const int pipe : editor.alsoSelected) text += "+" + GeneralText(pipe);
+        return text;
     }
 
     void DoStep(const std::string& step) {
@@ -130,11 +136,11 @@ class Plant {
         if (step == "loss") return Arm(CellKind::Loss);
         if (step == "delete") return DeleteSelected(project, editor, boxes);
         if (step == "turn") return TurnSelectedPump(project, editor);
-        if (step == "escape") return AbortByKey(editor);
+        if (step == "escape") return static_cast<void>(AbortByKey(editor));
         if (step == "undo") return history.Undo(project, editor);
         if (step == "redo") return history.Redo(project, editor);
         if (step == "left") return history.EndTyping();
-        if (step == "again") return static_cast<void>(panel = ShowPipeData(project));
+        if (step == "again") return static_cast<void>(panel = ShowPipeData(project, editor));
         if (step == "labels") return static_cast<void>(editor.DataShown = true);
         const auto sign = step.find_first_of("=:,");
         const std::string before = step.substr(0, sign);
@@ -151,7 +157,11 @@ class Plant {
 
     void At(char what, int column, int row) {
         if (what == 'S') return ScrollDrawing(project, editor, column, row);
-        Click(column, row, what == 'R' ? MouseButton::Right : MouseButton::Left, what == 'G');
+        const HeldKey held = what == 'G'   ? HeldKey::Shift
+                             : what == 'C' ? HeldKey::Ctrl
+                                           : HeldKey::None;
+        const bool right = what == 'R' || what == 'C';
+        Click(column, row, right ? MouseButton::Right : MouseButton::Left, held);
     }
 
     std::string EndText(int point) const {

@@ -44,6 +44,7 @@ class RandomUser {
         const std::pair<int, std::string> actions[] = {
             {120, "L" + at},
             {150, "R" + at},
+            {60, "C" + at},
             {175, "L" + at + " L" + to + "," + row},
             {175, "L" + at + " L" + column + "," + to},
             {60, "pump L" + at},
@@ -59,7 +60,7 @@ class RandomUser {
             {1, "reset"},
             {20, "undo"},
         };
-        int likelihood = UpTo(1020);
+        int likelihood = UpTo(1080);
         const auto* action = std::begin(actions);
         while ((likelihood -= action->first) >= 0) ++action;
         if (action->second == "undo") return UndoAndRedo();

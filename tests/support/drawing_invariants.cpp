@@ -168,6 +168,13 @@ void CheckEditor(const Project& project, const Editor& editor, Faults& faults) {
     if (current != 0 && !project.Pipes[current].IsDrawn()) {
         faults.push_back(Named("not a live pipe: the current", current));
     }
+    int previous = 0;
+    for (const int pipe : editor.alsoSelected) {
+        if (current == 0 || pipe == current || pipe <= previous || !project.Pipes[pipe].IsDrawn()) {
+            faults.push_back(Named("not to be selected too: pipe", pipe));
+        }
+        previous = pipe;
+    }
 }
 
 }  // namespace

@@ -54,6 +54,9 @@ TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
     boxes.Expect(AskDeletePipe(1));
     keys({Qt::Key_Delete, Qt::Key_Home, Qt::Key_Return, Qt::Key_End, Qt::Key_Return});
     EXPECT_EQ(CellsOf(project, 2), (std::pair{101, 150}));
+    keys({Qt::Key_Home, Qt::Key_Menu});
+    keys({Qt::Key_Menu}, Qt::ControlModifier);
+    EXPECT_EQ(project.CurrentPipe, 0) << "taken out of the selection";
     Click(9, 9);  // the mouse takes the cursor along
     keys({Qt::Key_Down, Qt::Key_Return});
     EXPECT_EQ(CellsOf(project, 3).second, CellAt(9, 10, 50));

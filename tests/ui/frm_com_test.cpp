@@ -83,6 +83,22 @@ TEST_F(CommandPanel, ResultsOfAChangedPlantAreGreyAndStayInTheirMode) {
     EXPECT_EQ(Shown("Frame3 Text2 Text6 Text10"), "Pipe|||");
 }
 
+TEST_F(CommandPanel, WhatIsTypedGoesToAllSelectedPipes) {
+    Draw(2, 7, 8, 7);
+    Select(5, 5);
+    Do("Text6=3");
+    QTest::mouseClick(View().viewport(), Qt::RightButton, Qt::ControlModifier, PlaceOf(5, 7));
+    EXPECT_EQ(Shown("Frame3 Text6 Text7"), "2 pipes||0");
+    EXPECT_EQ(Enabled("Frame3 Frame7 Frame4 Frame8 Text6 LossSum"), "Frame3 Text6 LossSum");
+    Do("Text6=12");
+    EXPECT_EQ(std::pair(pipe.Length, project.Pipes[2].Length), std::pair(12.0F, 12.0F));
+    EXPECT_EQ(Item("Annulla").text(), "&Undo length of 2 pipes");
+    Choose("Annulla");
+    EXPECT_EQ(std::pair(pipe.Length, project.Pipes[2].Length), std::pair(3.0F, 0.0F));
+    QTest::keyClick(&Child<QWidget>("Text6"), Qt::Key_Escape);
+    EXPECT_EQ(Shown("Frame3 Text6"), "Pipe 1|3");
+}
+
 TEST_F(CommandPanel, FramesOpenWithARightClickAndLockWithALeftOne) {
     const QString controls = "Frame3 Frame4 Frame8 Frame6 Command4 Command9 Command1";
     EXPECT_EQ(Enabled(controls + " Text10"), controls);

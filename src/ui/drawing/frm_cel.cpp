@@ -53,10 +53,10 @@ QScrollBar* FrmCel::Bar(const char* name, Qt::Orientation orientation) {
 }
 
 void FrmCel::ConnectView() {
-    view_->press = [this](int place, MouseButton button, bool goOn) {
-        PressMouse(place, button, goOn);
+    view_->press = [this](int place, MouseButton button, HeldKey held) {
+        PressMouse(place, button, held);
     };
-    view_->drop = [this](int place, bool goOn) { Drop(place, goOn); };
+    view_->drop = [this](int place, HeldKey held) { Drop(place, held); };
     view_->hover = [this](int place) { ShowPlace(place); };
     view_->moveCursor = [this](int place) { scene_->ShowCursor(place); };
     view_->abort = [this] { Abort(); };
@@ -82,16 +82,16 @@ void FrmCel::ShowState() {
     scene_->Show(std::move(drawing));
 }
 
-void FrmCel::PressMouse(int place, MouseButton button, bool goOn) {
+void FrmCel::PressMouse(int place, MouseButton button, HeldKey held) {
     const bool begun = program_.editor.state == InsertState::EndPoint;
-    CellClick(program_.project, program_.editor, place, button, program_.boxes, goOn);
+    CellClick(program_.project, program_.editor, place, button, program_.boxes, held);
     isBegunByPress_ = !begun && program_.editor.state == InsertState::EndPoint;
     program_.changed();
 }
 
-void FrmCel::Drop(int place, bool goOn) {
+void FrmCel::Drop(int place, HeldKey held) {
     if (isBegunByPress_ && program_.editor.state == InsertState::EndPoint) {
-        PressMouse(place, MouseButton::Left, goOn);
+        PressMouse(place, MouseButton::Left, held);
     }
 }
 

@@ -26,8 +26,8 @@ class FrmCel final : public ChildWindow {
   private:
     QScrollBar* Bar(const char* name, Qt::Orientation orientation);
     void ConnectView();
-    void PressMouse(int place, MouseButton button, bool goOn);
-    void Drop(int place, bool goOn);
+    void PressMouse(int place, MouseButton button, HeldKey held);
+    void Drop(int place, HeldKey held);
     QString TipOf(int place) const;
     void Scrolled();
     void Abort();

@@ -21,6 +21,11 @@ namespace {
 
 constexpr int kLongStep = 5;  ///< cells
 
+HeldKey HeldAt(const QInputEvent& event) {
+    if (event.modifiers().testFlag(Qt::ControlModifier)) return HeldKey::Ctrl;
+    return event.modifiers().testFlag(Qt::ShiftModifier) ? HeldKey::Shift : HeldKey::None;
+}
+
 }  // namespace
 
 PlantView::PlantView(QGraphicsScene* scene, const Project& project)
@@ -48,10 +53,9 @@ void PlantView::mousePressEvent(QMouseEvent* event) {
     }
     cursor_ = place;
     moveCursor(0);  // the mouse needs none
-    const bool goOn = event->modifiers().testFlag(Qt::ShiftModifier);
     pressedAt_ = event->position().toPoint();
-    if (event->button() == Qt::LeftButton) press(place, MouseButton::Left, goOn);
-    if (event->button() == Qt::RightButton) press(place, MouseButton::Right, false);
+    if (event->button() == Qt::LeftButton) press(place, MouseButton::Left, HeldAt(*event));
+    if (event->button() == Qt::RightButton) press(place, MouseButton::Right, HeldAt(*event));
 }
 
 void PlantView::mouseReleaseEvent(QMouseEvent* event) {
@@ -61,7 +65,7 @@ void PlantView::mouseReleaseEvent(QMouseEvent* event) {
                          place != PlaceOf(pressedAt_);
     if (event->button() != Qt::LeftButton || !dragged || place == 0) return;
     cursor_ = place;
-    drop(place, event->modifiers().testFlag(Qt::ShiftModifier));
+    drop(place, HeldAt(*event));
 }
 
 void PlantView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -99,16 +103,15 @@ bool PlantView::MoveByKey(const QKeyEvent& event) {
 
 void PlantView::keyPressEvent(QKeyEvent* event) {
     if (MoveByKey(*event)) return;
-    const bool shift = event->modifiers().testFlag(Qt::ShiftModifier);
     switch (event->key()) {
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            return press(cursor_, MouseButton::Left, shift);
+            return press(cursor_, MouseButton::Left, HeldAt(*event));
         case Qt::Key_Menu:
-            return press(cursor_, MouseButton::Right, false);
+            return press(cursor_, MouseButton::Right, HeldAt(*event));
         case Qt::Key_F10:
-            if (shift) return press(cursor_, MouseButton::Right, false);
-            return event->ignore();
+            if (!event->modifiers().testFlag(Qt::ShiftModifier)) return event->ignore();
+            return press(cursor_, MouseButton::Right, HeldAt(*event));
         case Qt::Key_Escape:
             return abort();
         case Qt::Key_Delete:

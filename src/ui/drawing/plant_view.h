@@ -12,14 +12,13 @@ namespace idrova {
 /// Shows the whole drawing as large as the window allows, and turns mouse and keyboard into presses
 /// on places. Arrow keys move a cell cursor, with Ctrl by five cells, Home and End to the edges;
 /// Enter is the left button, the menu key or Shift+F10 the right one, R turns the selected pump.
-/// Shift with the left button goes on with the next pipe or component.
 class PlantView : public QGraphicsView {
   public:
     PlantView(QGraphicsScene* scene, const Project& project);
 
-    std::function<void(int place, MouseButton button, bool goOn)> press;
+    std::function<void(int place, MouseButton button, HeldKey held)> press;
     /// The left button was dragged from the place of its press to another.
-    std::function<void(int place, bool goOn)> drop;
+    std::function<void(int place, HeldKey held)> drop;
     /// The mouse or the keyboard's cursor is on another place; 0 beside the grid.
     std::function<void(int place)> hover;
     std::function<void(int place)> moveCursor;

@@ -63,8 +63,8 @@ QRadioButton* DirectionsFrame::Option(const char* name, PipeEnd end) {
 void DirectionsFrame::Show() {
     const PipePanel& panel = context_.panel;
     const std::array silent{QSignalBlocker(fromStart_), QSignalBlocker(fromEnd_)};
-    fromStart_->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.start.caption));
-    fromEnd_->setText(panel.pipe == 0 ? QString("P") : ToQt(panel.end.caption));
+    fromStart_->setText(panel.OnlyPipe() == 0 ? QString("P") : ToQt(panel.start.caption));
+    fromEnd_->setText(panel.OnlyPipe() == 0 ? QString("P") : ToQt(panel.end.caption));
     (panel.end.reference ? fromEnd_ : fromStart_)->setChecked(true);
     arrow_->Show(panel.end.reference);
 }

@@ -119,9 +119,10 @@ void FrmCom::ShowState() {
     fluidProperties_->setText(ToQt(FluidPropertyLabel(program_.project.settings)));
     roughness_->setText(
         ToQt(RoughnessLabel(program_.shell.roughnessItem, program_.project.settings.Roughness)));
-    if (!isEdited_) context_.panel = ShowPipeData(program_.project);
+    if (!isEdited_) context_.panel = ShowPipeData(program_.project, program_.editor);
     const RunRecord* record = RecordOf(program_);
-    context_.sizing = record == nullptr ? SizingTexts() : SizingOf(*record, context_.panel.pipe);
+    context_.sizing =
+        record == nullptr ? SizingTexts() : SizingOf(*record, context_.panel.OnlyPipe());
     context_.resultsOld = ShowsOldResults(program_);
     ShowFrames();
     componentsFrame_->Show();
@@ -146,12 +147,7 @@ void FrmCom::TakeFocus(bool backwards) {
 }
 
 void FrmCom::keyPressEvent(QKeyEvent* event) {
-    const bool begun = program_.editor.state != InsertState::FirstPoint;
-    if (event->key() == Qt::Key_Escape && begun) {
-        AbortByKey(program_.editor);
-        program_.changed();
-        return;
-    }
+    if (event->key() == Qt::Key_Escape && AbortByKey(program_.editor)) return program_.changed();
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     auto* button = qobject_cast<QPushButton*>(QApplication::focusWidget());
     if (!isReturn || button == nullptr) return QDockWidget::keyPressEvent(event);
@@ -167,11 +163,9 @@ void FrmCom::ShowFrames() {
 void FrmCom::ShowEnabling() {
     const ModeView view = ViewOf(program_.project.settings.Mode);
     const bool frames = view.drawingTools && program_.editor.framesEnabled;
-    for (QGroupBox* frame :
-         {static_cast<QGroupBox*>(pipeFrame_), static_cast<QGroupBox*>(pressuresFrame_),
-          static_cast<QGroupBox*>(directionsFrame_)}) {
-        frame->setEnabled(frames && context_.panel.pipe != 0);
-    }
+    pipeFrame_->setEnabled(frames && !context_.panel.pipes.empty());
+    pressuresFrame_->setEnabled(frames && context_.panel.OnlyPipe() != 0);
+    directionsFrame_->setEnabled(frames && context_.panel.OnlyPipe() != 0);
     componentsFrame_->setEnabled(view.drawingTools &&
                                  MayPlaceComponents(program_.project, program_.editor));
     dataButton_->setEnabled(view.drawingTools);

@@ -72,6 +72,7 @@ NumberBox* PipeFrame::HeightBox(const char* name, PipeEnd end) {
 void PipeFrame::Show() {
     const PipePanel& panel = context_.panel;
     setTitle(ToQt(panel.caption));
+    flowFrame_->setEnabled(panel.OnlyPipe() != 0);
     flowFrame_->Show();
     length_->Show(panel.length);
     innerSize_->Show(panel.innerSize);
@@ -79,7 +80,7 @@ void PipeFrame::Show() {
     lossSum_->Show(panel.lossSum);
     startHeight_->Show(panel.start.height);
     endHeight_->Show(panel.end.height);
-    if (panel.pipe != 0) {
+    if (!panel.pipes.empty()) {
         startHeightLabel_->setText(ToQt(panel.start.heightLabel));
         endHeightLabel_->setText(ToQt(panel.end.heightLabel));
     }
