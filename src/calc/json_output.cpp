@@ -71,31 +71,27 @@ Json MessageList(const std::vector<MessageBox>& messages) {
 
 Json PipeList(const WorkNetwork& results, const Settings& settings) {
     Json list = Json::array();
-    for (int i = 1; i <= results.WorkPipeCount; ++i) {
-        const PipeRec& pipe = results.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
+    for (const auto& [number, pipe] : DrawnPipes(results)) {
         const PipeFigures figures = FiguresOf(pipe, results, settings);
         const int direction = pipe.DirectionSign();
-        list.push_back({{"number", i},
+        list.push_back({{"number", number},
                         {"from", direction > 0 ? pipe.StartPoint : pipe.EndPoint},
                         {"to", direction > 0 ? pipe.EndPoint : pipe.StartPoint},
                         {"flow_kg_s", DecimalDouble(pipe.FlowRate)},
                         {"velocity_m_s", figures.speed},
                         {"reynolds", figures.reynolds},
                         {"drop_Pa", direction * DecimalDouble(figures.drop)},
-                        {"known", !results.WorkFlowUnknown[i]}});
+                        {"known", !results.WorkFlowUnknown[number]}});
     }
     return list;
 }
 
 Json PointList(const WorkNetwork& results) {
     Json list = Json::array();
-    for (int i = 1; i <= results.WorkPointCount; ++i) {
-        const PointRec& point = results.WorkPoints[i];
-        if (!point.IsDrawn()) continue;
-        list.push_back({{"number", i},
+    for (const auto& [number, point] : DrawnPoints(results)) {
+        list.push_back({{"number", number},
                         {"pressure_Pa", DecimalDouble(point.Pressure)},
-                        {"known", !results.WorkPressureUnknown[i]}});
+                        {"known", !results.WorkPressureUnknown[number]}});
     }
     return list;
 }

@@ -44,22 +44,9 @@ class ProblemList {
         Add(NoteOn::Network, 0, text);
     }
 
-    template <typename Visit>
-    void ForPipes(const Visit& visit) {
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            if (work_.WorkPipes[i].IsDrawn()) visit(i, work_.WorkPipes[i]);
-        }
-    }
-    template <typename Visit>
-    void ForPoints(const Visit& visit) {
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (work_.WorkPoints[i].IsDrawn()) visit(i);
-        }
-    }
-
     void AddUnsizedPipes() {
         const bool rectangular = settings_.SectionType == Section::Rectangular;
-        ForPipes([this, rectangular](int number, const PipeRec& pipe) {
+        for (const auto& [number, pipe] : DrawnPipes(work_)) {
             const std::string name = "Pipe " + GeneralText(number);
             if (!(pipe.Length > 0)) Add(NoteOn::Pipe, number, name + " has no length");
             if (!(pipe.Diameter > 0)) {
@@ -69,14 +56,14 @@ class ProblemList {
             if (rectangular && !(pipe.OuterSize > 0)) {
                 Add(NoteOn::Pipe, number, name + " has no side b");
             }
-        });
+        }
     }
 
     void AddLonePoints() {
-        ForPoints([this](int point) {
-            if (plan_.pipesAtPoint[point] != 0 || !work_.WorkPressureUnknown[point]) return;
-            Add(NoteOn::Point, point, "Point " + GeneralText(point) + " has no pipe");
-        });
+        for (const auto& [number, point] : DrawnPoints(work_)) {
+            if (plan_.pipesAtPoint[number] != 0 || !work_.WorkPressureUnknown[number]) continue;
+            Add(NoteOn::Point, number, "Point " + GeneralText(number) + " has no pipe");
+        }
     }
 
     void AddUnjoinedComponents() {
@@ -99,8 +86,8 @@ class ProblemList {
     bool IsOpenEnd(int point) const { return plan_.pipesAtPoint[point] == 1 && !joined_[point]; }
 
     void AddOpenEnds() {
-        ForPipes([this](int number, const PipeRec& pipe) {
-            if (!work_.WorkFlowUnknown[number]) return;
+        for (const auto& [number, pipe] : DrawnPipes(work_)) {
+            if (!work_.WorkFlowUnknown[number]) continue;
             for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
                 if (!IsOpenEnd(point) || !work_.WorkPressureUnknown[point]) continue;
                 Add(NoteOn::Point, point,
@@ -108,31 +95,31 @@ class ProblemList {
                         " is an open end: give its pressure or the flow of pipe " +
                         GeneralText(number));
             }
-        });
+        }
     }
 
     /// An open end takes one value, a point where the flow goes on none.
     void AddSurplusPressures() {
-        ForPoints([this](int point) {
-            if (work_.WorkPressureUnknown[point] || IsOpenEnd(point)) return;
-            Add(NoteOn::Point, point,
-                "The pressure of point " + GeneralText(point) +
+        for (const auto& [number, point] : DrawnPoints(work_)) {
+            if (work_.WorkPressureUnknown[number] || IsOpenEnd(number)) continue;
+            Add(NoteOn::Point, number,
+                "The pressure of point " + GeneralText(number) +
                     " is given, though it is no open end: make it unknown");
-        });
+        }
     }
 
     void AddSurplusFlows() {
-        ForPipes([this](int number, const PipeRec& pipe) {
-            if (work_.WorkFlowUnknown[number]) return;
+        for (const auto& [number, pipe] : DrawnPipes(work_)) {
+            if (work_.WorkFlowUnknown[number]) continue;
             const auto takesFlow = [this](int point) {
                 return IsOpenEnd(point) && work_.WorkPressureUnknown[point];
             };
-            if (takesFlow(pipe.StartPoint) || takesFlow(pipe.EndPoint)) return;
+            if (takesFlow(pipe.StartPoint) || takesFlow(pipe.EndPoint)) continue;
             Add(NoteOn::Pipe, number,
                 "The flow of pipe " + GeneralText(number) +
                     " is given, though no end of it is open for one: make it or a pressure "
                     "unknown");
-        });
+        }
     }
 
     void AddIncoherentPipes() {

@@ -2,16 +2,13 @@
 #include "results/epanet_input.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <numeric>
+#include <string>
 #include <vector>
 
 #include "base/number_text.h"
-#include "hydraulics/component_law.h"
-#include "hydraulics/network_plan.h"
-#include "hydraulics/pipe_drop.h"
 #include "model/version.h"
+#include "results/epanet_curve.h"
+#include "results/epanet_network.h"
 #include "results/messages.h"
 #include "results/network_results.h"
 
@@ -21,10 +18,8 @@ namespace {
 constexpr double kWaterViscosity = 1e-6;  ///< m2/s: what EPANET counts viscosities by
 constexpr double kWaterDensity = 1000;    ///< kg/m3, likewise
 constexpr double kSmoothest = 1e-6;       ///< mm: EPANET takes no roughness of 0
-constexpr double kLeastFall = 1e-3;       ///< of the highest head, between points of a curve
 constexpr double kPumpReach = 0.3;        ///< of a cell: a pump's nodes stand apart on the map
-constexpr double kBeyond = 1.25;          ///< of the working point, for a range that ends there
-constexpr double kAtEnd = 1.05;           ///< times the working point, likewise
+constexpr double kCellUnits = 278;        ///< about a cell, in the units of the drawing
 
 using Line = std::vector<std::string>;
 
@@ -42,246 +37,145 @@ std::string OneLine(std::string_view text) {
     return line;
 }
 
-class EpanetWriter {
-  public:
-    explicit EpanetWriter(const RunRecord& run)
-        : settings_(run.settings), work_(*run.results), plan_(PlanNetwork(work_)) {
-        std::iota(node_.begin(), node_.end(), 0);
-        for (const auto& [number, pipe] : DrawnPipes(work_)) minorLoss_[number] = pipe.LossSum;
-        for (const Component& component : plan_.components) {
-            if (component.high != 0) PlaceComponent(component);
-        }
-        for (const PointResult& point : PointResults(settings_, work_))
-            points_[point.number] = point;
-    }
+std::string NodeName(const EpanetNetwork& network, int point) {
+    return "P" + GeneralText(network.node[point]);
+}
 
-    std::string Text(std::string_view name, std::string_view description) {
-        WriteNodes();
-        WritePipes();
-        WriteComponents();
-        return "[TITLE]\n Project: " + OneLine(name) + "\n " + OneLine(description) +
-               "\n Written by Idrova " + VersionText() + "\n" +
-               "\n[JUNCTIONS]\n;node elevation_m demand_m3/h\n" + junctions_ +
-               "\n[RESERVOIRS]\n;node head_m\n" + reservoirs_ +
-               "\n[PIPES]\n;link from to length_m diameter_mm roughness_mm minor_loss status\n" +
-               pipes_ + "\n[PUMPS]\n;link suction delivery curve\n" + pumps_ +
-               "\n[VALVES]\n;link from to diameter_mm type drop_m minor_loss\n" + valves_ +
-               "\n[CURVES]\n;curve flow_m3/h head_m\n" + curves_ + Options() +
-               "\n[COORDINATES]\n;node column row\n" + coordinates_ + "\n[END]\n";
-    }
+std::string CubicMetresPerHour(const EpanetNetwork& network, double flow) {
+    return PlainText(flow * kSecondsPerHour / network.settings.FluidDensity);
+}
 
-  private:
-    /// Points that nothing but a coefficient or a plain connection parts are one node.
-    void PlaceComponent(const Component& component) {
-        const CellRec& record = component.record;
-        const bool link = record.Placed && (record.Kind == CellKind::Pump || record.Param2 != 0);
-        if (link) return;
-        node_[std::max(component.high, component.low)] = std::min(component.high, component.low);
-        if (!record.Placed) return;
-        // The coefficient counts on the velocity in pipe A. A pressure that is given between that
-        // pipe and the loss puts it on the other side.
-        const int pointA = PointOfPipe(component, component.pipeA);
-        if (work_.WorkPressureUnknown[pointA]) {
-            minorLoss_[component.pipeA] += record.Param1;
-        } else {
-            const double ratio = DiameterOf(component.pipeB) / DiameterOf(component.pipeA);
-            minorLoss_[component.pipeB] += record.Param1 * std::pow(ratio, 4);
-        }
-    }
+double FlowThrough(const EpanetNetwork& network, const Component& component) {
+    return component.throughSign * double{network.work.WorkPipes[component.pipeA].FlowRate};
+}
 
-    static bool Ends(const PipeRec& pipe, int point) { return point != 0 && pipe.IsEnd(point); }
-
-    int PointOfPipe(const Component& component, int pipe) const {
-        return Ends(work_.WorkPipes[pipe], component.high) ? component.high : component.low;
-    }
-
-    double DiameterOf(int pipe) const {
-        const PipeRec& record = work_.WorkPipes[pipe];
-        return SectionGeometry(settings_, DecimalDouble(record.Diameter),
-                               DecimalDouble(record.OuterSize))
-            .hydraulicDiameter;
-    }
-
-    double Metres(double pascal) const { return pascal / (settings_.FluidDensity * kGravity); }
-    double CubicMetresPerHour(double flow) const {
-        return flow * kSecondsPerHour / settings_.FluidDensity;
-    }
-
-    int NodeOf(int point) const { return node_[point]; }
-    std::string NodeName(int point) const { return "P" + GeneralText(NodeOf(point)); }
-
-    /// What leaves the network through an open end, kg/s.
-    double DemandAt(int point) const {
-        double demand = 0;
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (!pipe.IsDrawn() || !pipe.IsEnd(point)) continue;
-            demand += pipe.FlowFromPoint == point ? -pipe.FlowRate : pipe.FlowRate;
-        }
-        return demand;
-    }
-
-    bool IsOpenEnd(int point) const {
-        const auto holds = [point](const Component& component) {
-            return component.pipeA != 0 && (component.high == point || component.low == point);
-        };
-        return plan_.pipesAtPoint[point] == 1 && std::ranges::none_of(plan_.components, holds);
-    }
-
-    /// The point of a node whose pressure is given; 0 when there is none.
-    int GivenPointOf(int node) const {
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            const bool given = work_.WorkPoints[i].IsDrawn() && !work_.WorkPressureUnknown[i];
-            if (given && NodeOf(i) == node) return i;
-        }
-        return 0;
-    }
-
-    void WriteNodes() {
-        for (int i = 1; i <= work_.WorkPointCount; ++i) {
-            if (!work_.WorkPoints[i].IsDrawn() || NodeOf(i) != i) continue;
-            if (const int given = GivenPointOf(i); given != 0) {
-                const double head = points_[given].head.value_or(0);
-                reservoirs_ += LineText({NodeName(i), PlainText(head)});
-            } else {
-                const double demand = IsOpenEnd(i) ? DemandAt(i) : 0;
-                junctions_ += LineText({NodeName(i), PlainText(points_[i].height),
-                                        PlainText(CubicMetresPerHour(demand))});
-            }
-            WritePlace(i);
-        }
-    }
-
-    /// Columns from the left and rows upwards. Only a drawing has places.
-    void WritePlace(int point) {
-        if (settings_.Mode != WorkMode::Graphic) return;
-        const PointRec& record = work_.WorkPoints[point];
-        double column = record.X;
-        double row = -record.Y;
-        for (const Component& component : plan_.components) {
-            const bool here = component.high == point || component.low == point;
-            if (!here || NodeOf(component.high) == NodeOf(component.low)) continue;
-            const PipeRec& pipe = work_.WorkPipes[PipeAt(component, point)];
-            const bool starts = pipe.StartPoint == point;
-            const auto towards = [](int from, int to) {
-                if (from == to) return 0;
-                return to > from ? 1 : -1;
-            };
-            column += kPumpReach * kCellUnits *
-                      (starts ? towards(pipe.X1, pipe.X2) : towards(pipe.X2, pipe.X1));
-            row -= kPumpReach * kCellUnits *
-                   (starts ? towards(pipe.Y1, pipe.Y2) : towards(pipe.Y2, pipe.Y1));
-        }
-        coordinates_ += LineText(
-            {NodeName(point), PlainText(column / kCellUnits), PlainText(row / kCellUnits)});
-    }
-
-    int PipeAt(const Component& component, int point) const {
-        return Ends(work_.WorkPipes[component.pipeA], point) ? component.pipeA : component.pipeB;
-    }
-
-    void WritePipes() {
-        const double roughness = std::max(settings_.Roughness * kMillimetresPerMetre, kSmoothest);
-        for (int i = 1; i <= work_.WorkPipeCount; ++i) {
-            const PipeRec& pipe = work_.WorkPipes[i];
-            if (!pipe.IsDrawn()) continue;
-            pipes_ += LineText({"pipe" + GeneralText(i), NodeName(pipe.StartPoint),
-                                NodeName(pipe.EndPoint), PlainText(DecimalDouble(pipe.Length)),
-                                PlainText(DiameterOf(i) * kMillimetresPerMetre),
-                                PlainText(roughness), PlainText(minorLoss_[i]), "Open"});
-        }
-    }
-
-    void WriteComponents() {
-        for (const Component& component : plan_.components) {
-            const CellRec& record = component.record;
-            if (component.high == 0 || !record.Placed) continue;
-            if (record.Kind == CellKind::Pump) WritePump(component);
-            if (record.Kind == CellKind::Loss && record.Param2 != 0) WriteValve(component);
-        }
-    }
-
-    double FlowThrough(const Component& component) const {
-        return component.throughSign * double{work_.WorkPipes[component.pipeA].FlowRate};
-    }
-
-    void WritePump(const Component& component) {
-        const std::string number = GeneralText(component.cell);
-        const std::string name = " ; " + OneLine(component.record.Name);
-        pumps_ += " pump" + number + " " + NodeName(component.low) + " " +
-                  NodeName(component.high) + " HEAD curve" + number + name + "\n";
-        curves_ += ";PUMP:" + name.substr(2) + "\n";
-        for (const auto& [flow, head] : CurveOf(component)) {
-            curves_ +=
-                LineText({"curve" + number, PlainText(CubicMetresPerHour(flow)), PlainText(head)});
-        }
-    }
-
-    struct CurvePoint {
-        double flow = 0;  ///< kg/s
-        double head = 0;  ///< m
+/// A given pressure is a reservoir, every other node a junction.
+std::string Nodes(const EpanetNetwork& network) {
+    std::string junctions = "\n[JUNCTIONS]\n;node elevation_m demand_m3/h\n";
+    std::string reservoirs = "\n[RESERVOIRS]\n;node head_m\n";
+    const auto points = PointResults(network.settings, network.work);
+    const auto headOf = [&](int point) {
+        return std::ranges::find(points, point, &PointResult::number)->head.value_or(0);
     };
-
-    /// Without flow, at the working point, at the end of the range; the head falls from each to the
-    /// next.
-    std::array<CurvePoint, 3> CurveOf(const Component& component) const {
-        const double range = component.record.MaxFlow;
-        const double most = range > 0 ? range : 1;
-        const double working = FlowThrough(component);
-        std::array<CurvePoint, 3> curve;
-        curve[0].head = HeadAt(component, 0);
-        const double middle = IsBelow(component, working, curve[0].head) ? working : most * 0.7;
-        curve[1].flow = middle;
-        curve[2].flow = most > middle * kAtEnd ? most : middle * kBeyond;
-        const double fall = kLeastFall * std::abs(curve[0].head);
-        for (std::size_t i = 1; i < curve.size(); ++i) {
-            curve[i].head = std::min(HeadAt(component, curve[i].flow), curve[i - 1].head - fall);
+    for (const PointResult& point : points) {
+        const int number = point.number;
+        if (network.node[number] != number) continue;
+        const std::string name = NodeName(network, number);
+        if (const int given = GivenPointOf(network, number); given != 0) {
+            reservoirs += LineText({name, PlainText(headOf(given))});
+        } else {
+            junctions += LineText({name, PlainText(point.height),
+                                   CubicMetresPerHour(network, DemandAt(network, number))});
         }
-        return curve;
     }
+    return junctions + reservoirs;
+}
 
-    bool IsBelow(const Component& component, double flow, double head) const {
-        return flow > 0 && HeadAt(component, flow) < head * (1 - kLeastFall);
+std::string Pipes(const EpanetNetwork& network) {
+    std::string text =
+        "\n[PIPES]\n;link from to length_m diameter_mm roughness_mm minor_loss status\n";
+    const double roughness =
+        std::max(network.settings.Roughness * kMillimetresPerMetre, kSmoothest);
+    for (const auto& [number, pipe] : DrawnPipes(network.work)) {
+        text += LineText({"pipe" + GeneralText(number), NodeName(network, pipe.StartPoint),
+                          NodeName(network, pipe.EndPoint), PlainText(DecimalDouble(pipe.Length)),
+                          PlainText(DiameterOf(network, number) * kMillimetresPerMetre),
+                          PlainText(roughness), PlainText(network.minorLoss[number]), "Open"});
     }
+    return text;
+}
 
-    double HeadAt(const Component& component, double through) const {
-        const PipeRec& pipe = work_.WorkPipes[component.pipeA];
-        const double flow = component.throughSign * through;
-        return Metres(ComponentLaw(settings_, component, pipe, flow, 0, 0).value);
+std::string CurveLines(const EpanetNetwork& network, const Component& pump) {
+    std::string text = ";PUMP: " + OneLine(pump.record.Name) + "\n";
+    const PipeRec& pipeA = network.work.WorkPipes[pump.pipeA];
+    for (const auto& [flow, head] :
+         HeadCurve(network.settings, pump, pipeA, FlowThrough(network, pump))) {
+        text += LineText(
+            {"curve" + GeneralText(pump.cell), CubicMetresPerHour(network, flow), PlainText(head)});
     }
+    return text;
+}
 
-    /// From the side that the flow comes from.
-    void WriteValve(const Component& component) {
-        const bool forward = FlowThrough(component) >= 0;
-        valves_ += " drop" + GeneralText(component.cell) + " " +
-                   NodeName(forward ? component.high : component.low) + " " +
-                   NodeName(forward ? component.low : component.high) + " " +
-                   PlainText(DiameterOf(component.pipeA) * kMillimetresPerMetre) + " PBV " +
-                   PlainText(Metres(DecimalDouble(component.record.Param2))) + " 0 ; " +
-                   OneLine(component.record.Name) + "\n";
+/// A fixed drop, from the side that the flow comes from.
+std::string ValveLine(const EpanetNetwork& network, const Component& loss) {
+    const bool forward = FlowThrough(network, loss) >= 0;
+    const double metres =
+        DecimalDouble(loss.record.Param2) / (network.settings.FluidDensity * kGravity);
+    return LineText({"drop" + GeneralText(loss.cell),
+                     NodeName(network, forward ? loss.high : loss.low),
+                     NodeName(network, forward ? loss.low : loss.high),
+                     PlainText(DiameterOf(network, loss.pipeA) * kMillimetresPerMetre), "PBV",
+                     PlainText(metres), "0 ;", OneLine(loss.record.Name)});
+}
+
+/// Pumps, fixed drops and the curves of the pumps.
+std::string Links(const EpanetNetwork& network) {
+    std::string pumps = "\n[PUMPS]\n;link suction delivery curve\n";
+    std::string valves = "\n[VALVES]\n;link from to diameter_mm type drop_m minor_loss\n";
+    std::string curves = "\n[CURVES]\n;curve flow_m3/h head_m\n";
+    for (const Component& component : network.plan.components) {
+        if (!IsLink(component)) continue;
+        if (component.record.Kind != CellKind::Pump) {
+            valves += ValveLine(network, component);
+            continue;
+        }
+        const std::string number = GeneralText(component.cell);
+        pumps += LineText({"pump" + number, NodeName(network, component.low),
+                           NodeName(network, component.high), "HEAD", "curve" + number, ";",
+                           OneLine(component.record.Name)});
+        curves += CurveLines(network, component);
     }
+    return pumps + valves + curves;
+}
 
-    std::string Options() const {
-        const double kinematic = settings_.FluidViscosity / settings_.FluidDensity;
-        return "\n[OPTIONS]\n; " + OneLine(settings_.FluidName) + ", density " +
-               PlainText(settings_.FluidDensity) + " kg/m3, dynamic viscosity " +
-               PlainText(settings_.FluidViscosity) + " N s/m2\n Units CMH\n Headloss D-W\n" +
-               " Specific Gravity " + PlainText(settings_.FluidDensity / kWaterDensity) +
-               "\n Viscosity " + PlainText(kinematic / kWaterViscosity) +
-               "\n Trials 200\n Accuracy 0.00001\n Unbalanced Continue 10\n" +
-               "\n[TIMES]\n Duration 0\n\n[REPORT]\n Nodes All\n Links All\n";
-    }
+std::string Options(const Settings& settings) {
+    const double kinematic = settings.FluidViscosity / settings.FluidDensity;
+    return "\n[OPTIONS]\n; " + OneLine(settings.FluidName) + ", density " +
+           PlainText(settings.FluidDensity) + " kg/m3, dynamic viscosity " +
+           PlainText(settings.FluidViscosity) + " N s/m2\n Units CMH\n Headloss D-W\n" +
+           " Specific Gravity " + PlainText(settings.FluidDensity / kWaterDensity) +
+           "\n Viscosity " + PlainText(kinematic / kWaterViscosity) +
+           "\n Trials 200\n Accuracy 0.00001\n Unbalanced Continue 10\n" +
+           "\n[TIMES]\n Duration 0\n\n[REPORT]\n Nodes All\n Links All\n";
+}
 
-    static constexpr double kCellUnits = 278;  ///< about a cell, in the units of the drawing
-
-    const Settings& settings_;
-    const WorkNetwork& work_;
-    const NetworkPlan plan_;
-    std::array<int, kMaxPoints + 1> node_{};  ///< the lowest point of each point's node
-    std::array<double, kMaxPipes + 1> minorLoss_{};
-    std::array<PointResult, kMaxPoints + 1> points_;
-    std::string junctions_, reservoirs_, pipes_, pumps_, valves_, curves_, coordinates_;
+/// Columns and rows, from the lower left.
+struct MapPlace {
+    double column = 0, row = 0;
 };
+
+/// A node beside a pump or a fixed drop moves a little along its pipe.
+MapPlace PlaceOf(const EpanetNetwork& network, int point) {
+    const PointRec& record = network.work.WorkPoints[point];
+    MapPlace place{record.X / kCellUnits, -record.Y / kCellUnits};
+    const auto towards = [](int from, int to) {
+        if (from == to) return 0.0;
+        return to > from ? kPumpReach : -kPumpReach;
+    };
+    for (const Component& component : network.plan.components) {
+        if (!IsLink(component) || (component.high != point && component.low != point)) continue;
+        const PipeRec& pieceA = network.work.WorkPipes[component.pipeA];
+        const PipeRec& pipe =
+            pieceA.IsEnd(point) ? pieceA : network.work.WorkPipes[component.pipeB];
+        const int sign = pipe.StartPoint == point ? 1 : -1;
+        place.column += sign * towards(pipe.X1, pipe.X2);
+        place.row -= sign * towards(pipe.Y1, pipe.Y2);
+    }
+    return place;
+}
+
+/// Only a drawing has places.
+std::string Coordinates(const EpanetNetwork& network) {
+    std::string text = "\n[COORDINATES]\n;node column row\n";
+    if (network.settings.Mode != WorkMode::Graphic) return text;
+    for (const auto& [number, point] : DrawnPoints(network.work)) {
+        if (network.node[number] != number) continue;
+        const MapPlace place = PlaceOf(network, number);
+        text +=
+            LineText({NodeName(network, number), PlainText(place.column), PlainText(place.row)});
+    }
+    return text;
+}
 
 }  // namespace
 
@@ -291,7 +185,10 @@ Result<std::string> EpanetInput(const RunRecord& run, std::string_view name,
     if (run.settings.EquationType == Equation::Compressible) {
         return Failure{std::string(kNoGasInEpanet)};
     }
-    return EpanetWriter(run).Text(name, description);
+    const EpanetNetwork network = EpanetNetworkOf(run);
+    return "[TITLE]\n Project: " + OneLine(name) + "\n " + OneLine(description) +
+           "\n Written by Idrova " + VersionText() + "\n" + Nodes(network) + Pipes(network) +
+           Links(network) + Options(network.settings) + Coordinates(network) + "\n[END]\n";
 }
 
 }  // namespace idrova

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "results/network_results.h"
 
-#include <array>
 #include <cmath>
+#include <map>
 
 #include "base/number_text.h"
 #include "hydraulics/fluid_density.h"
@@ -25,13 +25,12 @@ double FlowArea(const Settings& settings, const PipeRec& pipe) {
     return SectionGeometry(settings, pipe.Diameter, pipe.OuterSize).area;
 }
 
-std::array<double, kMaxPoints + 1> HeightsOf(const WorkNetwork& results) {
-    std::array<double, kMaxPoints + 1> heights{};
-    for (int i = results.WorkPipeCount; i >= 1; --i) {
-        const PipeRec& pipe = results.WorkPipes[i];
-        if (!pipe.IsDrawn()) continue;
-        heights[pipe.StartPoint] = pipe.Z1;
-        heights[pipe.EndPoint] = pipe.Z2;
+/// By point: the first pipe of each tells.
+std::map<int, double> HeightsOf(const WorkNetwork& results) {
+    std::map<int, double> heights;
+    for (const auto& [number, pipe] : DrawnPipes(results)) {
+        heights.try_emplace(pipe.StartPoint, pipe.Z1);
+        heights.try_emplace(pipe.EndPoint, pipe.Z2);
     }
     return heights;
 }
@@ -86,21 +85,21 @@ PipeResult ResultOfPipe(const Settings& settings, const WorkNetwork& results, in
 
 std::vector<PipeResult> PipeResults(const Settings& settings, const WorkNetwork& results) {
     std::vector<PipeResult> list;
-    for (int i = 1; i <= results.WorkPipeCount; ++i) {
-        if (results.WorkPipes[i].IsDrawn()) list.push_back(ResultOfPipe(settings, results, i));
+    for (const auto& [number, pipe] : DrawnPipes(results)) {
+        list.push_back(ResultOfPipe(settings, results, number));
     }
     return list;
 }
 
 std::vector<PointResult> PointResults(const Settings& settings, const WorkNetwork& results) {
-    const auto heights = HeightsOf(results);
+    auto heights = HeightsOf(results);
     const bool liquid = settings.EquationType == Equation::Incompressible;
     std::vector<PointResult> list;
-    for (int i = 1; i <= results.WorkPointCount; ++i) {
-        if (!results.WorkPoints[i].IsDrawn()) continue;
-        PointResult result{i, !results.WorkPressureUnknown[i], PressureAt(results, i), heights[i]};
+    for (const auto& [number, point] : DrawnPoints(results)) {
+        PointResult result{number, !results.WorkPressureUnknown[number], point.Pressure,
+                           heights[number]};
         if (liquid) {
-            result.head = heights[i] + result.pressure / (settings.FluidDensity * kGravity);
+            result.head = result.height + result.pressure / (settings.FluidDensity * kGravity);
         }
         list.push_back(result);
     }

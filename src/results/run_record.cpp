@@ -64,11 +64,10 @@ RunInputs InputsOf(const Project& project) {
 
 void TurnFlowsWith(const Project& project, RunRecord& record) {
     if (!record.results || record.settings.Mode != WorkMode::Graphic) return;
-    for (int i = 1; i <= record.results->WorkPipeCount; ++i) {
-        PipeRec& pipe = record.results->WorkPipes[i];
-        const int from = project.Pipes[i].FlowFromPoint;
-        if (!pipe.IsDrawn() || from == pipe.FlowFromPoint || !pipe.IsEnd(from)) continue;
-        pipe.FlowFromPoint = project.Pipes[i].FlowFromPoint;
+    for (const auto& [number, pipe] : DrawnPipes(*record.results)) {
+        const std::int16_t from = project.Pipes[number].FlowFromPoint;
+        if (from == pipe.FlowFromPoint || !pipe.IsEnd(from)) continue;
+        pipe.FlowFromPoint = from;
         pipe.FlowRate = -pipe.FlowRate;
     }
 }
