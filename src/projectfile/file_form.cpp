@@ -37,6 +37,17 @@ std::string NameToOpen(const std::string& path) {
     return onlyAsTyped ? path : extended;
 }
 
+/// The description that a project file holds; empty when it has none or cannot be read.
+std::string DescriptionIn(const std::filesystem::path& path) {
+    const Result<std::string> text = ReadWholeFile(path, kLargestProjectFile);
+    if (!text) return {};
+    ProjectLines lines(*text);
+    while (!lines.AtEnd() && !lines.PassKey(kDescriptionKey)) lines.LastText();
+    std::string description;
+    while (!lines.AtEnd()) description += lines.LastText();
+    return description;
+}
+
 FileChange Open(const std::string& title, Project& project, MessageBoxes& boxes) {
     switch (OpenProject(project, project.ProjectName, boxes)) {
         case OpenOutcome::Opened:
@@ -134,16 +145,6 @@ std::filesystem::path NearestFolder(std::filesystem::path folder) {
         folder = folder.parent_path();
     }
     return folder;
-}
-
-std::string DescriptionIn(const std::filesystem::path& path) {
-    const Result<std::string> text = ReadWholeFile(path, kLargestProjectFile);
-    if (!text) return {};
-    ProjectLines lines(*text);
-    while (!lines.AtEnd() && !lines.PassKey(kDescriptionKey)) lines.LastText();
-    std::string description;
-    while (!lines.AtEnd()) description += lines.LastText();
-    return description;
 }
 
 }  // namespace idrova

@@ -62,7 +62,4 @@ FileChange OpenNamedFile(const std::filesystem::path& path, Project& project, Me
 /// `folder`, or the closest folder above it that exists.
 std::filesystem::path NearestFolder(std::filesystem::path folder);
 
-/// The description that a project file holds; empty when it has none or cannot be read.
-std::string DescriptionIn(const std::filesystem::path& path);
-
 }  // namespace idrova

@@ -7,6 +7,7 @@
 #include "base/file.h"
 #include "base/markup_text.h"
 #include "base/number_text.h"
+#include "results/result_tables.h"
 
 namespace idrova {
 namespace {
@@ -16,8 +17,7 @@ std::string FieldOf(const ResultCell& cell) {
     return CsvField(std::get<std::string>(cell));
 }
 
-}  // namespace
-
+/// A line with the keys of the columns, then a line a row.
 std::string CsvText(const ResultTable& table) {
     std::string text;
     const char* comma = "";
@@ -34,6 +34,8 @@ std::string CsvText(const ResultTable& table) {
     }
     return text + "\n";
 }
+
+}  // namespace
 
 Status WriteCsvFiles(const RunRecord& run, Unit unit, const std::string& name,
                      const std::filesystem::path& folder) {

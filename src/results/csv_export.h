@@ -5,17 +5,13 @@
 #include <string>
 
 #include "base/result.h"
-#include "results/result_tables.h"
 #include "results/run_record.h"
 
 namespace idrova {
 
-/// The table as comma separated values in UTF-8: a line with the keys of the columns, then a line a
-/// row; numbers with a period and up to 7 digits, nothing for one that is not finite.
-std::string CsvText(const ResultTable& table);
-
-/// Writes NAME-pipes.csv, NAME-points.csv and NAME-components.csv into a folder, which is made when
-/// it is missing. The run must have results. The failure names the file.
+/// Writes NAME-pipes.csv, NAME-points.csv and NAME-components.csv, comma separated values in UTF-8,
+/// into a folder, which is made when it is missing: numbers with a period and up to 7 digits,
+/// nothing for one that is not finite. The run must have results. The failure names the file.
 Status WriteCsvFiles(const RunRecord& run, Unit unit, const std::string& name,
                      const std::filesystem::path& folder);
 

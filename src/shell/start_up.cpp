@@ -11,7 +11,8 @@ namespace idrova {
 namespace fs = std::filesystem;
 
 void CheckScreen(int widthPixels, MessageBoxes& boxes) {
-    if (widthPixels < kMinScreenWidth) boxes.Show(kSmallScreen);
+    constexpr int narrowest = 1024;
+    if (widthPixels < narrowest) boxes.Show(kSmallScreen);
 }
 
 std::string VersionLine() {

@@ -13,10 +13,9 @@ namespace idrova {
 /// only the period, so the machine's regional settings are neither asked nor changed. The window
 /// layer sets its toolkit and the C library to the same format for the toolkit's own fields.
 
-constexpr int kMinScreenWidth = 1024;      ///< pixels
 constexpr int kSplashMilliseconds = 3000;  ///< how long the splash window stays
 
-/// Warns of a screen narrower than `kMinScreenWidth`; the program carries on in any case.
+/// Warns of a screen narrower than 1024 pixels; the program carries on in any case.
 void CheckScreen(int widthPixels, MessageBoxes& boxes);
 
 /// "ver. " and the version text, as the splash and about windows show it.

@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <gmock/gmock.h>
 
-#include <map>
+#include <regex>
 
 #include "results/csv_export.h"
 #include "results/epanet_input.h"
 #include "results/html_report.h"
+#include "results/network_results.h"
+#include "results/result_tables.h"
 #include "support/markup_check.h"
-#include "support/networks.h"
+#include "support/network_run.h"
 #include "support/temp_folder.h"
 
 namespace idrova {
@@ -70,52 +72,84 @@ RunRecord Plant() {
     return run;
 }
 
-/// The fields of each line, as a spreadsheet reads them.
-std::vector<std::vector<std::string>> ReadCsv(const std::string& text) {
-    std::vector<std::vector<std::string>> lines{{""}};
-    bool quoted = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (c == '"' && quoted && text[i + 1] == '"') {
-            lines.back().back() += text[++i];
-        } else if (c == '"') {
-            quoted = !quoted;
-        } else if (c == ',' && !quoted) {
-            lines.back().emplace_back();
-        } else if (c == '\n' && !quoted) {
-            lines.push_back({""});
-        } else {
-            lines.back().back() += c;
-        }
-    }
-    lines.pop_back();
-    return lines;
-}
-
-TEST(Exports, CsvFilesHoldTheTables) {
+TEST(Exports, CsvFilesHoldTheTablesWhole) {
+    RunRecord run = Plant();
+    WorkNetwork& work = *run.results;
+    work.WorkPipes[4].FlowFromPoint = 6;  // its end
+    work.WorkFlowUnknown[4] = false;
+    work.WorkPipes[5].X1 = work.WorkPoints[8].X = kDeleted;
+    work.WorkPipes[6].FlowRate = work.WorkPipes[7].FlowRate = -3;
+    work.WorkComponents[1].record.Name = "a\nb";
     const TempFolder folder;
-    const RunRecord run = Plant();
     ASSERT_TRUE(WriteCsvFiles(run, Unit::Bar, "a, b", folder / "new/deep"));
-    std::map<std::string, std::vector<std::vector<std::string>>> files;
-    for (const char* kind : {"pipes", "points", "components"}) {
-        files[kind] = ReadCsv(FileBytes(folder / ("new/deep/a, b-" + std::string(kind) + ".csv")));
-        for (const auto& line : files[kind]) EXPECT_EQ(line.size(), files[kind][0].size());
-    }
-    EXPECT_EQ(files["pipes"].size(), 8U);
-    EXPECT_EQ(files["pipes"][4][3], "-7200");
-    EXPECT_EQ(files["points"].size(), 12U);
-    EXPECT_EQ(files["components"][0][3], "flow_kg_h");
-    EXPECT_EQ(files["components"][1],
-              (std::vector<std::string>{"7", kName, "pump", "18000", "196200", "", "0", "36000",
-                                        "within"}));
-    EXPECT_EQ(CsvText({NoteOn::Cell, {{"name", "", ""}}, {{1, {"a\nb"}}, {2, {0.05}}}}),
-              "name\n\"a\nb\"\n0.05\n");
+    const auto file = [&folder](const std::string& kind) {
+        return FileBytes(folder / ("new/deep/a, b-" + kind + ".csv"));
+    };
+    EXPECT_EQ(
+        file("pipes"),
+        R"(pipe,from,to,flow_kg_h,flow_m3_h,flow_is,velocity_m_s,reynolds,drop_Pa,friction_Pa_m,diameter_mm,length_m
+1,1,2,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50
+2,3,4,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50
+3,5,6,18000,18,computed,0.9947478,39789.91,0,0,80,50
+4,6,7,-7200,-7.2,given,-1.018622,25465.54,245250,4316.4,50,50
+6,6,11,-10800,-10.8,computed,-1.527932,38198.31,98100,1962,50,50
+7,10,9,-10800,-10.8,computed,-1.527932,38198.31,9810,588.6,50,50
+)");
+    EXPECT_EQ(file("points"), R"(point,pressure_Pa,pressure_bar,pressure_is,height_m,head_m
+1,98100,0.9681717,given,0,10
+2,88290,0.8713546,computed,0,9
+3,284490,2.807698,computed,0,29
+4,274680,2.710881,computed,0,28
+5,245250,2.420429,computed,0,25
+6,245250,2.420429,computed,0,25
+7,0,0,computed,3,3
+9,39240,0.3872687,given,-2,2
+10,49050,0.4840859,computed,0,5
+11,147150,1.452258,computed,0,15
+)");
+    EXPECT_EQ(file("components"),
+              R"(cell,name,kind,flow_kg_h,rise_Pa,drop_Pa,lowest_flow_kg_h,highest_flow_kg_h,range
+7,"Pump ""A"", <3> & Größe; 2",pump,18000,196200,,0,36000,within
+9,"a
+b",loss,18000,,29430,,,
+11,filter,loss,10800,,98100,,,
+)");
 
     PutFile(folder / "file", "old");
-    const Status refused = WriteCsvFiles(run, Unit::Bar, "a", folder / "file");
-    ASSERT_FALSE(refused);
-    EXPECT_THAT(refused.Error(), HasSubstr("a-pipes.csv"));
+    EXPECT_THAT(WriteCsvFiles(run, Unit::Bar, "a", folder / "file").Error(),
+                HasSubstr("a-pipes.csv"));
     EXPECT_EQ(FileBytes(folder / "file"), "old");
+}
+
+TEST(Exports, AGasHasItsRealVelocityADuctItsOwnSectionAndSides) {
+    RunRecord run = Plant();
+    NetworkBuilder air;
+    MakeAir(*air);
+    Settings& settings = air->settings;
+    const double pascal = 101325 + 9.5 * kMetre;  // absolute mean
+    const double density = 1.2929 * pascal / 101325 * 273.15 / 293.15 / .98;
+    const PipeResult gas = ResultOfPipe(settings, *run.results, 1);
+    EXPECT_NEAR(gas.velocity, 5 / density / (.1 * .1 * 3.1415 / 4), 1e-4);
+    EXPECT_NEAR(gas.volumeFlow, 5 / 1.2929, 1e-9);
+    EXPECT_FALSE(PointResults(settings, *run.results)[0].head);
+    settings.SectionType = Section::Rectangular;
+    run.results->WorkPipes[1].OuterSize = .2F;
+    EXPECT_NEAR(ResultOfPipe(settings, *run.results, 1).velocity, 5 / density / (.1 * .2), 1e-4);
+    EXPECT_EQ(PipeTable(settings, *run.results).columns.back().key, "side_b_mm");
+}
+
+TEST(Exports, APumpIsInItsRangeOrOutside) {
+    RunRecord run = Plant();
+    CellRec& pump = run.results->WorkComponents[0].record;
+    pump.MinFlow = 1;
+    pump.MaxFlow = 3;
+    for (const auto& [flow, range] :
+         {std::pair(-2.0F, "outside"), {3.0F, "within"}, {3.1F, "outside"}, {.9F, "outside"}}) {
+        run.results->WorkPipes[1].FlowRate = pump.Result = flow;
+        EXPECT_EQ(ComponentTable(*run.results).rows[0].cells.back(), ResultCell(range)) << flow;
+    }
+    pump.Placed = false;
+    EXPECT_EQ(ComponentTable(*run.results).rows.size(), 2U);
 }
 
 TEST(Exports, HtmlIsWellFormedAndTellsAll) {
@@ -127,10 +161,15 @@ TEST(Exports, HtmlIsWellFormedAndTellsAll) {
     for (const char* part :
          {"<h1>Pump &quot;A&quot;, &lt;3&gt; &amp; Größe; 2</h1>", "<p>a &quot;b&quot;</p>",
           "<li>Pipe 4 is &lt; 3 &amp; odd</li>", "<svg></svg>", "<td>Wasser &lt;60 °C&gt;</td>",
-          "2026-11-22 at 21:55:26", "<td class=\"number\">-7200.0</td>", "<br/>mbar</th>",
-          "<td>Incompressible fluid</td>", "<h2>Components</h2>", "<p>Computed, 1 note</p>"}) {
+          "2026-11-22 at 21:55:26", "<br/>mbar</th>", "<td>Incompressible fluid</td>",
+          "<h2>Components</h2>", "<p>Computed, 1 note</p>"}) {
         EXPECT_THAT(page, HasSubstr(part));
     }
+    const std::string cells = std::regex_replace(page, std::regex("<[^<]*>"), "|");
+    EXPECT_THAT(cells, HasSubstr("|4||7||6||-7200.0||-7.200||computed||-1.019||25466||-245250.0||"
+                                 "-4316.40||50.0||50.00|"));
+    EXPECT_THAT(cells, HasSubstr("|1||98100||968.2||given||0||10.00|"));
+    EXPECT_THAT(cells, HasSubstr("|pump||18000.0||196200||||0.0||36000.0||within|"));
     EXPECT_EQ(page.find("Temperature"), std::string::npos);
     run.settings.EquationType = Equation::Compressible;
     run.results->WorkComponents.clear();

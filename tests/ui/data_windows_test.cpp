@@ -62,38 +62,30 @@ TEST_F(MainWindow, DataWindowOpensOnceIsUsedByKeyboardAndClosesByEscape) {
 TEST_F(MainWindow, TypedSettingsAreTaken) {
     Open("tt", "FrmRug");
     QTest::keyClicks(QApplication::focusWidget(), ".002");
-    EXPECT_EQ(Shown("Text1"), ".002") << "typing replaces what the window opened with";
-    Do("Text1=-0.001;Command1");
-    ASSERT_NE(Window("FrmRug"), nullptr) << "a negative one is not";
-    Do("Text1=.00025;Text1!");
-    EXPECT_EQ(Window("FrmRug"), nullptr);
-    EXPECT_EQ(project.settings.Roughness, 0.00025);
-    EXPECT_EQ(Shown("RoughnessLabel"), "2.50E-4");
-    EXPECT_TRUE(Item("tt").isChecked() && !Item("t1").isChecked());
-
     const QString editor = QString::fromStdString((folder / "my editor").string());
     PutFile(folder / "my editor", "");
     boxes.Expect(kEditorNotFound);
-    Open("Editor", "FrmCon");
-    Do("Command1;Combo1=" + editor + ";Command1");
-    EXPECT_EQ(Window("FrmCon"), nullptr);
-    Open("Editor", "FrmCon");
-    EXPECT_EQ(Shown("Combo1"), editor);
+    Walk(R"(
+        # Text1 # .002 # typing replaces what the window opened with
+        Text1=-0.001;Command1 # FrmRug # Idrova - roughness # a negative one is not taken
+        Text1=.00025;Text1! # FrmRug RoughnessLabel tt t1 # |2.50E-4|1|0
+        Editor>FrmCon;Command1;Combo1=)" +
+         editor + R"(;Command1 # FrmCon #
+        Editor>FrmCon # Combo1 # )" +
+         editor);
+    EXPECT_EQ(project.settings.Roughness, 0.00025);
 
     project.settings.BasePressure = 202650;
     project.settings.FluidTemperature = 20.5F;
-    Open("PresMini", "FrmPMin");
-    EXPECT_EQ(Shown("Text1 Text2"), "2|20.5");
-    Do("Text1=3;Text2=cold;Command1");
+    Walk(R"(PresMini>FrmPMin # Text1 Text2 # 2|20.5
+            Text1=3;Text2=cold;Command1)");
     EXPECT_EQ(project.settings.BasePressure, 303975);
     EXPECT_EQ(project.settings.FluidTemperature, 0);
 
     project.numtubo = project.CurrentPipe = 1;
     boxes.Expect(kCancelLengths, Answer::No);
-    Open("Veloce", "FrmVel");
-    Do("Command2;Text1=3600;Text2=-5");
-    EXPECT_EQ(Shown("Text2"), "0");
-    Do("Text2=100;Combo2#3;Text1!;Text2!;Text3!");
+    Walk(R"(Veloce>FrmVel;Command2;Text1=3600;Text2=-5 # Text2 # 0
+            Text2=100;Combo2#3;Text1!;Text2!;Text3!)");
     EXPECT_EQ(project.Pipes[1].FlowRate, 1);
     window = mdi->findChild<QWidget*>("FrmCom");
     EXPECT_EQ(Shown("Text6 Text7"), "100|27.9");

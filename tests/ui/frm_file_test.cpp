@@ -2,7 +2,6 @@
 #include "ui/windows/frm_file.h"
 
 #include <QListWidget>
-#include <QStatusBar>
 
 #include "drawing_window.h"
 #include "physdata/settings_file.h"
@@ -25,14 +24,6 @@ class FileWindow : public DrawingWindow {
         PutFile(folder / "old.iv", "2.5\r\nProject description\r\nan old plant\r\n");
     }
 
-    /// The entries of a list, ".. plants".
-    QString Items(const char* name) {
-        const auto& list = Child<QListWidget>(name);
-        QStringList items;
-        for (int i = 0; i < list.count(); ++i) items.append(list.item(i)->text());
-        return items.join(' ');
-    }
-
     void ClickFile(const QString& text, Qt::MouseButton button = Qt::LeftButton) {
         auto& list = Child<QListWidget>("File1");
         const QPoint place =
@@ -49,105 +40,86 @@ class FileWindow : public DrawingWindow {
 };
 
 TEST_F(FileWindow, SavesUnderTheTypedNameAndSavesThereAgain) {
-    Open("Salva", "FrmFile");
-    EXPECT_EQ(window->windowTitle(), "Idrova - Save project");
+    fs::create_directory(folder / "taken.iv");
     boxes.Expect(kNameNotAllowed)
         .Expect(SaveFailed((folder / "taken.iv").string() + " is a folder"));
-    Do("Text3=a/");
-    EXPECT_EQ(Shown("Text3"), "");
-    fs::create_directory(folder / "taken.iv");
-    Do("Text3=taken;Text4=two loops;Text4!");
-    Choose("Salva2");
-    EXPECT_EQ(Shown("Text3 Text4"), "taken|two loops") << "neither failure nor command empties it";
-    Do("Text3=plant");
-    EXPECT_EQ(Shown("Text2"), Path("plant"));
-    Do("Text4!");
-    EXPECT_EQ(Window("FrmFile"), nullptr);
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [plant]");
+    Walk(R"(
+        Salva>FrmFile # FrmFile # Idrova - Save project
+        Text3=a/ # Text3 #
+        Text3=taken;Text4=two loops;Text4!;Salva2 # Text3 Text4 # taken|two loops # all stays
+        Text3=plant # Text2 # )" +
+         Path("plant") + R"(
+        Text4! # FrmFile MDI # |Idrova 2.6.3 - [plant])");
 
     project.ProjectDescription = "changed";
     boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kOverwriteFile, Answer::No);
-    Choose("Salva");
+    Do("Salva");
     EXPECT_NE(FileBytes(folder / "plant.iv").find("changed"), std::string::npos);
-    Open("Salva2", "FrmFile");
-    Do("Text3=old;Command1");
-    EXPECT_EQ(mdi->windowTitle() + Shown("Text3"), "Idrova 2.6.3 - [plant]old") << "stays open";
+    Walk("Salva2>FrmFile;Text3=old;Command1 # MDI Text3 # Idrova 2.6.3 - [plant]|old");
 }
 
 TEST_F(FileWindow, ListsFollowTheDriveTheFolderAndTheFilter) {
-    Open("Apri", "FrmFile");
-    EXPECT_EQ(window->windowTitle(), "Idrova - Open project");
-    EXPECT_EQ(Items("File1") + "|" + Items("Dir1"), "old.iv|.. plants");
-    Do("Text3=own");
-    Child<QWidget>("Dir1").setFocus();
-    QTest::keyClick(&Child<QWidget>("Dir1"), Qt::Key_Tab);
+    Walk(R"(
+        Apri>FrmFile # FrmFile File1* Dir1* # Idrova - Open project|old.iv|.. plants
+        Text3=own;Dir1!Tab # Text3 # own # the first file of the list is not chosen)");
     ASSERT_TRUE(Child<QWidget>("File1").hasFocus());
-    EXPECT_EQ(Shown("Text3"), "own") << "the first file of the list is not chosen";
     ClickFile("old.iv", Qt::RightButton);
     QApplication::processEvents();
-    EXPECT_EQ(Shown("Text2 Text3 Text4"), Path("old.iv") + "|old.iv|an old plant");
+    Walk("# Text2 Text3 Text4 # " + Path("old.iv") + "|old.iv|an old plant");
     EnterFolder(1);
     ASSERT_NE(Window("FrmFile"), nullptr) << "Return in the list of folders opens no file";
-    EXPECT_EQ(Shown("Text2"), Path("plants/old.iv"));
-    EXPECT_EQ(Items("File1"), "");
+    Walk("# Text2 File1* # " + Path("plants/old.iv") + "|");
     for (const char* filter : {"*.txt", "*.iv;*.txt"}) {
         Child<QLineEdit>("Text1").setText(filter);
-        EXPECT_EQ(Items("File1"), "notes.txt");
+        EXPECT_EQ(Shown("File1*"), "notes.txt");
     }
     fs::rename(folder / "plants", folder / "moved");
     EnterFolder(0);
-    EXPECT_EQ(Items("Dir1"), ".. moved");
+    EXPECT_EQ(Shown("Dir1*"), ".. moved");
     fs::remove_all(folder / "moved");
     boxes.Expect(FolderUnreadable((folder / "moved").string()));
     EnterFolder(1);
-    EXPECT_EQ(Items("Dir1"), "..");
+    EXPECT_EQ(Shown("Dir1*"), "..");
     auto& drives = Child<QComboBox>("Drive1");
-    drives.setCurrentText("/");
-    Q_EMIT drives.activated(drives.currentIndex());
+    const auto enterDrive = [&drives](const QString& drive) {
+        drives.setCurrentText(drive);
+        Q_EMIT drives.activated(drives.currentIndex());
+    };
+    enterDrive("/");
     EXPECT_EQ(Shown("Text2"), "/old.iv");
-    EXPECT_TRUE(Items("Dir1").contains("tmp") && !Items("Dir1").contains(".."));
-    drives.setCurrentText(PathToQt(folder.Path()));
-    Q_EMIT drives.activated(drives.currentIndex());
+    EXPECT_TRUE(Shown("Dir1*").contains("tmp") && !Shown("Dir1*").contains(".."));
+    enterDrive(PathToQt(folder.Path()));
     EXPECT_EQ(Shown("Text2"), Path("old.iv")) << "the working folder is one of the places";
 }
 
 TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
-    Draw(1, 1, 9, 1);
+    Do("L1,1;L9,1");
     project.ProjectDescription = "to be found again";
     ASSERT_TRUE(WriteProject(project, folder / "saved.iv"));
     project.ProjectDescription.clear();
-    Draw(2, 5, 8, 5);
-    Select(5, 5);
-    Do("Text6=3");
-    EXPECT_EQ(Shown("Frame3 Text6"), "Pipe 2|3");
-    Open("Apri", "FrmFile");
-    Do("Command1");
-    ASSERT_NE(Window("FrmFile"), nullptr) << "nothing is chosen yet";
+    Walk(R"(L2,5;L8,5;R5,5;Text6=3 # Frame3 Text6 # Pipe 2|3
+            Apri>FrmFile;Command1 # FrmFile # Idrova - Open project # nothing is chosen yet)");
     ClickFile("saved.iv");
     Do("Command1");
     const std::string unsaved = FileBytes(folder / kUnsavedFile);
     EXPECT_NE(unsaved, "") << "both pipes had not been saved";
-    EXPECT_EQ(mdi->statusBar()->currentMessage(), "Unsaved work is kept in " + Path("unsaved.iv"));
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
+    Walk("# message # Unsaved work is kept in " + Path("unsaved.iv") + R"(
+            # MDI Frame3 Text6 # Idrova 2.6.3 - [saved.iv]|Pipe|
+            # enabled Frame3 #)");
     EXPECT_EQ(project.ProjectDescription, "to be found again");
     EXPECT_EQ(LinesDrawn(), 1);
-    EXPECT_EQ(Shown("Frame3 Text6") + Enabled("Frame3"), "Pipe|");
     project.Pipes[1].Length = 77;
     OpenFile(*mdi, folder / kUnsavedFile);
     EXPECT_EQ(LinesDrawn(), 2) << "not what was open just now";
     EXPECT_EQ(FileBytes(folder / "unsaved.iv~"), unsaved);
     OpenFile(*mdi, folder / "saved.iv");
 
-    Open("Apri", "FrmFile");
-    Child<QWidget>("Command2").setFocus();
-    Do("Command2!");
-    EXPECT_EQ(Window("FrmFile"), nullptr);
+    Walk("Apri>FrmFile;Command2! # FrmFile #");
     PutFile(folder / "broken.iv", "2.6.3\r\nnumtubo\r\nmany\r\n");
     boxes.Expect(ProjectMalformed("line 3: item 1 is not a number"))
         .Expect(kLeaveProject, Answer::Cancel);
     OpenFile(*mdi, folder / "broken.iv");
-    Choose("Nuovo");
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [saved.iv]");
+    Walk("Nuovo # MDI # Idrova 2.6.3 - [saved.iv]");
 
     PutFile(folder / "old.iv", "2.4");
     program->table.Set(2, 7, "12");
@@ -157,12 +129,9 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
     EXPECT_EQ(LinesDrawn(), 0) << "a refused project leaves an empty drawing";
     EXPECT_EQ(program->table, TableTexts());
 
-    Draw(2, 5, 8, 5);
-    Select(5, 5);
-    Choose("Tabella");
+    Do("L2,5;L8,5;R5,5;Tabella");
     OpenFile(*mdi, folder / "saved.iv");
-    Choose("Grafico");
-    EXPECT_EQ(Shown("Frame3"), "Pipe") << "opened beside the table, too";
+    Walk("Grafico # Frame3 # Pipe # opened beside the table, too");
 }
 
 TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
@@ -171,35 +140,26 @@ TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
     stored.settings.FluidTemperature = 20;
     stored.settings.Roughness = .002;
     ASSERT_TRUE(WriteSettingsOf(folder / "gas.iv", stored));
-    const auto& bar = Child<QWidget>("SettingsBar");
     const auto open = [&] { OpenFile(*mdi, folder / "gas.iv"); };
     open();
-    EXPECT_TRUE(bar.isVisible() &&
-                Shown("SettingsOffer").endsWith("roughness 2 mm, temperature 20 °C"));
+    EXPECT_TRUE(Shown("SettingsOffer").endsWith("roughness 2 mm, temperature 20 °C"));
     EXPECT_EQ(project.settings.FluidTemperature, 0);
     boxes.Expect(kOverwriteFile, Answer::Yes);
-    Choose("Salva");
-    EXPECT_TRUE(bar.isVisible());
-    Do("SettingsKeep");
-    EXPECT_FALSE(bar.isVisible());
+    Walk(R"(Salva # SettingsBar? # 1
+            SettingsKeep # SettingsBar? # 0)");
     open();
-    ASSERT_TRUE(bar.isVisible()) << "a save before the choice has left them alone";
-    Do("SettingsUse");
-    EXPECT_FALSE(bar.isVisible());
+    Walk(R"(# SettingsBar? # 1 # a save before the choice has left them alone
+            SettingsUse # SettingsBar? RoughnessLabel # 0|partially rusty...  2.00E-3)");
     EXPECT_EQ(project.settings, stored.settings);
-    EXPECT_EQ(Shown("RoughnessLabel"), "partially rusty...  2.00E-3");
-    Choose("Rettangolare");
-    boxes.Expect(kOverwriteFile, Answer::Yes);
-    Choose("Salva");
+    boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kLeaveProject, Answer::Ok);
+    Do("Rettangolare;Salva");
     EXPECT_EQ((*ReadSettingsOf(folder / "gas.iv"))->settings.SectionType, Section::Rectangular);
     open();
-    EXPECT_FALSE(bar.isVisible()) << "they are the present ones";
+    Walk("# SettingsBar? # 0 # they are the present ones");
     PutFile(folder / "gas.settings.json", "{");
     open();
-    EXPECT_TRUE(bar.isVisible() && !Child<QWidget>("SettingsUse").isVisible());
-    boxes.Expect(kLeaveProject, Answer::Ok);
-    Choose("Nuovo");
-    EXPECT_FALSE(bar.isVisible());
+    Walk(R"(# SettingsBar? SettingsUse? # 1|0
+            Nuovo # SettingsBar? # 0)");
 }
 
 TEST(Drives, TheLongestStartOfThePathHoldsTheFolder) {

@@ -27,9 +27,8 @@ class SinglePipeWindow : public MainWindow {
 TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses) {
     project.Pipes[1].FlowRate = 7;
     project.settings.SectionType = Section::Rectangular;  // of the drawing: a single pipe is round
-    Do("Text2=2;Text3=1;Text1=100");
-    EXPECT_EQ(Shown("Text4 Velocity"), "|") << "there is no diameter yet";
-    Do("Combo2#6");
+    Walk(R"(Text2=2;Text3=1;Text1=100 # Text4 Velocity # | # there is no diameter yet
+            Combo2#6 # StatusOutcome # Computed)");
     project.settings.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
     double taken = flow;
@@ -39,7 +38,6 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses)
               FixedText(flow / 998.2 / area, 3) + "|1013.25");
     const auto& arrow = Child<QWidget>("FlowArrow");
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 1 to point 2");
-    EXPECT_EQ(Child<QAbstractButton>("StatusOutcome").text(), "Computed");
     EXPECT_TRUE(FileBytes(folder / "out.dat").empty());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !FileBytes(folder / "out.dat").empty(); }));
     EXPECT_NE(FileBytes(folder / "out.dat").find("   Diameter [mm]"), std::string::npos);
@@ -49,13 +47,10 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses)
     EXPECT_EQ(arrow.accessibleName(), "Flow from point 2 to point 1");
     Do("LossSum=1000");
     EXPECT_LT(Value("Text4") / 3600, .5 * flow);
-    Do("LossSum=");
-    Choose("t4");
+    Do("LossSum=;t4");
     EXPECT_LT(Value("Text4") / 3600, .9 * flow) << "a setting changes it too";
-    Choose("t1");
-    const QString smooth = Shown("Text4");
-    Do("Text1=");
-    EXPECT_EQ(Shown("Text4"), smooth) << "it stays";
+    Do("t1");
+    Walk("Text1= # Text4 # " + Shown("Text4"));
     EXPECT_TRUE(IsGrey("Text4") && IsGrey("Velocity"));
     Do("Text1=100");
     EXPECT_FALSE(IsGrey("Text4") || IsGrey("Velocity"));
@@ -76,17 +71,15 @@ TEST_F(SinglePipeWindow, UnknownIsYellowAndLockedAndItsArrowsAreToo) {
 }
 
 TEST_F(SinglePipeWindow, StepsAndTurnsTheFlowToFindAPressure) {
-    Do("OptInc_1;Text2=3;Text1=100;Text5=53.8;Command7;Command7;Command8;Command3;Command2");
-    EXPECT_EQ(Shown("Text4 Text2 Text1"), "100|3.1|99");
-    Child<QWidget>("Text1").setFocus();
-    QTest::keyClick(&Child<QWidget>("Text1"), Qt::Key_Up);
-    EXPECT_EQ(Shown("Text1"), "100");
-    Do("Text4=9000");
+    Walk(R"(OptInc_1;Text2=3;Text1=100;Text5=53.8;Command7;Command7;Command8;Command3;Command2
+            # Text4 Text2 Text1 # 100|3.1|99
+            Text1!Up # Text1 # 100
+            Text4=9000)");
     const double forward = Value("Text3");
     EXPECT_LT(forward, 3.05);
     Do("Command9");
     EXPECT_NEAR(Value("Text3") - 3.1, 3.1 - forward, 0.011);
-    QTest::keyClick(&Child<QWidget>("Text1"), Qt::Key_Tab);
+    Do("Text1!Tab");
     EXPECT_EQ(QApplication::focusWidget()->objectName(), "Text4") << "past arrows and unknown";
     Do("OptInc_2;Text5=50");
     boxes.Expect(RefusalBox({RefusalKind::TooManyTerms, {}, 3, 1, 3}));  // once, not with every key

@@ -20,14 +20,39 @@ using namespace table_column;
 
 class TableWindow : public MainWindow {
   protected:
-    TableWindow() { Open("Tabella", "FrmTable"); }
+    void SetUp() override { Do("Tabella>FrmTable"); }
+
+    /// "5.2=1.5" puts a text into row 5, column 2, "5.2" and "5.2-6.4" select cells, "Fill down"
+    /// runs this command of the table.
+    void Take(const QString& step) override {
+        static const QRegularExpression form("^(\\d+)\\.(\\d+)(?:-(\\d+)\\.(\\d+))?(=.*)?$");
+        if (Window("FrmTable") == nullptr) return MainWindow::Take(step);
+        for (QAction* action : View().actions()) {
+            if (action->text().remove('&') == step) return action->trigger();
+        }
+        const QRegularExpressionMatch part = form.match(step);
+        const auto n = [&part](int group) { return part.captured(group).toInt(); };
+        if (!part.hasMatch()) return MainWindow::Take(step);
+        const QModelIndex cell = Cell(n(1), n(2));
+        const QString text = part.captured(5).mid(1);
+        if (step.contains('=')) return void(View().model()->setData(cell, text));
+        View().setCurrentIndex(cell);
+        View().selectionModel()->select({cell, n(3) == 0 ? cell : Cell(n(3), n(4))},
+                                        QItemSelectionModel::ClearAndSelect);
+    }
+
+    /// Of "5.2" the text in row 5, column 2; of "cursor" where it stands.
+    QString TextOf(const QString& name) override {
+        static const QRegularExpression form("^(\\d+)\\.(\\d+)$");
+        const QRegularExpressionMatch part = form.match(name);
+        const QModelIndex at = View().currentIndex();
+        if (name == "cursor") return QString("%1.%2").arg(at.row() + 2).arg(at.column());
+        if (!part.hasMatch()) return MainWindow::TextOf(name);
+        return Cell(part.captured(1).toInt(), part.captured(2).toInt()).data().toString();
+    }
 
     QTableView& View() { return Child<QTableView>("TxtTab"); }
     QModelIndex Cell(int row, int column) { return View().model()->index(row - 2, column); }
-    QString Text(int row, int column) { return Cell(row, column).data().toString(); }
-    void Put(int row, int column, const char* text) {
-        View().model()->setData(Cell(row, column), text);
-    }
 
     /// Presses keys from a cell on; '#' is F2.
     void Keys(int row, int column, const char* keys) {
@@ -42,19 +67,13 @@ class TableWindow : public MainWindow {
         }
     }
 
-    /// Selects cells and chooses a command of the table, with this text on the clipboard.
-    void On(int row, int column, int lastRow, int lastColumn, const char* caption,
-            const QString& clipboard = {}) {
-        if (!clipboard.isEmpty()) QApplication::clipboard()->setText(clipboard);
-        View().setCurrentIndex(Cell(row, column));
-        View().selectionModel()->select({Cell(row, column), Cell(lastRow, lastColumn)},
-                                        QItemSelectionModel::ClearAndSelect);
-        Press(caption);
+    void Paste(const QString& cell, const QString& text) {
+        QApplication::clipboard()->setText(text);
+        Do(cell + ";Paste");
     }
-    void Press(const char* caption, int times = 1) {
-        for (QAction* action : View().actions()) {
-            for (int i = 0; action->text() == caption && i < times; ++i) action->trigger();
-        }
+
+    bool HasGround(int row, int column) {
+        return Cell(row, column).data(Qt::BackgroundRole).isValid();
     }
 };
 
@@ -63,28 +82,28 @@ TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
     EXPECT_EQ(View().model()->headerData(98, Qt::Vertical), "99");
     EXPECT_FALSE(Cell(5, kNumber).flags() & Qt::ItemIsEditable);
-    EXPECT_FALSE(Cell(2, kFlowRate).data(Qt::BackgroundRole).isValid());
-    Put(2, kEndPoint, "1");
+    EXPECT_FALSE(HasGround(2, kFlowRate));
+    Do("2.3=1");
     EXPECT_EQ(Cell(2, kFlowRate).data(Qt::BackgroundRole).value<QColor>(), QColor(0xFF8080));
-    Put(2, kFlowRate, "0");
-    EXPECT_FALSE(Cell(2, kFlowRate).data(Qt::BackgroundRole).isValid());
+    Do("2.8=0");
+    EXPECT_FALSE(HasGround(2, kFlowRate));
 
     Keys(2, kStartPoint, "1\t3\t2\t");
-    EXPECT_EQ(View().currentIndex(), Cell(2, kEndPressure));
+    EXPECT_EQ(Shown("cursor"), "2.4");
     Keys(2, kEndPressure, "1.5\n");
-    EXPECT_EQ(View().currentIndex(), Cell(3, kEndPressure));
+    EXPECT_EQ(Shown("cursor"), "3.4");
     Keys(3, kStartPoint, "2\n");
     EXPECT_EQ(project.TableRows[3].StartPressure, 151987.5F) << "as row 2 has it";
     Keys(2, kLossSum, "\t");
-    EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
+    EXPECT_EQ(Shown("cursor"), "3.1");
     Keys(2, kEndPressure, "#5\n");
-    EXPECT_EQ(Text(2, kEndPressure), "5") << "F2 edits the cell";
+    EXPECT_EQ(Shown("2.4"), "5") << "F2 edits the cell";
     Keys(2, kLength, "1,5");
-    Choose("p_mbar");
+    Do("p_mbar");
     EXPECT_EQ(project.TableRows[2].RowLength, 1.5F) << "a command takes what is being typed";
     Keys(2, kLength, "12");
     boxes.Expect(kSelectAFluid);
-    Child<QAbstractButton>("Command1").click();
+    Do("Command1");
     EXPECT_EQ(project.TableRows[2].RowLength, 12) << "and so does the computation";
     EXPECT_EQ(View().model()->headerData(kEndPressure, Qt::Horizontal), "P2 [mbar]");
 }
@@ -106,8 +125,7 @@ TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
         EXPECT_EQ(View().findChild<QComboBox*>(), nullptr) << "no closed list is left";
     };
     close(open("2"), Qt::Key_Return);
-    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "2\"53.8") << "keys search the list";
-    Put(4, kNominalSize, "1 1/2");
+    Walk("# 4.5 4.6 # 2\"|53.8 # keys search the list\n 4.5=1 1/2");
     for (const char* keys : {"25", "6", "#"}) {
         QComboBox& list = open(keys);
         EXPECT_EQ(list.currentIndex(), 5) << "nothing is chosen, with or without the inch mark";
@@ -118,76 +136,63 @@ TEST_F(TableWindow, OnlyAChoiceFromTheOpenListOverTheCellSetsTheSize) {
         list.hidePopup();
         QWheelEvent turned(QPointF(3, 3), {}, {}, {0, 120}, {}, {}, Qt::NoScrollPhase, false);
         QApplication::sendEvent(&list, &turned);
-        if (key == Qt::Key_F3) Choose("p_mbar");
+        if (key == Qt::Key_F3) Do("p_mbar");
         close(list, key);
     }
-    EXPECT_EQ(Text(4, kNominalSize) + Text(4, kDiameter), "1 1/2\"42.5");
-    Put(4, kDiameter, "42.50");
+    Walk("# 4.5 4.6 # 1 1/2\"|42.5\n 4.6=42.50");
     close(open("#"), Qt::Key_Return);
-    EXPECT_EQ(Text(4, kDiameter), "42.5") << "the same size again counts";
+    EXPECT_EQ(Shown("4.6"), "42.5") << "the same size again counts";
 }
 
 TEST_F(TableWindow, BlocksAndRowsAreEditedAndAllIsUndone) {
     const TableTexts empty = program->table;
-    const QString block = "1\t3\t2\t\t\t\t10\t0\t-2\n\t\t1\t\t\"1 1/2\"\"\"\n";
-    On(2, kStartPoint, 2, kStartPoint, "&Paste", block);
-    EXPECT_EQ(Text(3, kEndPressure) + Text(3, kNominalSize), "31 1/2\"");
+    Paste("2.1", "1\t3\t2\t\t\t\t10\t0\t-2\n\t\t1\t\t\"1 1/2\"\"\"\n");
+    EXPECT_EQ(Shown("3.4 3.5"), "3|1 1/2\"");
     const TableTexts typed = program->table;
     const auto rows = project.TableRows;
-    On(2, kNumber, 3, kZ2, "&Copy");
+    Do("2.0-3.10;Copy");
     QTest::keyClick(&View(), Qt::Key_Backspace);
     EXPECT_EQ(program->table, empty);
-    Press("&Paste");
+    Do("Paste");
     EXPECT_EQ(program->table, typed);
     EXPECT_EQ(project.TableRows, rows);
-    On(99, kStartPoint, 99, kStartPoint, "&Paste", "7\t\t8\t2\r\n8\t\t9\r\n");
-    EXPECT_EQ(Text(100, kStartPressure), "2") << "given once for point 8";
+    Paste("99.1", "7\t\t8\t2\r\n8\t\t9\r\n");
+    EXPECT_EQ(Shown("100.2"), "2") << "given once for point 8";
 
-    On(4, kLength, 6, kLength, "&Paste", "x");
-    On(6, kLength, 7, kLength, "Fill d&own");
+    Paste("4.7-6.7", "x");
+    Do("6.7-7.7;Fill down");
     EXPECT_TRUE(Cell(7, kLength).data(Qt::UserRole).toBool()) << "with a frame";
-    Press("Cu&t");
-    EXPECT_EQ(Text(5, kLength) + Text(7, kLength) + QApplication::clipboard()->text(), "xx\nx\n");
+    Walk("Cut # 5.7 7.7 # x|");
+    EXPECT_EQ(QApplication::clipboard()->text(), "x\nx\n");
     const MessageBox question = PartLeftOut({3, 1, 2, 0});
     boxes.Expect(question, Answer::No).Expect(question, Answer::Yes).Expect(kNoRoomForRows);
-    On(100, kLength, 100, kLength, "&Paste", "1\n2\n3\n");
-    EXPECT_EQ(Text(100, kLength), "");
-    Press("&Paste");
-    EXPECT_EQ(Text(100, kLength), "1");
-    Press("&Insert rows");
+    Paste("100.7", "1\n2\n3\n");
+    Walk(R"(# 100.7 #
+            Paste # 100.7 # 1
+            Insert rows)");
 
     EXPECT_EQ(Item("Annulla").text(), "&Undo paste");
-    for (int i = 0; i < 20; ++i) Choose("Annulla");
-    EXPECT_FALSE(Item("Annulla").isEnabled());
+    for (int i = 0; i < 20; ++i) Do("Annulla");
+    EXPECT_EQ(Enabled("Annulla"), "");
     EXPECT_EQ(program->table, empty);
     EXPECT_EQ(project.TableRows[2], TableRowRec());
-    Press("&Redo", 3);
-    Choose("Ripeti");
-    EXPECT_EQ(Text(99, kEndPressure), "2");
-    Choose("p_mbar");
-    Press("&Undo");
-    EXPECT_EQ(Text(99, kEndPressure), "2000") << "the table of another unit is another table";
-    Put(2, kLength, "11");
+    Walk(R"(Redo;Redo;Redo;Ripeti # 99.4 # 2
+            p_mbar;Undo # 99.4 # 2000 # the table of another unit is another table
+            2.7=11)");
     program->changed();
-    Press("&Undo");
-    EXPECT_EQ(Text(2, kLength), "10") << "and that is forgotten once only";
+    Walk("Undo # 2.7 # 10 # and that is forgotten once only");
 }
 
 TEST_F(TableWindow, RowsBelowAGapAreShadedNamedAndMovedUp) {
-    const auto shaded = [this](int row) {
-        return Cell(row, kLength).data(Qt::BackgroundRole).isValid();
-    };
-    auto& bar = Child<QWidget>("GapBar");
-    On(2, kStartPoint, 2, kStartPoint, "&Paste", "1\t\t2\n2\t\t3\n3\t\t4\n");
-    EXPECT_FALSE(bar.isVisible() || shaded(4));
-    On(3, kStartPoint, 3, kStartPoint, "&Insert rows");
-    EXPECT_EQ(Shown("LabelGap"), "Rows 3, 4 stand below the empty row 2: they are not computed");
-    EXPECT_TRUE(bar.isVisible() && shaded(4) && !shaded(3));
-    Do("CommandCloseUp");
-    EXPECT_FALSE(bar.isVisible());
-    EXPECT_EQ(Text(3, kStartPoint) + Text(4, kStartPoint), "23");
-    Press("Delete &rows");
-    EXPECT_EQ(Text(3, kStartPoint), "3");
+    Paste("2.1", "1\t\t2\n2\t\t3\n3\t\t4\n");
+    EXPECT_FALSE(HasGround(4, kLength));
+    Walk(R"(
+        # GapBar? # 0
+        3.1;Insert rows # GapBar? # 1
+        # LabelGap # Rows 3, 4 stand below the empty row 2: they are not computed)");
+    EXPECT_TRUE(HasGround(4, kLength) && !HasGround(3, kLength));
+    Walk(R"(CommandCloseUp # GapBar? 3.1 4.1 # 0|2|3
+            Delete rows # 3.1 # 3)");
 }
 
 TEST_F(TableWindow, ResultsStandBesideTheirRowsGreyWhenOutOfDate) {
@@ -196,89 +201,71 @@ TEST_F(TableWindow, ResultsStandBesideTheirRowsGreyWhenOutOfDate) {
     project.settings.FluidDensity = 1000;
     project.settings.FluidViscosity = .001;
     EXPECT_TRUE(View().isColumnHidden(flow));
-    On(2, kStartPoint, 2, kStartPoint, "&Paste", "1\t3\t2\t2\t2\t\t10");
+    Paste("2.1", "1\t3\t2\t2\t2\t\t10");
     Do("Command1");
     EXPECT_FALSE(View().isColumnHidden(flow) || grey());
     EXPECT_FALSE(Cell(2, flow).flags() & Qt::ItemIsEditable);
-    const double litres = Text(2, flow).toDouble() / 3600;
-    EXPECT_NEAR(Text(2, flow + 1).toDouble(), litres / 1000 / (.0538 * .0538 * .785398), .001);
-    EXPECT_EQ(Text(2, flow + 2) + ";" + Text(2, flow + 3) + ";" + Text(2, flow + 4),
-              "10132.50;3.0000;2.0000");
-    Put(2, kLength, "20");
-    EXPECT_TRUE(grey() && Text(2, flow + 3) == "3.0000");
-    Put(2, kEndPoint, "3");
-    EXPECT_EQ(Text(2, flow), "") << "it is another pipe";
+    const double litres = Shown("2.12").toDouble() / 3600;
+    EXPECT_NEAR(Shown("2.13").toDouble(), litres / 1000 / (.0538 * .0538 * .785398), .001);
+    Walk(R"(# 2.14 2.15 2.16 # 10132.50|3.0000|2.0000
+            2.7=20 # 2.15 # 3.0000)");
+    EXPECT_TRUE(grey());
+    Walk("2.3=3 # 2.12 # # it is another pipe");
     Keys(2, flow, "\t");
-    EXPECT_EQ(View().currentIndex(), Cell(3, kStartPoint));
+    EXPECT_EQ(Shown("cursor"), "3.1");
 }
 
 TEST_F(TableWindow, TableItsEditsAndItsPlaceStayUntilAFileIsOpened) {
     mdi->resize(700, 500);
     QApplication::processEvents();
-    Put(2, kStartPoint, "1");
-    Put(2, kNominalSize, "2\"");
     auto& across = Child<QAbstractSlider>("ScrX");
-    auto& down = Child<QAbstractSlider>("ScrY");
-    View().setCurrentIndex(Cell(60, kLength));
-    across.setValue(2);
-    down.setValue(40);
+    Do("2.1=1;2.5=2\";60.7;ScrX#2;ScrY#40");
     EXPECT_EQ(View().indexAt({0, 0}), Cell(42, kEndPoint)) << "by whole columns";
     for (const int value : {across.maximum(), 2}) {
         across.setValue(value);
         EXPECT_EQ(View().columnViewportPosition(value + 1), 0);
     }
-    Choose("Grafico");
-    Open("Tabella", "FrmTable");
+    Do("Grafico;Tabella>FrmTable");
     QApplication::processEvents();
-    EXPECT_EQ(View().currentIndex(), Cell(60, kLength));
+    EXPECT_EQ(Shown("cursor"), "60.7");
     EXPECT_EQ(View().indexAt({0, 0}), Cell(42, kEndPoint));
 
     for (const char* mode : {"Grafico", "Tabella"}) {
-        Choose(mode);
         boxes.Expect(kLeaveProject);
-        Choose("Nuovo");
+        Do(mode);
+        Do("Nuovo");
         EXPECT_EQ(program->table.At(2, kNominalSize), "2\"");
     }
-    Open("Tabella", "FrmTable");
-    Press("&Undo");
-    EXPECT_EQ(Text(2, kStartPoint) + Text(2, kNominalSize), "1");
+    Walk("Tabella>FrmTable;Undo # 2.1 2.5 # 1|");
 
     ASSERT_TRUE(WriteProject(project, folder / "table.iv"));
     PutFile(folder / "bad.iv", "2.6.3\r\n");
-    for (const char* mode : {"Grafico", "Tabella"}) {
-        Put(2, kNominalSize, "4\"");
-        Put(2, kNominalSize, "3\"");
-        Choose(mode);
+    for (const QString mode : {"Grafico", "Tabella"}) {
+        Do("2.5=4\";2.5=3\";" + mode);
         boxes.Expect(ProjectMalformed("line 2: the line is missing"));
         OpenFile(*mdi, folder / "bad.iv");
         EXPECT_EQ(program->table.At(2, kNominalSize), "3\"");
         OpenFile(*mdi, folder / "table.iv");
-        Open("Tabella", "FrmTable");
-        Press("&Undo");
-        EXPECT_EQ(Text(2, kStartPoint) + Text(2, kNominalSize), "1") << mode;
+        Walk("Tabella>FrmTable;Undo # 2.1 2.5 # 1|");
     }
 }
 
 TEST_F(TableWindow, SwitchingModesLosesNothing) {
-    Put(2, kNominalSize, "2\"");
+    Do("2.5=2\"");
     project.Pipes[1].Length = 5;
     project.numtubo = 1;
     const auto before = std::make_unique<Project>(project);
     const TableTexts texts = program->table;
-    for (const QString mode :
-         {"sintub FrmSin Single", "Grafico FrmCel Graphic", "Tabella FrmTable Table",
-          "Grafico FrmCel Graphic", "sintub FrmSin Single", "Tabella FrmTable Table"}) {
-        const QStringList words = mode.split(' ');
-        Choose(words[0].toLatin1());
-        for (const char* name : {"FrmCel", "FrmTable", "FrmSin"}) {
-            EXPECT_EQ(Window(name) != nullptr, words[1] == name);
-        }
-        EXPECT_TRUE(Shown("StatusMode").startsWith("Mode: " + words[2]));
-        EXPECT_EQ(program->shell.HintsShown, words[2] == "Graphic");
-        ASSERT_EQ(program->table, texts);
-        before->settings.Mode = project.settings.Mode;
-        ASSERT_TRUE(project == *before);
-    }
+    Walk(R"(
+        sintub # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 0|0|1|Mode: Single pipe|0
+        Grafico # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 1|0|0|Mode: Graphic|1
+        Tabella # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 0|1|0|Mode: Table|0
+        Grafico # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 1|0|0|Mode: Graphic|1
+        sintub # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 0|0|1|Mode: Single pipe|0
+        Tabella # FrmCel? FrmTable? FrmSin? StatusMode Helpslinea # 0|1|0|Mode: Table|0)");
+    EXPECT_EQ(program->table, texts);
+    before->settings.Mode = WorkMode::Table;
+    EXPECT_TRUE(project == *before);
 }
 
 }  // namespace

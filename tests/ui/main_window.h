@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSlider>
 #include <QAction>
 #include <QApplication>
@@ -13,7 +14,9 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QRegularExpression>
+#include <QStatusBar>
 #include <QTest>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
@@ -62,48 +65,90 @@ class MainWindow : public testing::Test {
         if (window == nullptr) throw std::out_of_range(name);
     }
 
-    /// "Command1;Text1=5;Text1:5;Combo1#2;Text1!" clicks, types over, puts a text in at once,
-    /// chooses position 2 or moves there, presses Return.
+    /// Takes steps, parted by ";": "Command1" clicks a button or chooses a menu item,
+    /// "Fluido>FrmFlu" opens a window, "Text1=5" types over, "Text1:5" puts in at once, "Combo1#2"
+    /// chooses position 2 or moves there, "Text1!" presses Return in it, "Text1!Ctrl+Z" these keys.
     void Do(const QString& script) {
-        for (const QString& step : script.split(';')) {
-            const auto sign = step.indexOf(QRegularExpression("[=:#!]"));
-            const QString name = step.left(sign);
-            if (sign < 0) {
-                Child<QAbstractButton>(name).click();
-            } else if (step[sign] == '!') {
-                Child<QWidget>(name).setFocus();
-                QTest::keyClick(&Child<QWidget>(name), Qt::Key_Return);
-            } else if (step[sign] == '#') {
-                MoveTo(Child<QWidget>(name), step.mid(sign + 1).toInt());
-            } else {
-                Type(Child<QWidget>(name), step.mid(sign + 1), step[sign] == '=');
-            }
-        }
+        for (const QString& step : script.split(';', Qt::SkipEmptyParts)) Take(step);
     }
 
-    /// What the controls show, "30.|10.": their text, caption or "1" for a chosen option.
+    /// What is shown by the controls (their text, caption or, of an option, "1" when it is chosen),
+    /// menu items (checked or not), windows (their title) and, after "message", the status bar,
+    /// "30.|10.". With a "?" behind the name: "1" when it is visible; with a "*": the entries of
+    /// the list, or the first column of the table.
     QString Shown(const QString& names) {
         QStringList texts;
-        for (const QString& name : names.split(' ')) {
-            const QWidget& control = Child<QWidget>(name);
-            const auto* button = qobject_cast<const QAbstractButton*>(&control);
-            const auto* list = qobject_cast<const QComboBox*>(&control);
-            const auto* group = qobject_cast<const QGroupBox*>(&control);
-            texts += button != nullptr  ? (button->isChecked() ? "1" : "0")
-                     : list != nullptr  ? list->currentText()
-                     : group != nullptr ? group->title()
-                                        : control.property("text").toString();
-        }
+        for (const QString& name : names.split(' ')) texts += TextOf(name);
         return texts.join('|');
     }
 
-    /// Those of the controls that are enabled.
+    /// Those of the controls and menu items that are enabled.
     QString Enabled(const QString& names) {
         QStringList enabled;
         for (const QString& name : names.split(' ')) {
-            if (Child<QWidget>(name).isEnabled()) enabled += name;
+            const auto* item = mdi->findChild<QAction*>(name);
+            if (item != nullptr ? item->isEnabled() : Child<QWidget>(name).isEnabled())
+                enabled += name;
         }
         return enabled.join(' ');
+    }
+
+    /// A walk through the windows. Each line takes steps, then may say what must be shown, or which
+    /// of the controls must be enabled: "Text6=3 # Text6 Text7 # 3|500", "Grafico # enabled t1 #
+    /// t1".
+    void Walk(const QString& walk) {
+        static const QRegularExpression mark("(^| +)#(?= |$)");
+        for (const QString& line : walk.split('\n')) {
+            const QStringList parts = line.trimmed().split(mark);
+            Do(parts[0]);
+            if (parts.size() < 3) continue;
+            const QString names = parts[1].trimmed();
+            const bool enabled = names.startsWith("enabled ");
+            EXPECT_EQ((enabled ? Enabled(names.mid(8)) : Shown(names)).toStdString(),
+                      parts[2].trimmed().toStdString())
+                << line.toStdString();
+        }
+    }
+
+    virtual void Take(const QString& step) {
+        static const QRegularExpression form("^(\\w+)([=:#!>]?)(.*)$");
+        const QRegularExpressionMatch part = form.match(step);
+        const QString name = part.captured(1), value = part.captured(3);
+        const QChar sign = part.captured(2).isEmpty() ? QChar() : part.captured(2).front();
+        auto* item = mdi->findChild<QAction*>(name);
+        if (sign == '>') return Open(name.toLatin1(), value.toLatin1());
+        if (sign.isNull() && item != nullptr) return item->trigger();
+        if (sign.isNull()) return Child<QAbstractButton>(name).click();
+        auto& control = Child<QWidget>(name);
+        if (sign == '#') return MoveTo(control, value.toInt());
+        if (sign != '!') return Type(control, value, sign == '=');
+        control.setFocus();
+        const QKeyCombination keys = QKeySequence(value.isEmpty() ? "Return" : value)[0];
+        QTest::keyClick(&control, keys.key(), keys.keyboardModifiers());
+    }
+
+    virtual QString TextOf(const QString& name) {
+        if (name.endsWith('?')) {
+            const auto named = mdi->findChildren<QWidget*>(name.chopped(1));
+            return std::ranges::any_of(named, &QWidget::isVisible) ? "1" : "0";
+        }
+        if (name.endsWith('*')) return EntriesOf(Child<QWidget>(name.chopped(1)));
+        if (name == "message") return mdi->statusBar()->currentMessage();
+        if (name == "MDI") return mdi->windowTitle();
+        if (name.startsWith("Frm")) {
+            const ChildWindow* open = Window(name.toLatin1());
+            return open == nullptr ? "" : open->windowTitle();
+        }
+        const auto* item = mdi->findChild<QAction*>(name);
+        if (item != nullptr) return item->isChecked() ? "1" : "0";
+        const QWidget& control = Child<QWidget>(name);
+        const auto* button = qobject_cast<const QAbstractButton*>(&control);
+        const auto* list = qobject_cast<const QComboBox*>(&control);
+        const auto* group = qobject_cast<const QGroupBox*>(&control);
+        return button != nullptr && button->isCheckable() ? (button->isChecked() ? "1" : "0")
+               : list != nullptr                          ? list->currentText()
+               : group != nullptr                         ? group->title()
+                                                          : control.property("text").toString();
     }
 
     TempFolder folder;
@@ -114,6 +159,15 @@ class MainWindow : public testing::Test {
     Project& project = program->project;
 
   private:
+    static QString EntriesOf(const QWidget& control) {
+        const auto* list = qobject_cast<const QComboBox*>(&control);
+        const QAbstractItemModel& model =
+            list != nullptr ? *list->model()
+                            : *dynamic_cast<const QAbstractItemView&>(control).model();
+        QStringList entries;
+        for (int i = 0; i < model.rowCount(); ++i) entries += model.index(i, 0).data().toString();
+        return entries.join(' ');
+    }
     static void MoveTo(QWidget& control, int position) {
         if (auto* list = qobject_cast<QComboBox*>(&control)) return list->setCurrentIndex(position);
         dynamic_cast<QAbstractSlider&>(control).setValue(position);

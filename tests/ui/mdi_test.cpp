@@ -30,56 +30,54 @@
 namespace idrova {
 namespace {
 
-TEST_F(MainWindow, StartsWithAnEmptyProjectAndEndsAsAsked) {
+TEST_F(MainWindow, StartsWithAnEmptyProject) {
     EXPECT_EQ(mdi->objectName(), "MDI");
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
-    EXPECT_EQ(Window("FrmCel")->windowTitle(), "Idrova - plant drawing");
     EXPECT_EQ(mdi->Panel().windowTitle(), "Idrova - Commands");
     EXPECT_EQ(mdi->Hints().windowTitle(), "Idrova - Help");
-    EXPECT_EQ(Shown("Label2 RoughnessLabel StatusMode StatusFluid"),
-              "first point of a pipe|zincate steel\t  1.00E-4|Mode: Graphic|No fluid");
     EXPECT_FALSE(mdi->Panel().close());
     EXPECT_TRUE(mdi->Panel().isVisible());
     EXPECT_LT(mdi->height(), mdi->screen()->availableGeometry().height());
+    Walk(R"(
+        # MDI FrmCel # Idrova 2.6.3 - [New project]|Idrova - plant drawing
+        # Label2 StatusMode StatusFluid # first point of a pipe|Mode: Graphic|No fluid)");
     program->titleName = "a[*]b";
     program->changed();
     EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a[*][*]b]") << "shown with one star";
     Window("FrmCel")->CloseWindow();
-    Choose("p_mbar");
-    EXPECT_EQ(Window("FrmCel"), nullptr) << "only a new network brings it back";
     boxes.Expect(kLeaveProject, Answer::Ok);
-    Choose("Nuovo");
-    EXPECT_NE(Window("FrmCel"), nullptr);
+    Walk(R"(p_mbar # FrmCel # # only a new network brings it back
+            Nuovo # FrmCel # Idrova - plant drawing)");
 
     const auto hintsAreShown = [this] {
         EXPECT_EQ(mdi->Hints().isVisible(), Item("Helpslinea").isChecked());
         return program->shell.HintsShown;
     };
-    Choose("Helpslinea");
+    Do("Helpslinea");
     EXPECT_FALSE(hintsAreShown());
-    Choose("Helpslinea");
+    Do("Helpslinea");
     mdi->showMinimized();
     QApplication::processEvents();
     mdi->showNormal();
     EXPECT_TRUE(hintsAreShown()) << "minimising does not close them";
     mdi->Hints().close();
     EXPECT_FALSE(hintsAreShown());
+}
 
+TEST_F(MainWindow, EndsAsAskedAndKeepsWhatIsUnsaved) {
+    const auto copy = folder / kUnsavedFile;
     project.TableRows[2].StartPoint = 1;
     boxes.Expect(kExitQuestion, Answer::Cancel).Expect(kExitQuestion, Answer::Ok);
-    Choose("Esci");
-    EXPECT_TRUE(mdi->isVisible());
-    EXPECT_FALSE(std::filesystem::exists(folder / kUnsavedFile));
-    Choose("Esci");
-    EXPECT_FALSE(mdi->isVisible());
-    EXPECT_TRUE(std::filesystem::exists(folder / kUnsavedFile));
-    std::filesystem::remove(folder / kUnsavedFile);
+    for (const bool ended : {false, true}) {
+        Do("Esci");
+        EXPECT_NE(mdi->isVisible(), ended);
+        EXPECT_EQ(std::filesystem::exists(copy), ended);
+    }
+    std::filesystem::remove(copy);
     mdi->show();
     EXPECT_TRUE(mdi->close()) << "by its frame, without a question";
-    EXPECT_TRUE(std::filesystem::exists(folder / kUnsavedFile));
+    EXPECT_TRUE(std::filesystem::exists(copy));
     std::filesystem::remove_all(folder.Path());
-    boxes.Expect({UnsavedLost("Cannot write " + (folder / kUnsavedFile).string() +
-                              ": No such file or directory"),
+    boxes.Expect({UnsavedLost("Cannot write " + copy.string() + ": No such file or directory"),
                   kExitQuestion.title});
     mdi->show();
     EXPECT_TRUE(mdi->close());
@@ -90,24 +88,17 @@ TEST_F(MainWindow, HelpShowsTheManualAndHintsFitTheMode) {
     QDesktopServices::setUrlHandler("file", &viewer, "setSource");
     PutFile(folder / "manual.pdf", "manual");
     boxes.Expect(kManualNotice).Expect(kManualNotice);
-    Choose("Help");
-    EXPECT_EQ(mdi->statusBar()->currentMessage(), "The user manual was not found");
+    Walk("Help # message # The user manual was not found");
     program->shipped.manual = folder / "manual.pdf";
-    Choose("Help");
+    Walk("Help # message # # the words of the command before are gone");
     EXPECT_EQ(viewer.source().toLocalFile(), PathToQt(folder / "manual.pdf"));
     QDesktopServices::unsetUrlHandler("file");
-    EXPECT_EQ(mdi->statusBar()->currentMessage(), "")
-        << "a command takes the words of the one before away";
     mdi->Say("kept");
     mdi->statusBar()->showMessage("a tip");
     mdi->statusBar()->clearMessage();
-    EXPECT_EQ(mdi->statusBar()->currentMessage(), "kept") << "a tip only comes over it";
-    for (const auto& [mode, hint] : {std::pair("Tabella", "compute the table"),
-                                     std::pair("sintub", "the unknown one is computed at once")}) {
-        Choose(mode);
-        Choose("Helpslinea");
-        EXPECT_EQ(Shown("Label4"), hint);
-    }
+    Walk(R"(# message # kept # a tip only comes over it
+            Tabella;Helpslinea # Label4 # compute the table
+            sintub;Helpslinea # Label4 # the unknown one is computed at once)");
 }
 
 TEST_F(MainWindow, DataWindowsStayAboveTheWindowOfTheMode) {
@@ -119,17 +110,14 @@ TEST_F(MainWindow, DataWindowsStayAboveTheWindowOfTheMode) {
     EXPECT_TRUE(isAbove());
     QTest::mouseClick(Child<QGraphicsView>("Drawing").viewport(), Qt::RightButton);
     EXPECT_TRUE(isAbove());
-    Choose("Tabella");
-    EXPECT_EQ(Window("FrmVel"), nullptr) << "it acts on the drawing";
-    EXPECT_FALSE(Item("Veloce").isEnabled());
+    Walk(R"(Tabella # FrmVel # # it acts on the drawing
+            # enabled Veloce #)");
 }
 
 TEST_F(MainWindow, AboutWindowOpensProgressivelyAndStaysInReach) {
     QWidget* drawing = Window("FrmCel")->parentWidget();
     drawing->showMaximized();
-    Open("Logo", "FrmLogo");
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [New project]");
-    EXPECT_EQ(Shown("Label1"), "ver. 2.6.3");
+    Walk("Logo>FrmLogo # MDI Label1 # Idrova 2.6.3 - [New project]|ver. 2.6.3");
     EXPECT_LT(window->height(), 100);
     EXPECT_TRUE(QTest::qWaitFor([&] { return window->size() == QSize(400, 300); }));
     window->parentWidget()->move(900, 600);
@@ -140,61 +128,47 @@ TEST_F(MainWindow, AboutWindowOpensProgressivelyAndStaysInReach) {
     EXPECT_EQ(drawing->geometry(), area);
 }
 
-/// What a user finds: the entries of each menu, by the menu's name.
-using Menus = std::map<QString, QList<QAction*>>;
-
-void CollectMenu(const QList<QAction*>& actions, const QString& menu, Menus& found) {
-    for (QAction* action : actions) {
-        if (action->isSeparator()) continue;
-        found[menu].push_back(action);
-        if (QMenu* sub = action->menu()) CollectMenu(sub->actions(), sub->objectName(), found);
-    }
+/// The entries of a menu as a user finds them.
+QList<QAction*> WithoutSeparators(QList<QAction*> actions) {
+    actions.removeIf([](const QAction* action) { return action->isSeparator(); });
+    return actions;
 }
 
-TEST_F(MainWindow, MenuBarShowsTheTableAndKeepsOneOfEachGroupChecked) {
-    Menus menus;
-    CollectMenu(mdi->menuBar()->actions(), "", menus);
-    std::map<QString, qsizetype> next;
-    std::map<QString, std::set<QString>> keys;
-    std::set<QString> shortcuts{"F2"};  // edits a cell of the table
+TEST_F(MainWindow, MenuBarShowsTheTable) {
+    std::map<QString, QList<QAction*>> menus{{"", WithoutSeparators(mdi->menuBar()->actions())}};
+    std::set<QString> keys{"F2"};  // edits a cell of the table
     for (const MenuEntry& entry : MenuTable()) {
         SCOPED_TRACE(std::string(entry.name));
-        const QString menu = ToQt(entry.parent);
-        ASSERT_LT(next[menu], menus[menu].size());
-        const QAction& action = *menus[menu][next[menu]++];
-        const bool isMenu = entry.kind == MenuKind::Menu;
-        EXPECT_EQ(isMenu ? action.menu()->objectName() : action.objectName(), ToQt(entry.name));
+        ASSERT_FALSE(menus[ToQt(entry.parent)].isEmpty());
+        QAction& action = *menus[ToQt(entry.parent)].takeFirst();
+        QMenu* menu = action.menu();
+        EXPECT_EQ(menu != nullptr ? menu->objectName() : action.objectName(), ToQt(entry.name));
+        if (menu != nullptr) menus[menu->objectName()] = WithoutSeparators(menu->actions());
+        EXPECT_EQ(menu != nullptr, entry.kind == MenuKind::Menu && action.statusTip().isEmpty());
         EXPECT_EQ(action.text().remove('&'), ToQt(entry.caption));
         EXPECT_EQ(action.isChecked(), IsChecked(entry, project.settings, program->shell));
-        const QString keysOf =
+        const QString shortcut =
             QKeySequence::listToString(action.shortcuts(), QKeySequence::PortableText);
-        EXPECT_EQ(keysOf, ToQt(entry.shortcut));
-        EXPECT_TRUE(keysOf.isEmpty() || shortcuts.insert(keysOf).second);
-        EXPECT_EQ(isMenu, action.statusTip().isEmpty());
-        const QString key = QKeySequence::mnemonic(action.text()).toString();
-        EXPECT_TRUE(!key.isEmpty() && keys[menu].insert(key).second) << "no mnemonic of its own";
+        EXPECT_EQ(shortcut, ToQt(entry.shortcut));
+        EXPECT_TRUE(shortcut.isEmpty() || keys.insert(shortcut).second);
+        const QString mnemonic = QKeySequence::mnemonic(action.text()).toString();
+        EXPECT_TRUE(!mnemonic.isEmpty() && keys.insert(ToQt(entry.parent) + mnemonic).second);
     }
-    for (const auto& [menu, actions] : menus) EXPECT_EQ(actions.size(), next[menu]);
+    for (const auto& [menu, left] : menus) EXPECT_TRUE(left.isEmpty()) << menu.toStdString();
+}
 
-    for (const char* name : {"t1", "t5", "t5", "Rettangolare", "Rettangolare", "Circolare",
-                             "p_mbar", "p_mbar", "Tabella", "sintub", "Grafico", "t4"}) {
-        Choose(name);
-        EXPECT_TRUE(Item(name).isChecked()) << name;
-        for (const char* group : {"Rugosita", "Sezione", "Pressione", "Modalita", "Correlazioni"}) {
-            const auto isChecked = [](const QAction* action) { return action->isChecked(); };
-            EXPECT_EQ(std::ranges::count_if(menus[group], isChecked), 1) << group << " " << name;
-        }
-    }
-    EXPECT_EQ(Shown("RoughnessLabel LabelUnit_0 LabelUnit_3"),
-              "partially rusty...  2.00E-3|[mbar]|[mbar]");
+TEST_F(MainWindow, OneOfEachGroupIsChecked) {
     boxes.Expect(kNotCompressible);
-    Choose("Cor2");
-    EXPECT_TRUE(Item("Cor1").isChecked());
+    Walk(R"(
+        t5;t5 # t1 t4 t5 # 0|0|1
+        t4 # t1 t4 t5 RoughnessLabel # 0|1|0|partially rusty...  2.00E-3
+        Rettangolare;Rettangolare # Circolare Rettangolare # 0|1
+        p_mbar;p_mbar # p_bar p_mbar LabelUnit_0 LabelUnit_3 # 0|1|[mbar]|[mbar]
+        Tabella;Tabella # Grafico Tabella sintub # 0|1|0
+        Cor2 # Cor1 Cor2 # 1|0)");
     project.settings.FluidCompressibility = 1;
-    for (const char* name : {"Cor2", "Cor1"}) {
-        Choose(name);
-        EXPECT_TRUE(Item(name).isChecked());
-    }
+    Walk(R"(Cor2 # Cor1 Cor2 # 0|1
+            Cor1 # Cor1 Cor2 # 1|0)");
 }
 
 TEST_F(MainWindow, ToolBarRunsTheCommandsAndIsRememberedHidden) {
@@ -207,10 +181,9 @@ TEST_F(MainWindow, ToolBarRunsTheCommandsAndIsRememberedHidden) {
     boxes.Expect(kLeaveProject, Answer::Cancel).Expect(kSelectAFluid);
     press("Nuovo");
     press("Calcola");
-    Choose("sintub");
-    EXPECT_FALSE(Item("Calcola").isEnabled());
+    Walk("sintub # enabled Calcola #");
     for (const bool shown : {false, true}) {
-        Choose("BarraStrumenti");
+        Do("BarraStrumenti");
         EXPECT_EQ(bar.isVisible(), shown);
         const auto next = std::make_unique<Program>(folder.Path(), boxes);
         const MDI nextWindow(*next);
@@ -227,13 +200,12 @@ TEST_F(MainWindow, RecentFilesAreOfferedUntilTheyAreGone) {
     }
     ASSERT_EQ(menu.actions().size(), 2);
     std::filesystem::remove(folder / "b.iv");
-    Choose("Recenti_1");
-    QApplication::processEvents();
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a.iv]");
     boxes.Expect(kFileMissing);
-    Choose("Recenti_1");
-    QApplication::processEvents();
-    EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a.iv]") << "a file that is gone changes nothing";
+    for (int i = 0; i < 2; ++i) {  // a file that is gone changes nothing
+        Choose("Recenti_1");
+        QApplication::processEvents();
+        EXPECT_EQ(mdi->windowTitle(), "Idrova 2.6.3 - [a.iv]");
+    }
     EXPECT_EQ(menu.actions().size(), 1);
 }
 

@@ -61,28 +61,26 @@ TEST(KeypadPoint, TheDecimalKeyOfTheKeypadWritesAPeriod) {
 }
 
 TEST(QtMessageBoxes, ShowTheTextAsItIsAndAnswerAsTheButtonsSay) {
-    const struct {
-        BoxButtons buttons;
-        Answer byReturn, byEscape;
-    } cases[] = {{BoxButtons::Ok, Answer::Ok, Answer::Ok},
-                 {BoxButtons::OkCancel, Answer::Ok, Answer::Cancel},
-                 {BoxButtons::YesNo, Answer::Yes, Answer::No}};
-    const auto answer = [](BoxButtons buttons, Qt::Key key) {
-        QTimer::singleShot(0, [key] {
+    const std::tuple<BoxButtons, Qt::Key, Answer> cases[] = {
+        {BoxButtons::Ok, Qt::Key_Return, Answer::Ok},
+        {BoxButtons::Ok, Qt::Key_Escape, Answer::Ok},
+        {BoxButtons::OkCancel, Qt::Key_Return, Answer::Ok},
+        {BoxButtons::OkCancel, Qt::Key_Escape, Answer::Cancel},
+        {BoxButtons::YesNo, Qt::Key_Return, Answer::Yes},
+        {BoxButtons::YesNo, Qt::Key_Escape, Answer::No}};
+    for (const auto& [buttons, key, answer] : cases) {
+        QTimer::singleShot(0, [pressed = key] {
             auto& window = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
             EXPECT_EQ(window.windowTitle() + window.text(), "Checka <b>bold</b> name\nsecond");
             EXPECT_EQ(window.textFormat(), Qt::PlainText);
             EXPECT_EQ(window.icon(), QMessageBox::Warning);
-            QTest::keyClick(&window, key);
+            QTest::keyClick(&window, pressed);
             EXPECT_FALSE(window.isVisible()) << "the key did not close the box";
             if (window.isVisible()) window.reject();
         });
-        return QtMessageBoxes().Show(
-            {"a <b>bold</b> name\nsecond", "Check", BoxIcon::Exclamation, buttons});
-    };
-    for (const auto& c : cases) {
-        EXPECT_EQ(answer(c.buttons, Qt::Key_Return), c.byReturn);
-        EXPECT_EQ(answer(c.buttons, Qt::Key_Escape), c.byEscape);
+        EXPECT_EQ(QtMessageBoxes().Show(
+                      {"a <b>bold</b> name\nsecond", "Check", BoxIcon::Exclamation, buttons}),
+                  answer);
     }
 }
 
@@ -92,14 +90,13 @@ TEST(Splash, ShowsTheVersionAndOpensTheMainWindowOnce) {
         int opened = 0;
         FrmStart(
             boxes, [&opened] { ++opened; }, milliseconds);
-        QWidget* splash = nullptr;
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            if (widget->objectName() == "FrmWarn" && widget->isVisible()) splash = widget;
-        }
-        ASSERT_NE(splash, nullptr);
-        QStringList texts;
-        for (const QLabel* label : splash->findChildren<QLabel*>()) texts.append(label->text());
-        EXPECT_TRUE(texts.contains("ver. 2.6.3"));
+        const auto windows = QApplication::topLevelWidgets();
+        const auto found = std::ranges::find_if(windows, [](const QWidget* window) {
+            return window->objectName() == "FrmWarn" && window->isVisible();
+        });
+        ASSERT_NE(found, windows.end());
+        QWidget* splash = *found;
+        EXPECT_EQ(splash->findChild<QLabel*>("Label2")->text(), "ver. 2.6.3");
         EXPECT_EQ(opened, 0);
         if (milliseconds == 600000) QTest::mouseClick(splash, Qt::LeftButton);
         if (milliseconds == 600001) QTest::keyClick(splash, Qt::Key_Space);

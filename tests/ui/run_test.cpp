@@ -19,10 +19,8 @@ namespace {
 /// One pipe between two given pressures, drawn and in the table, no fluid yet.
 class Run : public DrawingWindow {
   protected:
-    Run() {
-        Draw(5, 5, 15, 5);
-        Select(10, 5);
-        Do("Text6=100;Text7=50;Option1_1;Option2_1;Text10=3;Text9=2");
+    void SetUp() override {
+        Do("L5,5;L15,5;R10,5;Text6=100;Text7=50;Option1_1;Option2_1;Text10=3;Text9=2");
         const char* row[] = {"1", "3", "2", "2", "", "50", "100"};
         for (int i = 1; i <= 7; ++i) ChangeCell(project, program->table, 2, i, row[i - 1]);
     }
@@ -41,113 +39,93 @@ class Run : public DrawingWindow {
         return ground.red() > 2 * std::max(ground.green(), ground.blue());
     }
     QToolButton& outcome = Child<QToolButton>("StatusOutcome");
+    QListWidget& problems = Child<QListWidget>("Problems");
 };
 
 TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
     ChooseWater();
     project.settings.BasePressure = 101325;
-    Do("Command1");
+    Walk("Command1 # StatusOutcome # Computed");
     EXPECT_GT(project.Pipes[1].FlowRate, 1);
-    EXPECT_EQ(outcome.text(), "Computed");
     EXPECT_THAT(outcome.toolTip().toStdString(),
                 testing::ContainsRegex("^[0-9]+ \\+ [0-9]+ passes, "));
     EXPECT_FALSE(IsMarked());
     EXPECT_EQ(mdi->findChild<QWidget*>("FrmAva"), nullptr);
-    Do("Text6=120");
-    EXPECT_EQ(outcome.text(), "Changed since the computation");
+    Walk("Text6=120 # StatusOutcome # Changed since the computation");
     EXPECT_TRUE(IsMarked());
-    Do("Text6=100");
-    EXPECT_EQ(outcome.text(), "Computed") << "as it was computed";
+    Walk("Text6=100 # StatusOutcome # Computed # as it was computed");
     const std::string first = Stored();
     EXPECT_NE(first.find("RESULTS CALCULATION"), std::string::npos);
     EXPECT_EQ(program->report, first) << "what is printed is what is stored";
 
-    Choose("Risultatiseq");
-    Do("Command1");
+    Do("Risultatiseq;Command1");
     EXPECT_EQ(Stored(), first + program->report);
-    Choose("Risultatiseq");
-    Do("Command1");
+    Do("Risultatiseq;Command1");
     EXPECT_EQ(Stored(), program->report);
 
     project.Pipes[1].FlowRate = -2;
     for (const auto& [answer, flow] : {std::pair(Answer::Cancel, -2), std::pair(Answer::Ok, 2)}) {
         boxes.Expect(kChangeDirections, answer);
-        Choose("Ordina");
+        Do("Ordina");
         EXPECT_EQ(project.Pipes[1].FlowRate, flow);
     }
-    Choose("Annulla");
+    Do("Annulla");
     EXPECT_EQ(project.Pipes[1].FlowRate, -2) << "as it was counted before";
 
     boxes.Expect(kAskDeleteResults, Answer::Ok);
-    Choose("Elris");
+    Do("Elris");
     EXPECT_FALSE(std::filesystem::exists(folder / "out.dat"));
     boxes.Expect(kConfigureEditor).Expect(kNoResultsFile).Expect(kAskPrint, Answer::No);
-    Choose("Risultati");
-    Choose("Stampa");
+    Do("Risultati;Stampa");
 }
 
 TEST_F(Run, OfTheTableIsMadeUnlessRefusedWhichIsPlainlyMarked) {
     boxes.Expect(kSelectAFluid);
-    Do("Command1");
-    EXPECT_TRUE(outcome.isVisible() && IsRed());
-    outcome.click();
-    auto& list = Child<QListWidget>("Problems");
-    EXPECT_TRUE(list.isVisible());
-    EXPECT_EQ(list.item(0)->text(), "Select a fluid");
+    Walk("Command1;StatusOutcome # StatusOutcome? Problems? # 1|1");
+    EXPECT_TRUE(IsRed());
+    EXPECT_EQ(problems.item(0)->text(), "Select a fluid");
 
     ChooseWater();
-    Choose("Tabella");
-    EXPECT_FALSE(outcome.isVisible()) << "it is that of the drawing";
-    Do("Command1");
+    Walk("Tabella # StatusOutcome? # 0 # it is that of the drawing\n Command1");
     EXPECT_GT(program->work.WorkPipes[1].FlowRate, 1);
     EXPECT_FALSE(IsRed());
     const std::string report = Stored();
     ChangeCell(project, program->table, 2, 3, "7");
     boxes.Expect(PointsLeaveGap("2 to 6 are missing"));
     program->work.WorkPipes[1].FlowRate = -1;
-    Do("Command1");
+    Walk("Command1 # StatusOutcome # Not computed");
     EXPECT_EQ(program->work.WorkPipes[1].FlowRate, -1);
-    EXPECT_EQ(outcome.text(), "Not computed");
     EXPECT_TRUE(IsRed());
     EXPECT_EQ(program->report, report);
-    Choose("Grafico");
-    EXPECT_TRUE(outcome.isVisible());
     boxes.Expect(kLeaveProject, Answer::Ok);
-    Choose("Nuovo");
-    EXPECT_FALSE(outcome.isVisible()) << "nothing is computed of the new one";
+    Walk(R"(Grafico # StatusOutcome? # 1
+            Nuovo # StatusOutcome? # 0 # nothing is computed of the new one)");
 }
 
 TEST_F(Run, OfAPlantWithThreeMistakesIsMendedFromTheListOfProblems) {
     ChooseWater();
-    Draw(15, 5, 15, 12);
-    Select(15, 8);
-    Do("Text6=100;Text7=50");
+    Do("L15,5;L15,12;R15,8;Text6=100;Text7=50");
     project.Pipes[1].Length = 0;
     project.Pipes[2].Diameter = 0;
     project.PressureUnknown[1] = true;
     boxes.Expect(RefusalBox({RefusalKind::ZeroLength, {1}}));
-    Do("Command1");
-    outcome.click();
-    auto& list = Child<QListWidget>("Problems");
-    ASSERT_GE(list.count(), 3);
-    const auto goTo = [&list](int line) {
-        list.setCurrentRow(line);
-        QTest::keyClick(&list, Qt::Key_Return);
-    };
-    goTo(1);
+    Do("Command1;StatusOutcome");
+    ASSERT_GE(problems.count(), 3);
+    problems.setCurrentRow(1);
+    Do("Problems!");
     EXPECT_EQ(project.CurrentPipe, 2);
     Do("Text7=50");
-    EXPECT_EQ(list.item(0)->text(), "Pipe 1 has no length") << "what is mended is gone";
-    goTo(0);
+    EXPECT_EQ(problems.item(0)->text(), "Pipe 1 has no length") << "what is mended is gone";
+    problems.setCurrentRow(0);
+    Do("Problems!");
     EXPECT_EQ(project.CurrentPipe, 1);
     Do("Text6=100");
-    EXPECT_EQ(list.item(0)->text(),
+    EXPECT_EQ(problems.item(0)->text(),
               "Point 1 is an open end: give its pressure or the flow of pipe 1");
-    goTo(0);
-    Do("Option1_1;Text10=3");
-    EXPECT_EQ(list.count(), 0);
-    Do("Command1");
-    EXPECT_EQ(outcome.text(), "Computed");
+    problems.setCurrentRow(0);
+    Do("Problems!;Option1_1;Text10=3");
+    EXPECT_EQ(problems.count(), 0);
+    Walk("Command1 # StatusOutcome # Computed");
 }
 
 /// Counts how often an object is painted.
