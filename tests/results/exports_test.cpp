@@ -20,55 +20,51 @@ using testing::HasSubstr;
 constexpr const char* kName = "Pump \"A\", <3> & Größe; 2";
 constexpr float kMetre = 9810;  ///< Pa
 
-/// From 10 m of head (point 1) through a pump in cell 7, a valve in cell 9 and a fixed drop in cell
-/// 11 to a given pressure (point 9); from point 6 a branch of 2 kg/s, and one that is closed.
+/// From 10 m of head (point 1) through a pump, a valve and a fixed drop to a given pressure (point
+/// 9); from point 6 a branch of 2 kg/s, and one that is closed.
 RunRecord Plant() {
-    RunRecord run;
-    run.settings.FluidDensity = 1000;
-    run.settings.FluidViscosity = 2e-3;
-    run.settings.FluidName = "Wasser <60 °C>";
-    run.time = {"2026-11-22", "21:55:26"};
-    WorkNetwork& work = run.results.emplace();
-    const auto pipe = [&work](int number, int from, int to, float flow, float diameter) {
-        PipeRec& record = work.WorkPipes[number];
-        record = {flow, 50, diameter};
-        record.StartPoint = record.FlowFromPoint = static_cast<std::int16_t>(from);
-        record.EndPoint = static_cast<std::int16_t>(to);
-        record.X1 = static_cast<std::int16_t>(278 * 10 * number);
-        record.X2 = static_cast<std::int16_t>(record.X1 + 2780);
-        work.WorkFlowUnknown[number] = true;
-        work.WorkPipeCount = number;
-    };
-    const std::pair<float, int> points[] = {{0, 0},  {10, 0}, {9, 7}, {29, 7}, {28, 9}, {25, 9},
-                                            {25, 0}, {0, 0},  {0, 0}, {4, 0},  {5, 11}, {15, 11}};
-    for (const auto& [head, cell] : points) {
-        work.WorkPoints[static_cast<std::size_t>(work.WorkPointCount)] = {
-            head * kMetre, 2780, 5560, static_cast<std::int16_t>(cell)};
-        work.WorkPressureUnknown[static_cast<std::size_t>(work.WorkPointCount++)] = true;
+    NetworkBuilder network;
+    for (const auto& [head, column] : {std::pair(10.0F, 2),
+                                       {9.0F, 5},
+                                       {29.0F, 5},
+                                       {28.0F, 9},
+                                       {25.0F, 9},
+                                       {25.0F, 12},
+                                       {0.0F, 15},
+                                       {0.0F, 17},
+                                       {4.0F, 25},
+                                       {5.0F, 21},
+                                       {15.0F, 21}}) {
+        network->Points[network.AddPoint(column, 20)].Pressure = head * kMetre;
     }
-    --work.WorkPointCount;
-    work.WorkPressureUnknown[1] = work.WorkPressureUnknown[9] = false;
-    pipe(1, 1, 2, 5, .1F);
-    pipe(2, 3, 4, 5, .1F);
-    pipe(3, 5, 6, 5, .08F);
-    pipe(4, 7, 6, -2, .05F);
-    pipe(5, 6, 8, 0, .05F);
-    pipe(6, 6, 11, 3, .05F);
-    pipe(7, 10, 9, 3, .05F);
-    work.WorkPipes[4].Z1 = 3;
-    work.WorkPipes[7].Z2 = -2;
-    work.WorkComponents = {
-        {7,
-         {.Name = kName,
-          .Kind = CellKind::Pump,
-          .Param1 = -kMetre / 5,
-          .Param2 = 25 * kMetre,
-          .Direction = Delivery::Right,
-          .Result = 5,
-          .Placed = true,
-          .MaxFlow = 10}},
-        {9, {.Name = "valve", .Kind = CellKind::Loss, .Param1 = 2.5F, .Placed = true}},
-        {11, {.Name = "filter", .Kind = CellKind::Loss, .Param2 = 10 * kMetre, .Placed = true}}};
+    network->PressureUnknown[1] = network->PressureUnknown[9] = false;
+    for (const auto& [from, to, flow, diameter] : {std::tuple(1, 2, 5.0F, .1F),
+                                                   {3, 4, 5.0F, .1F},
+                                                   {5, 6, 5.0F, .08F},
+                                                   {7, 6, -2.0F, .05F},
+                                                   {6, 8, 0.0F, .05F},
+                                                   {6, 11, 3.0F, .05F},
+                                                   {10, 9, 3.0F, .05F}}) {
+        network->Pipes[network.AddPipe(from, to, 50, diameter)].FlowRate = flow;
+    }
+    network->Pipes[4].Z1 = 3;
+    network->Pipes[7].Z2 = -2;
+    CellRec& pump = network.AddComponent(2, CellKind::Pump);
+    pump.Name = kName;
+    pump.Param1 = -kMetre / 5;
+    pump.Param2 = 25 * kMetre;
+    pump.Result = 5;
+    pump.MaxFlow = 10;
+    CellRec& valve = network.AddComponent(4, CellKind::Loss);
+    valve.Name = "valve";
+    valve.Param1 = 2.5F;
+    CellRec& filter = network.AddComponent(10, CellKind::Loss);
+    filter.Name = "filter";
+    filter.Param2 = 10 * kMetre;
+    network->settings.FluidViscosity = 2e-3;
+    network->settings.FluidName = "Wasser <60 °C>";
+    RunRecord run{{}, {}, network->settings, {}, {"2026-11-22", "21:55:26"}};
+    CopyNetwork(*network, run.results.emplace());
     return run;
 }
 
@@ -109,10 +105,10 @@ TEST(Exports, CsvFilesHoldTheTablesWhole) {
 )");
     EXPECT_EQ(file("components"),
               R"(cell,name,kind,flow_kg_h,rise_Pa,drop_Pa,lowest_flow_kg_h,highest_flow_kg_h,range
-7,"Pump ""A"", <3> & Größe; 2",pump,18000,196200,,0,36000,within
-9,"a
+955,"Pump ""A"", <3> & Größe; 2",pump,18000,196200,,0,36000,within
+959,"a
 b",loss,18000,,29430,,,
-11,filter,loss,10800,,98100,,,
+971,filter,loss,10800,,98100,,,
 )");
 
     PutFile(folder / "file", "old");
@@ -214,18 +210,18 @@ TEST(Exports, EpanetInputIsTheNetwork) {
 
 [PUMPS]
 ;link suction delivery curve
- pump7 P2 P3 HEAD curve7 ; Pump "A", <3> & Größe; 2
+ pump955 P2 P3 HEAD curve955 ; Pump "A", <3> & Größe; 2
 
 [VALVES]
 ;link from to diameter_mm type drop_m minor_loss
- drop11 P11 P10 50 PBV 10 0 ; filter
+ drop971 P11 P10 50 PBV 10 0 ; filter
 
 [CURVES]
 ;curve flow_m3/h head_m
 ;PUMP: Pump "A", <3> & Größe; 2
- curve7 0 25
- curve7 18 20
- curve7 36 5
+ curve955 0 25
+ curve955 18 20
+ curve955 36 5
 
 [OPTIONS]
 ; Wasser <60 °C>, density 1000 kg/m3, dynamic viscosity 0.002 N s/m2
@@ -246,16 +242,16 @@ TEST(Exports, EpanetInputIsTheNetwork) {
 
 [COORDINATES]
 ;node column row
- P1 10 -20
- P2 9.7 -20
- P3 10.3 -20
- P4 10 -20
- P6 10 -20
- P7 10 -20
- P8 10 -20
- P9 10 -20
- P10 10.3 -20
- P11 9.7 -20
+ P1 3.298561 -21.29856
+ P2 5.998561 -21.29856
+ P3 6.598561 -21.29856
+ P4 10.29856 -21.29856
+ P6 13.29856 -21.29856
+ P7 16.29856 -21.29856
+ P8 18.29856 -21.29856
+ P9 26.29856 -21.29856
+ P10 22.59856 -21.29856
+ P11 21.99856 -21.29856
 
 [END]
 )");
@@ -271,9 +267,10 @@ TEST(Exports, EpanetInputOfWhatIsUnusual) {
     WorkNetwork& work = *run.results;
     CellRec& pump = work.WorkComponents[0].record;
     const std::vector<std::tuple<float, float, const char*>> curves = {
-        {10, 10, "\n curve7 0 25\n curve7 36 5\n curve7 45 -6.25"},   // at the end of its range
-        {-1, 10, "\n curve7 0 25\n curve7 25.2 15.2\n curve7 36 5"},  // backwards
-        {5, 0, "\n curve7 0 25\n curve7 18 20\n curve7 22.5 17.1875"},
+        {10, 10,
+         "\n curve955 0 25\n curve955 36 5\n curve955 45 -6.25"},  // at the end of its range
+        {-1, 10, "\n curve955 0 25\n curve955 25.2 15.2\n curve955 36 5"},  // backwards
+        {5, 0, "\n curve955 0 25\n curve955 18 20\n curve955 22.5 17.1875"},
     };
     for (const auto& [flow, range, curve] : curves) {
         work.WorkPipes[1].FlowRate = flow;
@@ -282,12 +279,12 @@ TEST(Exports, EpanetInputOfWhatIsUnusual) {
     }
     pump.MaxFlow = 10;
     pump.Param1 = 0;
-    EXPECT_THAT(section("CURVES"), HasSubstr("0 25\n curve7 25.2 24.975\n curve7 36 24.95"));
+    EXPECT_THAT(section("CURVES"), HasSubstr("0 25\n curve955 25.2 24.975\n curve955 36 24.95"));
     pump.Placed = false;
     EXPECT_THAT(section("PIPES"), HasSubstr("pipe2 P2 P4"));
     EXPECT_EQ(section("PUMPS"), "");
     work.WorkPipes[7].FlowRate = -3;
-    EXPECT_THAT(section("VALVES"), HasSubstr("drop11 P10 P11"));
+    EXPECT_THAT(section("VALVES"), HasSubstr("drop971 P10 P11"));
     work.WorkPressureUnknown[4] = false;
     EXPECT_THAT(section("PIPES"), HasSubstr("pipe3 P4 P6 50 80 0.1 1.024 ")) << "on the other side";
     EXPECT_THAT(section("RESERVOIRS"), HasSubstr("P4 28"));

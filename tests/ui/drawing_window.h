@@ -30,9 +30,9 @@ class DrawingWindow : public MainWindow {
         static const QRegularExpression form("^([LRC])(\\d+),(\\d+)$");
         const QRegularExpressionMatch part = form.match(step);
         if (!part.hasMatch()) return MainWindow::Take(step);
-        const QPoint place = PlaceOf(part.captured(2).toInt(), part.captured(3).toInt());
-        QTest::mouseClick(View().viewport(), step[0] == 'L' ? Qt::LeftButton : Qt::RightButton,
-                          step[0] == 'C' ? Qt::ControlModifier : Qt::NoModifier, place);
+        Click(part.captured(2).toInt(), part.captured(3).toInt(),
+              step[0] == 'L' ? Qt::LeftButton : Qt::RightButton,
+              step[0] == 'C' ? Qt::ControlModifier : Qt::NoModifier);
     }
 
     QGraphicsView& View() { return Child<QGraphicsView>("Drawing"); }
@@ -41,6 +41,18 @@ class DrawingWindow : public MainWindow {
         const ScreenPoint centre = CellCentre(project, CellAt(column, row, project.GridSize));
         return View().mapFromScene(QPointF(centre.x, centre.y));
     }
+
+    void Click(int column, int row, Qt::MouseButton button = Qt::LeftButton,
+               Qt::KeyboardModifier modifier = Qt::NoModifier) {
+        QTest::mouseClick(View().viewport(), button, modifier, PlaceOf(column, row));
+    }
+
+    void Draw(int column1, int row1, int column2, int row2) {
+        Click(column1, row1);
+        Click(column2, row2);
+    }
+
+    void Select(int column, int row) { Click(column, row, Qt::RightButton); }
 
     /// Pipe lines on the scene.
     int LinesDrawn() {

@@ -33,7 +33,10 @@ namespace idrova {
 /// The whole main window on an empty working folder, its message boxes scripted.
 class MainWindow : public testing::Test {
   public:
-    ~MainWindow() override { EXPECT_EQ(QApplication::activeModalWidget(), nullptr); }
+    ~MainWindow() override {
+        mdi->hide();  // a field with the keyboard tells what was typed while all is there
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    }
 
   protected:
     MainWindow() {
@@ -93,9 +96,9 @@ class MainWindow : public testing::Test {
         return enabled.join(' ');
     }
 
-    /// A walk through the windows. Each line takes steps, then may say what must be shown, or which
-    /// of the controls must be enabled: "Text6=3 # Text6 Text7 # 3|500", "Grafico # enabled t1 #
-    /// t1".
+    /// A walk through the windows. Each line takes steps, then may say what must be shown,
+    /// "Text6=3 # Text6 Text7 # 3|500", or which of the controls must be enabled,
+    /// "sintub # enabled Veloce #"; a reason may follow.
     void Walk(const QString& walk) {
         static const QRegularExpression mark("(^| +)#(?= |$)");
         for (const QString& line : walk.split('\n')) {
@@ -113,7 +116,8 @@ class MainWindow : public testing::Test {
     virtual void Take(const QString& step) {
         static const QRegularExpression form("^(\\w+)([=:#!>]?)(.*)$");
         const QRegularExpressionMatch part = form.match(step);
-        const QString name = part.captured(1), value = part.captured(3);
+        const QString name = part.captured(1);
+        const QString value = part.captured(3);
         const QChar sign = part.captured(2).isEmpty() ? QChar() : part.captured(2).front();
         auto* item = mdi->findChild<QAction*>(name);
         if (sign == '>') return Open(name.toLatin1(), value.toLatin1());
@@ -130,6 +134,7 @@ class MainWindow : public testing::Test {
     virtual QString TextOf(const QString& name) {
         if (name.endsWith('?')) {
             const auto named = mdi->findChildren<QWidget*>(name.chopped(1));
+            if (named.isEmpty() && !name.startsWith("Frm")) Child<QWidget>(name);  // throws
             return std::ranges::any_of(named, &QWidget::isVisible) ? "1" : "0";
         }
         if (name.endsWith('*')) return EntriesOf(Child<QWidget>(name.chopped(1)));
