@@ -10,7 +10,7 @@ set -euo pipefail
 
 packages_of() {
     case "$1" in
-    build) echo cmake g++ ninja-build pkg-config qt6-base-dev libqcustomplot-dev libxcb-ewmh-dev libcli11-dev libsuitesparse-dev nlohmann-json3-dev ;;
+    build) echo cmake g++ ninja-build pkg-config qt6-base-dev qt6-svg-dev libqcustomplot-dev libxcb-ewmh-dev libcli11-dev libsuitesparse-dev nlohmann-json3-dev ;;
     test) echo libgmock-dev libgtest-dev appstream desktop-file-utils locales openbox shared-mime-info xauth xdotool xvfb ;;
     check) echo clang-format clang-tidy dpkg-dev file git libbenchmark-dev lintian shellcheck ;;
     *) echo "$0: no group of packages is called $1" >&2 && return 1 ;;

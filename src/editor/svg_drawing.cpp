@@ -111,9 +111,8 @@ class SvgSurface final : public DrawingSurface {
                Attribute("width", width / kUnitsPerPixel) +
                Attribute("height", height / kUnitsPerPixel) + Attribute("viewBox", box) + ">\n<g" +
                Attribute("stroke", ink) + " stroke-width=\"20\" fill=\"none\">\n" +
-               "<style>text{font:" + PlainText(cell_ * 0.58) +
-               "px monospace;text-anchor:middle;fill:black;stroke:none}</style>\n" + body_ +
-               "</g>\n</svg>\n";
+               "<style>text{font-family:monospace;font-size:" + PlainText(cell_ * 0.58) +
+               "px;text-anchor:middle;fill:black;stroke:none}</style>\n" + body_ + "</g>\n</svg>\n";
     }
 
   private:

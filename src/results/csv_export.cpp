@@ -2,7 +2,7 @@
 #include "results/csv_export.h"
 
 #include <array>
-#include <utility>
+#include <cstddef>
 
 #include "base/file.h"
 #include "base/markup_text.h"
@@ -37,16 +37,22 @@ std::string CsvText(const ResultTable& table) {
 
 }  // namespace
 
+std::vector<std::filesystem::path> CsvFiles(const std::filesystem::path& folder,
+                                            const std::string& name) {
+    return {folder / (name + "-pipes.csv"), folder / (name + "-points.csv"),
+            folder / (name + "-components.csv")};
+}
+
 Status WriteCsvFiles(const RunRecord& run, Unit unit, const std::string& name,
                      const std::filesystem::path& folder) {
     std::error_code ignored;  // writing tells
-    std::filesystem::create_directories(folder, ignored);
-    const std::array<std::pair<const char*, ResultTable>, 3> files = {
-        {{"-pipes.csv", PipeTable(run.settings, *run.results)},
-         {"-points.csv", PointTable(run.settings, *run.results, unit)},
-         {"-components.csv", ComponentTable(*run.results)}}};
-    for (const auto& [ending, table] : files) {
-        Status written = WriteWholeFile(folder / (name + ending), CsvText(table));
+    if (!folder.empty()) std::filesystem::create_directories(folder, ignored);
+    const std::array<ResultTable, 3> tables = {PipeTable(run.settings, *run.results),
+                                               PointTable(run.settings, *run.results, unit),
+                                               ComponentTable(*run.results)};
+    const std::vector<std::filesystem::path> files = CsvFiles(folder, name);
+    for (std::size_t i = 0; i < tables.size(); ++i) {
+        Status written = WriteWholeFile(files[i], CsvText(tables[i]));
         if (!written) return written;
     }
     return Done{};

@@ -3,15 +3,20 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "base/result.h"
 #include "results/run_record.h"
 
 namespace idrova {
 
-/// Writes NAME-pipes.csv, NAME-points.csv and NAME-components.csv, comma separated values in UTF-8,
-/// into a folder, which is made when it is missing: numbers with a period and up to 7 digits,
-/// nothing for one that is not finite. The run must have results. The failure names the file.
+/// NAME-pipes.csv, NAME-points.csv and NAME-components.csv of a folder.
+std::vector<std::filesystem::path> CsvFiles(const std::filesystem::path& folder,
+                                            const std::string& name);
+
+/// Writes the tables into `CsvFiles`, as comma separated values in UTF-8: numbers with a period and
+/// up to 7 digits, nothing for one that is not finite. Makes the folder when it is missing. The run
+/// must have results. The failure names the file.
 Status WriteCsvFiles(const RunRecord& run, Unit unit, const std::string& name,
                      const std::filesystem::path& folder);
 

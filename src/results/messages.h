@@ -23,6 +23,9 @@ constexpr FixedMessage kEditorNotFound{"Editor not found", kEditorTitle};
 
 constexpr std::string_view kExportTitle = "Export";
 constexpr std::string_view kNoResultsToExport = "There are no results to export";
+constexpr std::string_view kOldResultsToExport =
+    "The plant has changed since its computation: compute it again first";
+constexpr std::string_view kNoDrawingToExport = "Only a drawn plant has a drawing";
 constexpr std::string_view kNoGasInEpanet = "EPANET computes liquids only";
 
 }  // namespace idrova

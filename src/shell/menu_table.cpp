@@ -58,6 +58,11 @@ constexpr MenuEntry kMenuTable[] = {
      .mnemonic = 5,
      .shortcut = "Shift+F6",
      .tip = "Show the results of the last computation in tables"},
+    {.name = "Esporta",
+     .parent = "File",
+     .caption = "Export results",
+     .shortcut = "Ctrl+E",
+     .tip = "Write results or drawing for the browser, paper, spreadsheets and other programs"},
     {.name = "Esci",
      .parent = "File",
      .caption = "Exit",
@@ -222,12 +227,18 @@ constexpr MenuEntry kMenuTable[] = {
      .caption = "Results saved in sequence",
      .kind = Check,
      .tip = "Add each report at the end of the results file"},
+    {.name = "Subito",
+     .parent = "Opzioni",
+     .caption = "Compute at once",
+     .kind = Check,
+     .mnemonic = 1,
+     .tip = "Compute the drawing or the table after every change, without questions",
+     .separated = true},
     {.name = "BarraStrumenti",
      .parent = "Opzioni",
      .caption = "Tool bar",
      .kind = Check,
-     .tip = "Show or hide the tool bar",
-     .separated = true},
+     .tip = "Show or hide the tool bar"},
 
     {.name = "Help", .parent = "", .caption = "Help", .kind = Menu},
     {.name = "Helpslinea",
@@ -276,6 +287,7 @@ bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
 bool IsChecked(const MenuEntry& entry, const Settings& settings, const ShellState& shell) {
     if (entry.name == "Helpslinea") return shell.HintsShown;
     if (entry.name == "BarraStrumenti") return shell.ToolBarShown;
+    if (entry.name == "Subito") return shell.ComputesAtOnce;
     if (entry.name == "Risultatiseq") return settings.ResultsInSequence;
     for (const std::string_view checked : CheckedEntries(settings, shell)) {
         if (entry.name == checked) return true;

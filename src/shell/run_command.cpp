@@ -11,6 +11,7 @@
 #include "results/report.h"
 #include "results/results_file.h"
 #include "table/table_network.h"
+#include "table/table_rows.h"
 
 namespace idrova {
 namespace {
@@ -83,6 +84,13 @@ RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& wor
     CheckPumps(work, host.boxes);
     CheckPressures(project.settings, work, host.boxes);
     return record;
+}
+
+bool IsToCompute(const Project& project, const RunRecord* last) {
+    const WorkMode mode = project.settings.Mode;
+    if (mode == WorkMode::SinglePipe) return false;
+    if (last != nullptr) return last->inputs != InputsOf(project);
+    return mode == WorkMode::Table ? CountListedRows(project) > 0 : project.numtubo > 0;
 }
 
 SinglePipeResult RunSinglePipe(const SinglePipe& pipe, const Project& project, WorkNetwork& work) {

@@ -37,6 +37,10 @@ struct RunHost {
 RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
                      const RunHost& host);
 
+/// True when the drawing or the table has pipes and is not as it was when `last` was computed; null
+/// for never. The single pipe is always computed at once.
+bool IsToCompute(const Project& project, const RunRecord* last);
+
 struct SinglePipeResult {
     RunRecord record;
     std::optional<BoxText> box;  ///< the unknown's new text, when there is one

@@ -12,6 +12,7 @@ namespace idrova {
 struct ShellState {
     bool HintsShown = true;  ///< the hint window is open
     bool ToolBarShown = true;
+    bool ComputesAtOnce = false;            ///< whenever the plant has changed and typing pauses
     std::string_view roughnessItem = "t1";  ///< menu item of the roughness last chosen
 };
 

@@ -51,6 +51,7 @@ struct Program {
     ShellState shell;
     std::map<WorkMode, RunRecord> records;  ///< of the last computation in each mode
     std::string report;                     ///< of the last computation that wrote one
+    bool reportStored = true;               ///< it stands in the results file, if there is one
 
     /// Brings every window, check mark, panel and the status bar up to date with what stands here.
     /// Called once after every change, when all is whole.

@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QClipboard>
+#include <QImage>
 #include <QPlainTextEdit>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTimer>
 
 #include "drawing_window.h"
 #include "results/messages.h"
+#include "support/markup_check.h"
+#include "ui/frame/messages.h"
+#include "ui/kit/qt_text.h"
 
 namespace idrova {
 namespace {
@@ -56,6 +61,44 @@ TEST_F(ResultsWindow, AChangeGreysThemAndWithoutAnEditorTheyOpenInItsPlace) {
     QTest::keyClick(window, Qt::Key_Escape);
     boxes.Expect(kConfigureEditor);
     Walk("Risultati>FrmRis;sintub # ResultState Pipes* # Not computed yet|");
+}
+
+TEST_F(ResultsWindow, TheyAreWrittenInEveryFormButNotOnceThePlantHasChanged) {
+    const auto write = [this](const char* name) {
+        QTimer::singleShot(0, [this, name] {
+            auto* field = QApplication::activeModalWidget()->findChild<QLineEdit*>("fileNameEdit");
+            field->setText(PathToQt(folder / name));
+            QTest::keyClick(field, Qt::Key_Return);
+        });
+        Choose("Esporta");
+        return FileBytes(folder / name);
+    };
+    write("report");  // what is offered first is HTML
+    const std::string page = FileBytes(folder / "report.html");
+    EXPECT_TRUE(page.starts_with("<!DOCTYPE html>"));
+    EXPECT_EQ(MarkupFault(page), "");
+    const std::string paper = write("r.PDF");
+    EXPECT_TRUE(paper.starts_with("%PDF-"));
+    EXPECT_NE(paper.find("/Count 2"), std::string::npos) << "a sheet of its own for the drawing";
+    EXPECT_TRUE(write("plant.svg").starts_with("<svg"));
+    QImage picture;
+    EXPECT_TRUE(picture.loadFromData(QByteArray::fromStdString(write("plant.png"))));
+    QImage empty = picture;
+    empty.fill(Qt::white);
+    EXPECT_NE(picture, empty);
+    EXPECT_TRUE(write("plant.inp").starts_with("[TITLE]"));
+    EXPECT_EQ(write("plant.csv"), "");
+    EXPECT_TRUE(FileBytes(folder / "plant-points.csv").starts_with("point,"));
+
+    const std::string names = "plant-pipes.csv, plant-points.csv, plant-components.csv";
+    PutFile(folder / "plant-pipes.csv", "mine");
+    boxes.Expect(OverwriteExported(names), Answer::No);
+    write("plant.csv");
+    EXPECT_EQ(FileBytes(folder / "plant-pipes.csv"), "mine");
+    project.Pipes[1].Length = 200;
+    boxes.Expect({std::string(kOldResultsToExport), kExportTitle});
+    write("late.html");
+    EXPECT_FALSE(std::filesystem::exists(folder / "late.html"));
 }
 
 }  // namespace

@@ -42,6 +42,28 @@ class Run : public DrawingWindow {
     QListWidget& problems = Child<QListWidget>("Problems");
 };
 
+TEST_F(Run, AtOnceFollowsEveryChangeAndAsksNothing) {
+    const auto computed = [&] { return outcome.text().startsWith("Computed"); };
+    ChooseWater();
+    project.settings.BasePressure = -1e7F;  // of which the button's run would ask
+    Choose("Subito");
+    EXPECT_TRUE(QTest::qWaitFor(computed));
+    const float before = project.Pipes[1].FlowRate;
+    Do("Text6=10");
+    EXPECT_EQ(outcome.text(), "Changed since the computation");
+    EXPECT_TRUE(QTest::qWaitFor(computed));
+    EXPECT_GT(project.Pipes[1].FlowRate, 2 * before);
+    EXPECT_EQ(Stored(), "") << "until somebody asks for it";
+    boxes.Expect(kConfigureEditor);
+    Choose("Risultati");
+    EXPECT_EQ(Stored(), program->report);
+    Do("Text6=");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return outcome.text() == "Not computed"; }));
+    EXPECT_GT(Child<QListWidget>("Problems").count(), 0);
+    Choose("Tabella");
+    EXPECT_TRUE(QTest::qWaitFor(computed));
+}
+
 TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
     ChooseWater();
     project.settings.BasePressure = 101325;

@@ -12,6 +12,7 @@
 #include "results/results_file.h"
 #include "shell/messages.h"
 #include "ui/frame/edit_commands.h"
+#include "ui/frame/export_command.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
@@ -90,6 +91,14 @@ void PrintLastResults(MDI& mdi) {
     });
 }
 
+/// What was computed at once is put into the results file when somebody wants to see that.
+void StoreShownReport(Program& program) {
+    if (program.reportStored) return;
+    const Status stored = StoreReport(program.project.settings, program.report, program.folder);
+    if (!stored) program.boxes.Show({stored.Error(), kResultsTitle});
+    program.reportStored = true;
+}
+
 template <typename Window>
 void OpenWindow(MDI& mdi, std::string_view name) {
     mdi.Windows().Open(name, [&mdi] { return new Window(mdi.State()); });
@@ -105,6 +114,7 @@ void AttachResults(MDI& mdi) {
     Program& program = mdi.State();
     menu.Attach("Stampa", [&mdi] { PrintLastResults(mdi); });
     menu.Attach("Risultati", [&mdi, &program] {
+        StoreShownReport(program);
         ShowResults(
             program.folder, program.boxes, [&mdi, &program](const auto& editor, const auto& file) {
                 return StartWithFile(editor, file, mdi, [&program](const std::string& reason) {
@@ -114,6 +124,7 @@ void AttachResults(MDI& mdi) {
         if (!IsFile(ConfiguredEditor(program.folder))) OpenWindow<FrmRis>(mdi, "FrmRis");
     });
     AttachWindow<FrmRis>(mdi, "TabRisultati", "FrmRis");
+    menu.Attach("Esporta", [&mdi] { ExportFromWindow(mdi); });
     menu.Attach("Elris", [&program] { DeleteResults(program.folder, program.boxes); });
     menu.Attach("Risultatiseq", [&program] {
         program.project.settings.ResultsInSequence = !program.project.settings.ResultsInSequence;

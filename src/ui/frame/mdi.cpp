@@ -21,6 +21,7 @@
 #include "shell/messages.h"
 #include "ui/drawing/frm_cel.h"
 #include "ui/frame/commands.h"
+#include "ui/frame/compute_at_once.h"
 #include "ui/frame/edit_commands.h"
 #include "ui/frame/file_commands.h"
 #include "ui/frame/menu_bar.h"
@@ -64,13 +65,6 @@ ChildWindow* MakeModeWindow(WorkMode mode, Program& program) {
     return new FrmCel(program);
 }
 
-void OpenBeside(MDI& mdi, FrmHelp& hints, FrmProb& problems) {
-    constexpr int height = 120;  // five of them
-    problems.Open();
-    mdi.resizeDocks({&hints, &problems}, {1, 1}, Qt::Horizontal);
-    mdi.resizeDocks({&problems}, {height}, Qt::Vertical);
-}
-
 /// The project file in what is being dragged; empty when there is none.
 std::filesystem::path DraggedProject(const QMimeData& data) {
     for (const QUrl& url : data.urls()) {
@@ -89,14 +83,14 @@ MDI::MDI(Program& program)
       recent_(std::make_unique<RecentMenu>(
           *menuBar()->findChild<QMenu*>("Recenti"),
           [this](const std::filesystem::path& file) { OpenRecentFile(*this, file); })),
-      statusLine_(std::make_unique<StatusLine>(*statusBar(),
-                                               [this] { OpenBeside(*this, *hints_, *problems_); })),
+      statusLine_(std::make_unique<StatusLine>(*statusBar(), [this] { ShowProblems(); })),
       toolBar_(new ToolBar(*menuBar(), [this] { panel_->calculate(); })),
       settingsBar_(new SettingsBar(program)),
       windows_(new ChildWindows),
       panel_(new FrmCom(program, this)),
       hints_(new FrmHelp(program, this)),
-      problems_(new FrmProb(program, this)) {
+      problems_(new FrmProb(program, this)),
+      atOnce_(std::make_unique<ComputeAtOnce>(program)) {
     Named(this, "MDI");
     setAcceptDrops(true);
     // The menu of docks would show the hint window behind the back of its menu item.
@@ -157,6 +151,7 @@ void MDI::ShowState() {
     problems_->ShowState();
     ShowTitle();
     windows_->ShowState();
+    atOnce_->ShowState();
 }
 
 void MDI::ShowOutcome() {
@@ -173,6 +168,13 @@ void MDI::Say(const std::string& words) {
 void MDI::TakeEdits() {
     ChildWindow* window = windows_->Find(ViewOf(program_.project.settings.Mode).window);
     if (window != nullptr) window->TakeEdits();
+}
+
+void MDI::ShowProblems() {
+    constexpr int height = 120;  // five of them
+    problems_->Open();
+    resizeDocks({hints_, problems_}, {1, 1}, Qt::Horizontal);
+    resizeDocks({problems_}, {height}, Qt::Vertical);
 }
 
 void MDI::SwitchFocus(bool backwards) {

@@ -8,6 +8,7 @@
 namespace idrova {
 
 class ChildWindows;
+class ComputeAtOnce;
 class FrmCom;
 class FrmHelp;
 class FrmProb;
@@ -44,6 +45,9 @@ class MDI : public QMainWindow {
     /// Says something in the status bar, until the next command.
     void Say(const std::string& words);
 
+    /// Opens the list of problems, beside the hints.
+    void ShowProblems();
+
     /// Moves the keyboard between the child windows and the command panel.
     void SwitchFocus(bool backwards);
 
@@ -70,6 +74,7 @@ class MDI : public QMainWindow {
     FrmCom* panel_;
     FrmHelp* hints_;
     FrmProb* problems_;
+    std::unique_ptr<ComputeAtOnce> atOnce_;
     QString title_;
 };
 

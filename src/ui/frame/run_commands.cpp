@@ -34,6 +34,7 @@ void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
     program.records[program.project.settings.Mode] = Compute(mdi);
+    program.reportStored = true;
     mdi.ShowState();
 }
 
@@ -42,6 +43,10 @@ void Calculate(MDI& mdi) {
 void AttachRunCommands(MDI& mdi) {
     Program& program = mdi.State();
     mdi.Panel().calculate = [&mdi] { Calculate(mdi); };
+    mdi.Menu().Attach("Subito", [&mdi, &program] {
+        program.shell.ComputesAtOnce = !program.shell.ComputesAtOnce;
+        if (program.shell.ComputesAtOnce) mdi.ShowProblems();
+    });
     mdi.Menu().Attach("Ordina", [&program] {
         if (!MakeFlowRatesPositive(program.project, program.boxes)) return;
         const auto record = program.records.find(WorkMode::Graphic);
