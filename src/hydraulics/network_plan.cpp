@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "hydraulics/network_plan.h"
 
+#include <algorithm>
+
 namespace idrova {
 namespace {
 
@@ -127,6 +129,13 @@ NetworkPlan PlanNetwork(const WorkNetwork& work) {
         plan.equations += 2;
     }
     return plan;
+}
+
+bool IsOpenEnd(const NetworkPlan& plan, int point) {
+    const auto holds = [point](const Component& component) {
+        return component.high == point || component.low == point;
+    };
+    return plan.pipesAtPoint[point] == 1 && std::ranges::none_of(plan.components, holds);
 }
 
 }  // namespace idrova

@@ -45,4 +45,7 @@ struct NetworkPlan {
 /// Numbers drawn pipes, then drawn points, and counts equations and known terms.
 NetworkPlan PlanNetwork(const WorkNetwork& work);
 
+/// One pipe ends there, and no component.
+bool IsOpenEnd(const NetworkPlan& plan, int point);
+
 }  // namespace idrova

@@ -2,10 +2,10 @@
 #include "hydraulics/problems.h"
 
 #include <algorithm>
-#include <array>
 #include <string>
 
 #include "base/number_text.h"
+#include "hydraulics/given_values.h"
 #include "hydraulics/messages.h"
 #include "hydraulics/network_plan.h"
 #include "hydraulics/run_checks.h"
@@ -17,11 +17,7 @@ namespace {
 class ProblemList {
   public:
     ProblemList(const Settings& settings, const WorkNetwork& work)
-        : settings_(settings), work_(work), plan_(PlanNetwork(work)) {
-        for (const Component& component : plan_.components) {
-            joined_[component.high] = joined_[component.low] = true;
-        }
-    }
+        : settings_(settings), work_(work), plan_(PlanNetwork(work)) {}
 
     std::vector<Note> All() {
         if (const auto refusal = CheckFluid(settings_)) AddNetwork(*refusal);
@@ -36,6 +32,10 @@ class ProblemList {
   private:
     void Add(NoteOn on, int number, std::string text) {
         notes_.push_back({std::move(text), on, number});
+    }
+
+    void Add(const std::vector<Note>& notes) {
+        notes_.insert(notes_.end(), notes.begin(), notes.end());
     }
 
     void AddNetwork(const Refusal& refusal) {
@@ -75,51 +75,9 @@ class ProblemList {
     }
 
     void AddCounts(const Refusal& refusal) {
-        if (refusal.kind == RefusalKind::TooFewTerms) AddOpenEnds();
-        if (refusal.kind == RefusalKind::TooManyTerms) {
-            AddSurplusPressures();
-            AddSurplusFlows();
-        }
+        if (refusal.kind == RefusalKind::TooFewTerms) Add(MissingValues(plan_, work_));
+        if (refusal.kind == RefusalKind::TooManyTerms) Add(SurplusValues(plan_, work_));
         if (notes_.empty()) AddNetwork(refusal);
-    }
-
-    bool IsOpenEnd(int point) const { return plan_.pipesAtPoint[point] == 1 && !joined_[point]; }
-
-    void AddOpenEnds() {
-        for (const auto& [number, pipe] : DrawnPipes(work_)) {
-            if (!work_.WorkFlowUnknown[number]) continue;
-            for (const int point : {pipe.StartPoint, pipe.EndPoint}) {
-                if (!IsOpenEnd(point) || !work_.WorkPressureUnknown[point]) continue;
-                Add(NoteOn::Point, point,
-                    "Point " + GeneralText(point) +
-                        " is an open end: give its pressure or the flow of pipe " +
-                        GeneralText(number));
-            }
-        }
-    }
-
-    /// An open end takes one value, a point where the flow goes on none.
-    void AddSurplusPressures() {
-        for (const auto& [number, point] : DrawnPoints(work_)) {
-            if (work_.WorkPressureUnknown[number] || IsOpenEnd(number)) continue;
-            Add(NoteOn::Point, number,
-                "The pressure of point " + GeneralText(number) +
-                    " is given, though it is no open end: make it unknown");
-        }
-    }
-
-    void AddSurplusFlows() {
-        for (const auto& [number, pipe] : DrawnPipes(work_)) {
-            if (work_.WorkFlowUnknown[number]) continue;
-            const auto takesFlow = [this](int point) {
-                return IsOpenEnd(point) && work_.WorkPressureUnknown[point];
-            };
-            if (takesFlow(pipe.StartPoint) || takesFlow(pipe.EndPoint)) continue;
-            Add(NoteOn::Pipe, number,
-                "The flow of pipe " + GeneralText(number) +
-                    " is given, though no end of it is open for one: make it or a pressure "
-                    "unknown");
-        }
     }
 
     void AddIncoherentPipes() {
@@ -135,7 +93,6 @@ class ProblemList {
     const Settings& settings_;
     const WorkNetwork& work_;
     const NetworkPlan plan_;
-    std::array<bool, kMaxPoints + 1> joined_{};  ///< the point lies at a component
     std::vector<Note> notes_;
 };
 

@@ -9,6 +9,7 @@
 #include "hydraulics/component_law.h"
 #include "hydraulics/fluid_density.h"
 #include "hydraulics/friction_law.h"
+#include "hydraulics/given_values.h"
 #include "hydraulics/loose_part.h"
 #include "hydraulics/pipe_drop.h"
 #include "hydraulics/run_results.h"
@@ -65,8 +66,16 @@ void NoteGivenFlow(const WorkNetwork& work, int i, const PipeRec& pipe, Notes& n
     }
 }
 
-void NoteGivenFlows(const WorkNetwork& work, Notes& notes) {
-    for (const auto [i, pipe] : DrawnPipes(work)) NoteGivenFlow(work, i, pipe, notes);
+/// What is given for pipes.
+void NotePipes(const WorkNetwork& work, Notes& notes) {
+    for (const auto [i, pipe] : DrawnPipes(work)) {
+        NoteGivenFlow(work, i, pipe, notes);
+        if (pipe.LossSum >= 0) continue;
+        notes.push_back(
+            OnPipe(i, "The fittings of pipe ",
+                   " have a negative sum of coefficients: they drive the flow, and there"
+                   " may be several solutions"));
+    }
 }
 
 /// The narrowest pipe, if its wall is too rough for the friction formulas.
@@ -148,6 +157,12 @@ void NoteComponent(const Settings& settings, const WorkNetwork& work, const Comp
     const CellRec& cell = component.record;
     if (!cell.Placed) return;
     if (cell.Kind == CellKind::Pump) return NotePump(work, component, flow, notes);
+    if (cell.Param2 < 0 || (cell.Param2 == 0 && cell.Param1 < 0)) {
+        notes.push_back(NoteOnCell(work, component.cell, "The loss",
+                                   " is negative: it drives the flow, and there may be several"
+                                   " solutions"));
+        return;
+    }
     if (cell.Param2 == 0) return;
     if (std::abs(flow) >= FullDropFlow(settings, work.WorkPipes[component.pipeA])) return;
     notes.push_back(NoteOnCell(work, component.cell, "The fixed drop",
@@ -234,6 +249,17 @@ void NoteNetwork(const NetworkPlan& plan, const WorkNetwork& work, const StageRe
     if (!result.balanced) notes.push_back({"The flows do not balance at every junction"});
 }
 
+/// Why there is no single solution, and what the numbers are then.
+void NoteSingular(const NetworkPlan& plan, const WorkNetwork& work, bool finite, Notes& notes) {
+    for (const Note& note : MissingValues(plan, work)) notes.push_back(note);
+    for (const Note& note : SurplusValues(plan, work)) {
+        const bool told = note.on == NoteOn::Pipe && IsOverdetermined(work, note.number);
+        if (!told) notes.push_back(note);
+    }
+    notes.push_back({"The given values leave no single solution"});
+    if (finite) notes.back().text += "; all numbers are rough, also in parts that have one";
+}
+
 void NoteUnjoined(const NetworkPlan& plan, const WorkNetwork& work, Notes& notes) {
     for (const Component& component : plan.components) {
         if (component.high != 0 || !component.record.Placed) continue;
@@ -266,10 +292,11 @@ std::vector<Note> ResultNotes(const Settings& settings, const NetworkPlan& plan,
     Notes notes;
     NoteNetwork(plan, work, result, notes);
     NoteUnjoined(plan, work, notes);
+    if (result.singular) NoteSingular(plan, work, result.finite, notes);
     NoteUnsettled(work, result, notes);
     NoteThinGas(work, result, notes);
     if (result.finite) NoteVacuum(settings, plan, work, result, notes);
-    NoteGivenFlows(work, notes);
+    NotePipes(work, notes);
     if (result.finite) {
         NoteMach(settings, plan, work, result, notes);
         for (const Component& component : plan.components) {

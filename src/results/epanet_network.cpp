@@ -26,14 +26,6 @@ void AddMinorLoss(const Component& component, EpanetNetwork& network) {
     }
 }
 
-bool IsOpenEnd(const EpanetNetwork& network, int point) {
-    const auto holds = [point](const Component& component) {
-        return component.pipeA != 0 && (component.high == point || component.low == point);
-    };
-    return network.plan.pipesAtPoint[point] == 1 &&
-           std::ranges::none_of(network.plan.components, holds);
-}
-
 }  // namespace
 
 EpanetNetwork EpanetNetworkOf(const RunRecord& run) {
@@ -74,7 +66,7 @@ int GivenPointOf(const EpanetNetwork& network, int node) {
 }
 
 double DemandAt(const EpanetNetwork& network, int point) {
-    if (!IsOpenEnd(network, point)) return 0;
+    if (!IsOpenEnd(network.plan, point)) return 0;
     double demand = 0;
     for (const auto& [number, pipe] : DrawnPipes(network.work)) {
         if (!pipe.IsEnd(point)) continue;

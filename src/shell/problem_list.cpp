@@ -6,6 +6,7 @@
 
 #include "hydraulics/problems.h"
 #include "hydraulics/work_network.h"
+#include "results/result_age.h"
 #include "table/table_columns.h"
 #include "table/table_network.h"
 
@@ -42,7 +43,7 @@ Note OnRow(const Project& project, Note note) {
 
 ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last) {
     ProblemView view;
-    if (last != nullptr && last->inputs == InputsOf(project)) {
+    if (IsUpToDate(last, project)) {
         view = {OutcomeLine(last->outcome), last->outcome.notes};
     } else {
         view.notes = PresentProblems(project, texts);

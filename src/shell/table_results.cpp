@@ -3,6 +3,7 @@
 
 #include "base/number_text.h"
 #include "results/network_results.h"
+#include "results/result_age.h"
 
 namespace idrova {
 namespace {
@@ -17,7 +18,7 @@ RowResults ShowRowResults(const Project& project, const RunRecord* record) {
     RowResults shown;
     if (record == nullptr || !record->results) return shown;
     shown.isEmpty = false;
-    shown.outOfDate = record->inputs != InputsOf(project);
+    shown.outOfDate = !IsUpToDate(record, project);
     const WorkNetwork& results = *record->results;
     const auto pressure = [&](int point) {
         const Settings& settings = project.settings;

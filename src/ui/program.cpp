@@ -2,6 +2,7 @@
 #include "ui/program.h"
 
 #include "editor/component_insertion.h"
+#include "results/result_age.h"
 
 namespace idrova {
 
@@ -12,12 +13,11 @@ const RunRecord* RecordOf(const Program& program) {
 
 bool ResultsAreOld(const Program& program) {
     const RunRecord* record = RecordOf(program);
-    return record != nullptr && record->inputs != InputsOf(program.project);
+    return record != nullptr && !IsUpToDate(record, program.project);
 }
 
 bool ShowsOldResults(const Program& program) {
-    const RunRecord* record = RecordOf(program);
-    return record != nullptr && (!record->results || ResultsAreOld(program));
+    return !HasCurrentResults(RecordOf(program), program.project);
 }
 
 void RereadComponents(Program& program) {

@@ -164,6 +164,9 @@ void FlowSlowly(NetworkBuilder& network) {
     network.SetPressure(1, 3e5F);
 }
 
+constexpr const char* kNegativeLoss =
+    "The loss in column 5, row 5 is negative: it drives the flow, and there may be several"
+    " solutions";
 const struct {
     std::function<void(NetworkBuilder&)> spoil;
     std::vector<Note> notes;
@@ -187,6 +190,18 @@ const struct {
        " out, counts",
        NoteOn::Pipe, 1}}},
     {[](auto& n) { BlowAir(n, 0.4F); }, {}},
+    {[](auto& n) { n->Pipes[1].LossSum = -1; },
+     {{"The fittings of pipe 1 have a negative sum of coefficients: they drive the flow, and there"
+       " may be several solutions",
+       NoteOn::Pipe, 1}}},
+    {[](auto& n) {
+         n = CutPipe({9, .1F}, CellKind::Loss, {2, -1e4F}, {9, .1F}, 3e5F);
+     },
+     {{kNegativeLoss, NoteOn::Cell, 205}}},
+    {[](auto& n) {
+         n = CutPipe({9, .1F}, CellKind::Loss, {-.2F, 0}, {9, .1F}, 3e5F);
+     },
+     {{kNegativeLoss, NoteOn::Cell, 205}}},
     {[](auto& n) { BlowAir(n, -4), n.SetPressure(1, 0), n->PressureUnknown[2] = true; },
      {{"The gas in pipe 1 would fall below a vacuum", NoteOn::Pipe, 1},
       {"Pipe 1 has a negative flow given, which was taken as positive", NoteOn::Pipe, 1}}},
@@ -206,6 +221,30 @@ TEST(RunNotes, NameTheirPlace) {
         network.SetPressure(3, 2e5F);
         c.spoil(network);
         EXPECT_EQ(NetworkRun(network).outcome.notes, c.notes);
+    }
+}
+
+TEST(RunNotes, SayWhyThereIsNoSingleSolution) {
+    const std::string rough =
+        "The given values leave no single solution; all numbers are rough, also in parts that have"
+        " one";
+    NetworkBuilder round(3);  // as many unknowns as equations, but no level
+    for (int i = 1; i <= 3; ++i) round.AddPipe(i, i % 3 + 1);
+    NetworkBuilder misplaced = CutPipe({9, .1F}, CellKind::Loss, {2}, {9, .1F}, 3e5F);
+    misplaced.SetFlow(2, 5);  // one value too many here, one too few in a third pipe
+    misplaced.AddPipe(misplaced.AddPoint(20, 2), misplaced.AddPoint(24, 2));
+    misplaced.SetPressure(5, 2e5F);
+    const std::pair<const NetworkBuilder*, std::vector<std::string>> cases[] = {
+        {&round, {"No pressure is given in the part of the network that holds pipe 1", rough}},
+        {&misplaced,
+         {"Point 6 is an open end: give its pressure or the flow of pipe 3",
+          "The flow of pipe 2 is given, though no end of it is open for one: make it or a pressure"
+          " unknown",
+          rough}}};
+    for (const auto& [network, notes] : cases) {
+        const NetworkRun run(*network);
+        EXPECT_EQ(run.outcome.end, RunEnd::Singular);
+        EXPECT_THAT(run.Notes(), testing::IsSupersetOf(notes));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include "results/result_age.h"
 #include "support/networks.h"
 
 namespace idrova {
@@ -59,9 +60,14 @@ TEST(RunRecord, ResultsAreOutOfDateWhenWhatTheyDependOnDiffers) {
         network.SetPressure(1, 1e5F);
         network->Cells[7] = {.Name = "Pump", .Kind = CellKind::Pump, .Param1 = -1, .Placed = true};
         c.before(*network);
-        const RunInputs before = InputsOf(*network);
+        RunRecord record;
+        record.inputs = InputsOf(*network);
         c.change(*network);
-        EXPECT_EQ(InputsOf(*network) != before, c.outOfDate) << c.what;
+        EXPECT_EQ(IsUpToDate(&record, *network), !c.outOfDate) << c.what;
+        EXPECT_FALSE(HasCurrentResults(&record, *network)) << "a run without results";
+        record.results.emplace();
+        EXPECT_EQ(HasCurrentResults(&record, *network), !c.outOfDate) << c.what;
+        EXPECT_FALSE(HasCurrentResults(nullptr, *network)) << "opened, not computed";
     }
 }
 
