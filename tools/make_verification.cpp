@@ -22,7 +22,7 @@ all of these cases anew, and `tools/make_verification` writes this page from the
 - *Source* is a published value, or an expression for the script below, which gives the expected one
   (`tools/check_verification.py` evaluates all of them).
 - *Difference* is that of the computed from the expected value, of the expected one. Published values
-  have two or three digits, and stand for a real π and for Colebrook's constants to more digits.
+  have three to five digits, and stand for a real π and for Colebrook's constants to more digits.
 - Where nothing else is said, pipes are level, walls have a roughness of 0.1 mm, water has 1000 kg/m³ and
   0.001 Pa·s, oil the same density and 0.2 Pa·s, and air 1.2929 kg/m³ at 0 °C and 101325 Pa, 1.8·10⁻⁵ Pa·s,
   Z = 0.98, 20 °C. w is a flow in kg/s. A pump or a valve stands between two pipes, the second of which

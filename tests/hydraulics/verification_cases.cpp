@@ -121,15 +121,17 @@ constexpr const char* kPumps = "Pumps";
 constexpr const char* kLosses = "Valves and fittings";
 constexpr const char* kGas = "Gases and ducts";
 
-constexpr const char* kWhite = "White, Fluid Mechanics, smooth walls, Prandtl's formula";
+constexpr const char* kPrandtl = "Prandtl 1935, smooth walls, 1/√λ = 2 log10(Re·√λ) − 0.8";
+constexpr const char* kTextbook =
+    "textbook example, after White, Fluid Mechanics (edition and page not recorded)";
 constexpr const char* kKarman = "von Kármán 1930, 1/√λ = 1.14 − 2 log10(ε/D)";
 
 std::vector<VerificationCase> FrictionCases() {
     return {
-        {kFriction, "λ = 4f, smooth, Re 10^4", kWhite, "", 0.0309, 4 * Fanning(1e4, 0), 0.01},
-        {kFriction, "λ = 4f, smooth, Re 10^5", kWhite, "", 0.0180, 4 * Fanning(1e5, 0), 0.005},
-        {kFriction, "λ = 4f, smooth, Re 10^6", kWhite, "", 0.0116, 4 * Fanning(1e6, 0), 0.01},
-        {kFriction, "λ = 4f, smooth, Re 10^7", kWhite, "", 0.0081, 4 * Fanning(1e7, 0), 0.01},
+        {kFriction, "λ = 4f, smooth, Re 10^4", kPrandtl, "", 0.030889, 4 * Fanning(1e4, 0), 2e-3},
+        {kFriction, "λ = 4f, smooth, Re 10^5", kPrandtl, "", 0.017993, 4 * Fanning(1e5, 0), 2e-3},
+        {kFriction, "λ = 4f, smooth, Re 10^6", kPrandtl, "", 0.011647, 4 * Fanning(1e6, 0), 2e-3},
+        {kFriction, "λ = 4f, smooth, Re 10^7", kPrandtl, "", 0.0081036, 4 * Fanning(1e7, 0), 2e-3},
         {kFriction, "λ = 4f, ε/D 0.01, Re 10^9", kKarman, "", 0.03785, 4 * Fanning(1e9, 1e-2),
          2e-3},
         {kFriction, "λ = 4f, ε/D 0.001, Re 10^9", kKarman, "", 0.01962, 4 * Fanning(1e9, 1e-3),
@@ -154,12 +156,12 @@ std::vector<VerificationCase> PipeCases() {
     return {
         {kPipes,
          "oil of 900 kg/m³ and 10⁻⁵ m²/s, 0.2 m³/s through 500 m of 200 mm, ε 0.26 mm: head loss",
-         "White, Fluid Mechanics, worked example", "m", 117,
+         kTextbook, "m", 117,
          -Pressure(With(900, 9e-3, 2.6e-4, Given(Line({{500, 0.2F}}, 0), 180)), 2) / 900 / 9.81,
          0.015},
         {kPipes,
          "oil of 950 kg/m³ and 2·10⁻⁵ m²/s, 100 m of 300 mm, ε/D 0.0002, head loss 8 m: flow",
-         "White, Fluid Mechanics, worked example", "m³/s", 0.342,
+         kTextbook, "m³/s", 0.342,
          Flow(With(950, 0.019, 6e-5, Line({{100, 0.3F}}, 8 * 950 * 9.81F))) / 950, 0.005},
         {kPipes, "7.85375 kg/s of water through 100 m of 100 mm: drop", "`drop(7.85375, 100, .1)`",
          "Pa", 11089.5446, -Pressure(Given(Line({{100, 0.1F}}, 0), 7.85375F), 2), 1e-5},
