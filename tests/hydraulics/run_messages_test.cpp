@@ -164,6 +164,13 @@ void FlowSlowly(NetworkBuilder& network) {
     network.SetPressure(1, 3e5F);
 }
 
+/// A component between two pipes of 9 m.
+auto Cut(CellKind kind, std::array<float, 3> numbers, float from, float to = 0) {
+    return [=](NetworkBuilder& n) { n = CutPipe({9, .1F}, kind, numbers, {9, .1F}, from, to); };
+}
+
+constexpr const char* kOpensUpwards =
+    "The curve of the pump in column 5, row 5 opens upwards: there may be two working points";
 constexpr const char* kNegativeLoss =
     "The loss in column 5, row 5 is negative: it drives the flow, and there may be several"
     " solutions";
@@ -183,8 +190,7 @@ const struct {
     {PumpLittle, {{"The pump in column 5, row 5 works out of its range", NoteOn::Cell, 205}}},
     {[](auto& n) { PumpLittle(n), PumpOf(n).MinFlow = .5F; }, {}},
     {[](auto& n) { PumpLittle(n), PumpOf(n).MinFlow = .5F, PumpOf(n).Param1 = 1; },
-     {{"The curve of the pump in column 5, row 5 opens upwards: there may be two working points",
-       NoteOn::Cell, 205}}},
+     {{kOpensUpwards, NoteOn::Cell, 205}}},
     {[](auto& n) { BlowAir(n, 0.4819F); },
      {{"The gas in pipe 1 reaches 35 % of the speed of sound: above 30 % its inertia, which is left"
        " out, counts",
@@ -194,14 +200,18 @@ const struct {
      {{"The fittings of pipe 1 have a negative sum of coefficients: they drive the flow, and there"
        " may be several solutions",
        NoteOn::Pipe, 1}}},
-    {[](auto& n) {
-         n = CutPipe({9, .1F}, CellKind::Loss, {2, -1e4F}, {9, .1F}, 3e5F);
-     },
-     {{kNegativeLoss, NoteOn::Cell, 205}}},
-    {[](auto& n) {
-         n = CutPipe({9, .1F}, CellKind::Loss, {-.2F, 0}, {9, .1F}, 3e5F);
-     },
-     {{kNegativeLoss, NoteOn::Cell, 205}}},
+    {Cut(CellKind::Loss, {2, -1e4F}, 3e5F), {{kNegativeLoss, NoteOn::Cell, 205}}},
+    {Cut(CellKind::Loss, {-.2F, 0}, 3e5F), {{kNegativeLoss, NoteOn::Cell, 205}}},
+    {Cut(CellKind::Loss, {0, 5e4F}, 2e4F),
+     {{"The fixed drop in column 5, row 5 holds the flow still: less than it is there to drive the"
+       " flow",
+       NoteOn::Cell, 205},
+      {"The flow in pipe 1, and in 1 more, is laminar (Re below 2300): the friction formula gives"
+       " up to 56 % less than the laminar law",
+       NoteOn::Pipe, 1, NoteWeight::Remark}}},
+    {Cut(CellKind::Pump, {-200, 5e4F}, 0, 1e5F),
+     {{"The pump in column 5, row 5 runs backwards", NoteOn::Cell, 205}}},
+    {Cut(CellKind::Pump, {0, 50, 1e4F}, 1e5F), {{kOpensUpwards, NoteOn::Cell, 205}}},
     {[](auto& n) { BlowAir(n, -4), n.SetPressure(1, 0), n->PressureUnknown[2] = true; },
      {{"The gas in pipe 1 would fall below a vacuum", NoteOn::Pipe, 1},
       {"Pipe 1 has a negative flow given, which was taken as positive", NoteOn::Pipe, 1}}},

@@ -126,42 +126,21 @@ TEST(ZeroFlows, LeaveTheLittleThatIsGiven) {
     for (int i = 1; i <= 3; ++i) EXPECT_NEAR(run.Flow(i), 1e-4, 1e-9);
 }
 
-/// Three pipes round and a branch to them.
-NetworkBuilder Loop() {
-    NetworkBuilder network(4);
-    for (int i = 1; i <= 3; ++i) network.AddPipe(i, i % 3 + 1, 1, 0.3F);
-    network.AddPipe(4, 1);
-    return network;
-}
-
 bool IsUnique(const NetworkBuilder& network) {
     const auto work = std::make_unique<WorkNetwork>();
     CopyNetwork(*network, *work);
     return HasUniqueSolution(network->settings, PlanNetwork(*work), *work);
 }
 
+/// Without a level for the pressures: the pivots leave rounding.
 TEST(UniqueSolution, IsSeenFromWhatIsJoinedAndGiven) {
-    for (int side = 3; side <= 7; ++side) {  // no pressure has a level: pivots leave rounding
+    for (int side = 3; side <= 7; ++side) {
         NetworkBuilder network = LoopedNetwork(side, 2);
         const int source = side * side + 1;
         EXPECT_TRUE(IsUnique(network));
         network->PressureUnknown[source] = true;
         network.SetFlow(2 * side * (side - 1) + 1, 1);
         EXPECT_FALSE(IsUnique(network));
-    }
-    for (const bool unique : {true, false}) {
-        NetworkBuilder network = Loop();
-        network.AddPipe(2, network.AddPoint(9, 9));
-        network.AddPipe(3, network.AddPoint(9, 8));
-        network.AddPipe(2, network.AddPoint(9, 7));
-        network.SetPressure(4, 2e5F);
-        if (unique) {
-            network.SetPressure(6, 1e5F);
-            for (const int branch : {5, 7}) network.SetFlow(branch, 1);
-        } else {  // one flow too many round the loop, one too few in the branches of point 2
-            for (const int side : {1, 2, 3}) network.SetFlow(side, 1);
-        }
-        EXPECT_EQ(IsUnique(network), unique);
     }
 }
 
