@@ -189,6 +189,15 @@ TEST(RandomNetworks, EndWithTheOneSolutionOrSayWhyNot) {
     EXPECT_LE(ends[RunEnd::Unsettled], 20) << "gases that would fall below a vacuum";
 }
 
+/// A gas that would fall below a vacuum, so that the pipes around it do not settle either.
+TEST(RandomNetworks, NameTheWorstOfWhatHasNotSettled) {
+    const NetworkRun run(RandomNetwork(805, kGas).network, 805);
+    ASSERT_EQ(run.outcome.end, RunEnd::Unsettled);
+    EXPECT_EQ(run.outcome.worstPipe, 7);
+    EXPECT_THAT(run.Notes()[0], testing::StartsWith("Pipe 7 has not settled: 198 %"));
+    EXPECT_THAT(run.Notes()[1], testing::StartsWith("Pipe 12 has not settled: 0.79 %"));
+}
+
 /// Gases that settle from one start alone: from 1 m/s, and from where the first stage gave up.
 TEST(RandomNetworks, AreClosedFromTheOtherStartWhereOneLeadsNowhere) {
     for (const std::uint32_t seed : {1536U, 2292U}) {

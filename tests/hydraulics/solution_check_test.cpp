@@ -5,6 +5,7 @@
 
 #include <tuple>
 
+#include "hydraulics/run_notes.h"
 #include "hydraulics/run_results.h"
 #include "hydraulics/solve_network.h"
 #include "hydraulics/unique_solution.h"
@@ -30,6 +31,13 @@ struct Solved {
         checked.solution = result.solution;
         CheckSolution(settings, plan, *work, checked);
         return checked;
+    }
+
+    /// That something has not settled, before all other notes.
+    bool TellsFirst(const StageResult& checked, NoteOn on) const {
+        const std::vector<Note> notes = ResultNotes(settings, plan, *work, checked);
+        return !notes.empty() && notes[0].on == on &&
+               notes[0].text.find("has not settled") != std::string::npos;
     }
 
     Settings settings;
@@ -76,10 +84,12 @@ TEST(SolutionCheck, FindsAComponentAndAPipeThatAreOff) {
             EXPECT_EQ(checked.settled, holds);
             EXPECT_EQ(checked.unsettledComponents.empty(), holds);
             EXPECT_TRUE(checked.pipes[1].settled);
+            EXPECT_EQ(solved.TellsFirst(checked, NoteOn::Cell), !holds);
             solved.result.solution.values[solved.plan.pressureUnknown[2]] -= share * tolerance;
             checked = solved.Check();
             EXPECT_EQ(checked.settled, holds);
             EXPECT_EQ(checked.pipes[1].settled, holds);
+            EXPECT_EQ(solved.TellsFirst(checked, NoteOn::Pipe), !holds);
         }
     }
 }

@@ -137,10 +137,13 @@ TEST(Exports, AGasHasItsRealVelocityADuctItsOwnSectionAndSides) {
 TEST(Exports, APumpIsInItsRangeOrOutside) {
     RunRecord run = Plant();
     CellRec& pump = run.results->WorkComponents[0].record;
-    pump.MinFlow = 1;
     pump.MaxFlow = 3;
-    for (const auto& [flow, range] :
-         {std::pair(-2.0F, "outside"), {3.0F, "within"}, {3.1F, "outside"}, {.9F, "outside"}}) {
+    for (const auto& [flow, least, range] : {std::tuple(-2.0F, 1.0F, "outside"),
+                                             {3.0F, 1.0F, "within"},
+                                             {3.1F, 1.0F, "outside"},
+                                             {.9F, 1.0F, "outside"},
+                                             {0.0F, 0.0F, "within"}}) {
+        pump.MinFlow = least;
         run.results->WorkPipes[1].FlowRate = pump.Result = flow;
         EXPECT_EQ(ComponentTable(*run.results).rows[0].cells.back(), ResultCell(range)) << flow;
     }

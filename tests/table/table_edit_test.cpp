@@ -103,9 +103,9 @@ TEST_F(TableEdit, TextsThatAreNoNumbersAreFramedAndStayAsTheyAre) {
 }
 
 TEST_F(TableEdit, PastedTextIsThatOfTheSpreadsheet) {
-    const std::string pasted = "\"2\n\"\t\" 4\t5 \"\r\n2\"\t\"1 1/2\"\"\" \t\"\"\n\"a\tb\"c";
+    const std::string pasted = "\"2\n\"\t\" 4\"\"\t5 \"\r\n2\"\t\"1 1/2\"\"\" \t\"\"\n\"a\tb\"c";
     PasteBlock(*project, texts, {3, 1, 3, 1}, pasted);
-    EXPECT_EQ(Shown("3.1 3.2 4.1 4.2 4.3 5.1 5.2"), R"(2|4 5|2"|1 1/2"||"a|b"c|)");
+    EXPECT_EQ(Shown("3.1 3.2 4.1 4.2 4.3 5.1 5.2"), R"(2|4" 5|2"|1 1/2"||"a|b"c|)");
     RowResults results;
     results.texts[4][0] = "7.0";
     EXPECT_EQ(CopyBlock(texts, results, {3, kTableColumns - 1, 4, kTableColumns}), "\t\n\t7.0\n");

@@ -208,7 +208,8 @@ TEST_F(TableWindow, ResultsStandBesideTheirRowsGreyWhenOutOfDate) {
     const double litres = Shown("2.12").toDouble() / 3600;
     EXPECT_NEAR(Shown("2.13").toDouble(), litres / 1000 / (.0538 * .0538 * .785398), .001);
     Walk(R"(# 2.14 2.15 2.16 # 10132.50|3.0000|2.0000
-            2.7=20 # 2.15 # 3.0000)");
+            2.7=20 # 2.15 # 3.0000
+            p_mbar # 2.15 2.16 # 3000.0|2000.0)");
     EXPECT_TRUE(grey());
     Walk("2.3=3 # 2.12 # # it is another pipe");
     Keys(2, flow, "\t");
