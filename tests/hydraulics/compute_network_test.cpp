@@ -141,9 +141,13 @@ TEST(ComputeNetwork, StopsBetweenPasses) {
         const auto work = std::make_unique<WorkNetwork>();
         CopyNetwork(*network, *work);
         int calls = 0;
-        const Outcome outcome = ComputeNetwork(
-            network->settings, *work,
-            {.seed = 1, .progress = [&](const RunProgress&) { return ++calls < last; }});
+        const auto progress = [&](const RunProgress& now) {
+            EXPECT_EQ(now.passes, std::min(2.0 * ++calls, 100.0));
+            EXPECT_TRUE(calls > 1 || now.closeness < 1) << "percent";
+            return calls < last;
+        };
+        const Outcome outcome =
+            ComputeNetwork(network->settings, *work, {.seed = 1, .progress = progress});
         EXPECT_EQ(outcome.end, RunEnd::Stopped);
         EXPECT_EQ(calls, last);
         EXPECT_EQ(work->WorkPipes[1], network->Pipes[1]);

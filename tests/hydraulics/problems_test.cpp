@@ -43,6 +43,8 @@ TEST(Problems, NameEveryPlaceThatKeepsTheRunFromStarting) {
         {[](auto& n) { n->Pipes[1].X1 = kDeleted; },
          "Point 2 has no pipe [point 2];"
          "The component in column 5, row 5 does not stand between two pipes [cell 205];"},
+        {[](auto& n) { n->Points[3].Cell = 1; },
+         "The component in column 5, row 5 does not stand between two pipes [cell 205];"},
         {[](auto& n) { n.SetPressure(4, 2e5F), n.SetPressure(3, 2e5F); },
          "The pressure of point 3 is given, though it is no open end: make it unknown [point 3];"
          "The pressure of point 4 is given, though it is no open end: make it unknown [point 4];"},

@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "hydraulics/messages.h"
+#include "hydraulics/run_notes.h"
 #include "hydraulics/run_results.h"
 #include "hydraulics/run_settings.h"
 #include "support/network_run.h"
+#include "support/scripted_boxes.h"
 
 namespace idrova {
 namespace {
@@ -255,6 +257,28 @@ TEST(RunNotes, SayWhyThereIsNoSingleSolution) {
         const NetworkRun run(*network);
         EXPECT_EQ(run.outcome.end, RunEnd::Singular);
         EXPECT_THAT(run.Notes(), testing::IsSupersetOf(notes));
+    }
+}
+
+TEST(RunNotes, SharesAreToldInPercent) {
+    const std::pair<double, std::string> cases[] = {
+        {0.03, "3 %"}, {0.0123, "1 %"}, {0.0042, "0.42 %"}, {1e-7, "0.01 %"}};
+    for (const auto& [share, text] : cases) EXPECT_EQ(PercentText(share), text);
+}
+
+TEST(RunSettings, NegativeFlowsAreTurnedAfterAQuestion) {
+    for (const Answer answer : {Answer::Cancel, Answer::Ok}) {
+        NetworkBuilder network(4);
+        for (int i = 1; i <= 3; ++i) network.AddPipe(i, i + 1);
+        network->Pipes[3].FlowRate = -1;
+        network->Pipes[3].FlowFromPoint = 4;
+        ScriptedBoxes boxes;
+        boxes.Expect(kChangeDirections, answer);
+        const bool turned = MakeFlowRatesPositive(*network, boxes);
+        EXPECT_EQ(turned, answer == Answer::Ok);
+        EXPECT_EQ(network->Pipes[3].FlowRate, turned ? 1 : -1);
+        EXPECT_EQ(network->Pipes[3].FlowFromPoint, turned ? 3 : 4);
+        EXPECT_EQ(network->Pipes[2].FlowFromPoint, 2);
     }
 }
 

@@ -107,16 +107,18 @@ TEST(ZeroFlows, AreCleanedUpByHeadAndFlow) {
     Solved solved(network);
     const double largest = solved.result.Flow(solved.plan, 2);
     const struct {
-        double flowShare, headShare;
+        double flowShare, startHead, endHead;
         bool known, cleanedUp;
-    } cases[] = {{0.5e-8, 0, false, true},     {-0.5e-8, 0.5e-5, false, true},
-                 {5e-8, 0, false, false},      {-5e-8, 0, false, false},
-                 {0.5e-8, 3e-5, false, false}, {0.5e-8, -3e-5, false, false},
-                 {0.5e-8, 0, true, false}};
+    } cases[] = {{0.5e-8, 3e5, 3e5, false, true},     {-0.5e-8, 3e5, 300001.5, false, true},
+                 {5e-8, 3e5, 3e5, false, false},      {-5e-8, 3e5, 3e5, false, false},
+                 {0.5e-8, 3e5, 300009, false, false}, {0.5e-8, 3e5, 299991, false, false},
+                 {0.5e-8, 3e5, 3e5, true, false},     {0.5e-8, 0, 0, false, true},
+                 {0.5e-8, 0, 1e-9, false, false}};
     for (const auto& c : cases) {
         StageResult result = solved.result;
         result.SetFlow(solved.plan, 1, c.flowShare * largest);
-        result.solution.values[solved.plan.pressureUnknown[2]] += c.headShare * 298100;
+        result.solution.values[solved.plan.pressureUnknown[1]] = c.startHead - 98100;
+        result.solution.values[solved.plan.pressureUnknown[2]] = c.endHead;
         solved.work->WorkFlowUnknown[1] = !c.known;
         CleanUpZeroFlows(solved.settings, solved.plan, *solved.work, result);
         EXPECT_EQ(result.Flow(solved.plan, 2), largest);
