@@ -34,7 +34,7 @@ void CellClick(Project& project, Editor& editor, int place, MouseButton button, 
                HeldKey held) {
     const int cell = CellShownAt(project, editor, place);
     if (cell == 0) return;
-    editor.DataShown = false;
+    HidePressures(editor);
     if (button == MouseButton::Left) {
         LeftClick(project, editor, cell, held == HeldKey::Shift, boxes);
     } else {
@@ -49,7 +49,7 @@ bool AbortByKey(Editor& editor) {
         return several;
     }
     AbortInsertion(editor);
-    editor.DataShown = false;
+    HidePressures(editor);
     editor.framesEnabled = true;
     return true;
 }

@@ -168,7 +168,7 @@ bool MayPlaceComponents(const Project& project, const Editor& editor) {
 }
 
 void ArmInsertion(Project& project, Editor& editor, MessageBoxes& boxes) {
-    editor.DataShown = false;
+    HidePressures(editor);
     if (editor.componentPosition < 0) {
         boxes.Show(kSelectComponent);
         return;

@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "editor/data_labels.h"
 
-#include <algorithm>
 #include <cstdlib>
-#include <map>
-#include <optional>
-#include <set>
 #include <utility>
-#include <vector>
 
 #include "base/number_text.h"
 #include "editor/grid_view.h"
+#include "editor/label_places.h"
+#include "editor/pipe_labels.h"
 #include "model/drawn_records.h"
 
 namespace idrova {
@@ -20,76 +17,6 @@ std::string LabelText(const Project& project, int number) {
     const float shown = project.Points[number].Pressure / project.settings.PressureUnitFactor;
     return "P" + GeneralText(number) + "=" + FormatNumber(shown, "##.###");
 }
-
-/// Finds a place for each label where it hides none of those before.
-class LabelPlaces {
-  public:
-    LabelPlaces(const Project& project, ScreenPoint scrolled)
-        : cell_(project.Grid.CellWidth),
-          highest_(scrolled.y + project.Grid.GridTop - project.Grid.CellHeight),
-          rightmost_(scrolled.x + project.Grid.GridLeft + (project.GridSize + 1) * cell_) {}
-
-    /// Top-left corner of the label of a point. The first label of a column stands below its point,
-    /// the others above, where there is room above the grid; where that place is taken on the other
-    /// side, or further away. At the right edge it stands further left, so that all of it is seen.
-    ScreenPoint Take(const PointRec& point, std::size_t letters) {
-        const int half = cell_ / 2;
-        const bool below = columns_.insert(point.X).second;
-        ScreenPoint corner{point.X + half, 0};
-        if (point.X < rightmost_) {
-            corner.x = std::min(corner.x, rightmost_ - WidthOf(letters));
-        }
-        for (int away = 0;; away += cell_) {
-            for (const bool lower : {below, !below}) {
-                corner.y = lower ? point.Y + half + away : point.Y - 6 * half - away;
-                const bool fits = lower || corner.y >= highest_;
-                if (fits && IsFree(corner, letters)) {
-                    taken_[corner.y / cell_].push_back({corner, WidthOf(letters)});
-                    return corner;
-                }
-            }
-        }
-    }
-
-    /// Where a line from the point meets a label that does not stand beside it: not straight above
-    /// or below, where it would run along an upright pipe.
-    std::optional<ScreenPoint> LeaderEnd(const PointRec& point, ScreenPoint corner,
-                                         std::size_t letters) const {
-        const int half = cell_ / 2;
-        const int bottom = corner.y + cell_ * 2 / 3;
-        const bool rightwards = point.X + half <= corner.x + WidthOf(letters);
-        const int x = std::max(corner.x, point.X + (rightwards ? half : -half));
-        if (corner.y > point.Y + cell_) return ScreenPoint{x, corner.y};
-        if (bottom < point.Y - cell_) return ScreenPoint{x, bottom};
-        return std::nullopt;
-    }
-
-  private:
-    struct Label {
-        ScreenPoint corner;
-        int width;
-    };
-
-    int WidthOf(std::size_t letters) const { return static_cast<int>(letters) * cell_ * 2 / 5; }
-
-    bool IsFree(ScreenPoint corner, std::size_t letters) const {
-        const int right = corner.x + WidthOf(letters);
-        const auto hides = [&](const Label& other) {
-            return std::abs(corner.y - other.corner.y) < cell_ &&
-                   corner.x < other.corner.x + other.width && other.corner.x < right;
-        };
-        const int row = corner.y / cell_;
-        for (auto at = taken_.lower_bound(row - 1); at != taken_.end() && at->first <= row + 1;
-             ++at) {
-            if (std::ranges::any_of(at->second, hides)) return false;
-        }
-        return true;
-    }
-
-    int cell_, highest_, rightmost_;
-    std::set<int> columns_;
-    std::map<int, std::vector<Label>> taken_;  ///< by row of cells
-};
 
 Rgb GroundOf(const Editor& editor, bool computed) {
     if (!computed) return drawing_colour::kKnown;
@@ -102,7 +29,7 @@ void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& s
     for (const auto& [number, point] : DrawnPoints(project)) {
         const std::string text = LabelText(project, number);
         // Points that are scrolled away take their places too: no label moves by scrolling.
-        const ScreenPoint corner = places.Take(point, text.size());
+        const ScreenPoint corner = places.BesidePoint(point, text.size());
         const ScreenPoint from = Shown(project, editor, {point.X, point.Y});
         if (!IsOnGrid(project, from)) continue;
         if (const auto end = places.LeaderEnd(point, corner, text.size())) {
@@ -127,13 +54,25 @@ void DrawArrow(const Project& project, const PipePart& part, DrawingSurface& sur
     surface.ArrowLine({tip.x - dx + dy / 2, tip.y - dy + dx / 2}, tip);
 }
 
+/// Which way an arrow of the pipe points: 1 from its start to its end, -1 back, 0 without arrow.
+int ArrowSign(const Project& project, const Editor& editor, int number) {
+    if (editor.labels == LabelKind::Sizes || editor.labels == LabelKind::Numbers) return 0;
+    if (editor.labels == LabelKind::Pressures) {
+        const PipeRec& pipe = project.Pipes[number];
+        const float atStart = project.Points[pipe.StartPoint].Pressure;
+        return atStart < project.Points[pipe.EndPoint].Pressure ? -1 : 1;
+    }
+    const auto computed = editor.computed.find(number);
+    if (computed == editor.computed.end() || computed->second.flow == 0) return 0;
+    return computed->second.flow < 0 ? -1 : 1;
+}
+
 void DrawArrows(const Project& project, const Editor& editor, DrawingSurface& surface) {
     for (const auto& [number, pipe] : DrawnPipes(project)) {
         auto part = ShownPart(project, editor, pipe);
-        if (!part) continue;
-        if (project.Points[pipe.StartPoint].Pressure < project.Points[pipe.EndPoint].Pressure) {
-            std::swap(part->from, part->to);
-        }
+        const int sign = ArrowSign(project, editor, number);
+        if (!part || sign == 0) continue;
+        if (sign < 0) std::swap(part->from, part->to);
         DrawArrow(project, *part, surface);
     }
 }
@@ -142,7 +81,11 @@ void DrawArrows(const Project& project, const Editor& editor, DrawingSurface& su
 
 void ApplyDataLabels(const Project& project, const Editor& editor, DrawingSurface& surface) {
     if (!editor.DataShown) return;
-    LabelPoints(project, editor, surface);
+    if (editor.labels == LabelKind::Pressures) {
+        LabelPoints(project, editor, surface);
+    } else {
+        LabelPipes(project, editor, surface);
+    }
     DrawArrows(project, editor, surface);
 }
 

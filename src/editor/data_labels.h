@@ -7,8 +7,10 @@
 
 namespace idrova {
 
-/// Draws a pressure label at every point and a flow arrow on every pipe while `DataShown`. A flow
-/// arrow points from the higher pressure to the lower.
+/// Draws the labels of `editor.labels` while `DataShown`: pressures at the points, all else at the
+/// pipes, with an arrow on every pipe that points from the higher pressure to the lower or, with
+/// flows, velocities and losses, the way of the computed flow. What is computed and out of date is
+/// grey.
 void ApplyDataLabels(const Project& project, const Editor& editor, DrawingSurface& surface);
 
 }  // namespace idrova

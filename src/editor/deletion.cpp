@@ -59,7 +59,7 @@ void DeleteComponent(Project& project, int cell) {
 
 void DeleteSelected(Project& project, Editor& editor, MessageBoxes& boxes,
                     const std::function<void()>& showRemoval) {
-    editor.DataShown = false;
+    HidePressures(editor);
     const auto agreed = [&](Removal removal, const MessageBox& question) {
         editor.removal = std::move(removal);
         showRemoval();

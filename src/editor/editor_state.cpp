@@ -7,6 +7,10 @@ bool IsArmed(const Editor& editor) {
     return editor.state == InsertState::Pump || editor.state == InsertState::Loss;
 }
 
+void HidePressures(Editor& editor) {
+    if (editor.labels == LabelKind::Pressures) editor.DataShown = false;
+}
+
 std::array<std::string_view, 4> HintLines(const Editor& editor) {
     switch (editor.state) {
         case InsertState::EndPoint:

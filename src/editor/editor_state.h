@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -26,6 +27,18 @@ struct Removal {
     bool operator==(const Removal&) const = default;
 };
 
+/// What the data labels show.
+enum class LabelKind { Pressures, Flows, Velocities, Losses, Sizes, Numbers };
+
+/// What a run found for a pipe.
+struct ComputedPipe {
+    double flow = 0;          ///< kg/s, positive from the pipe's start point to its end point
+    double velocity = 0;      ///< m/s, never negative
+    double lossPerMetre = 0;  ///< Pa/m, never negative
+    bool flowGiven = false;
+    bool operator==(const ComputedPipe&) const = default;
+};
+
 /// What the plant editor remembers beside the project. What the windows show of the insertion (hint
 /// lines, blinking button, enabled frames) follows from it.
 struct Editor {
@@ -36,9 +49,11 @@ struct Editor {
     std::vector<int> alsoSelected;  ///< pipes beside the current one, ascending
     Removal removal;                ///< what an open question would delete
     bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
-    bool DataShown = false;     ///< pressures and flow directions are shown on the drawing
-    bool resultsOld = false;    ///< computed values do not belong to the plant as it is
-    int ScrX = 1, ScrY = 1;     ///< column and row that the drawing shows first
+    bool DataShown = false;     ///< the data labels are shown on the drawing
+    LabelKind labels = LabelKind::Pressures;
+    bool resultsOld = false;               ///< computed values do not belong to the plant as it is
+    std::map<int, ComputedPipe> computed;  ///< by pipe; what the data labels need of the last run
+    int ScrX = 1, ScrY = 1;                ///< column and row that the drawing shows first
 
     CellKind componentKind = CellKind::Pump;  ///< `Combo1`
     int componentPosition = -1;               ///< `Combo3`; -1 when its list is empty
@@ -48,6 +63,9 @@ struct Editor {
 };
 
 bool IsArmed(const Editor& editor);
+
+/// Takes the labels away that every click does away with: pressures and flow directions.
+void HidePressures(Editor& editor);
 
 /// The hint window's lines.
 std::array<std::string_view, 4> HintLines(const Editor& editor);

@@ -37,7 +37,7 @@ int LastScroll(const Project& project) {
 void ScrollDrawing(const Project& project, Editor& editor, int xOff, int yOff) {
     editor.ScrX = std::clamp(xOff, 1, LastScroll(project));
     editor.ScrY = std::clamp(yOff, 1, LastScroll(project));
-    editor.DataShown = false;
+    HidePressures(editor);
 }
 
 ScreenPoint Shown(const Project& project, const Editor& editor, ScreenPoint at) {

@@ -79,8 +79,8 @@ void DrawIcons(const Project& project, const Editor& editor, DrawingSurface& sur
 }
 
 void DrawSelectedPipe(const Project& project, const Editor& editor, DrawingSurface& surface) {
-    // The data labels name the points too.
-    if (project.CurrentPipe == 0 || editor.DataShown) return;
+    const bool named = editor.DataShown && editor.labels == LabelKind::Pressures;
+    if (project.CurrentPipe == 0 || named) return;
     const PipeRec& pipe = project.Pipes[project.CurrentPipe];
     for (const PipeEnd end : {PipeEnd::Start, PipeEnd::End}) {
         const ScreenPoint from = Shown(project, editor, PlaceOf(pipe, end));

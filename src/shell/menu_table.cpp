@@ -89,6 +89,45 @@ constexpr MenuEntry kMenuTable[] = {
      .tip = "Select the pipe of a number, or the one that ends in a point",
      .separated = true},
 
+    {.name = "View", .parent = "", .caption = "View", .kind = Menu},
+    {.name = "Labels", .parent = "View", .caption = "Labels", .kind = Menu},
+    {.name = "LabelsNone",
+     .parent = "Labels",
+     .caption = "None",
+     .kind = OneOf,
+     .tip = "Show no labels on the drawing"},
+    {.name = "LabelsPressures",
+     .parent = "Labels",
+     .caption = "Pressures",
+     .kind = OneOf,
+     .tip = "Label every point with its pressure"},
+    {.name = "LabelsFlows",
+     .parent = "Labels",
+     .caption = "Flow rates",
+     .kind = OneOf,
+     .tip = "Label every pipe with its computed flow rate in kg/h"},
+    {.name = "LabelsVelocities",
+     .parent = "Labels",
+     .caption = "Velocities",
+     .kind = OneOf,
+     .tip = "Label every pipe with its computed velocity in m/s"},
+    {.name = "LabelsLosses",
+     .parent = "Labels",
+     .caption = "Losses per metre",
+     .kind = OneOf,
+     .tip = "Label every pipe with what it loses by friction and fittings in Pa/m"},
+    {.name = "LabelsSizes",
+     .parent = "Labels",
+     .caption = "Diameters and lengths",
+     .kind = OneOf,
+     .tip = "Label every pipe with its inside diameter in mm and its length in m"},
+    {.name = "LabelsNumbers",
+     .parent = "Labels",
+     .caption = "Pipe numbers",
+     .kind = OneOf,
+     .mnemonic = 6,
+     .tip = "Label every pipe with its number"},
+
     {.name = "Fluido",
      .parent = "",
      .caption = "Fluid",
@@ -262,12 +301,13 @@ std::string_view CheckedMode(WorkMode mode) {
 }
 
 /// The checked entry of each group.
-std::array<std::string_view, 5> CheckedEntries(const Settings& settings, const ShellState& shell) {
+std::array<std::string_view, 6> CheckedEntries(const Settings& settings, const ShellState& shell) {
     return {shell.roughnessItem,
             settings.SectionType == Section::Circular ? "Circolare" : "Rettangolare",
             CheckedMode(settings.Mode),
             settings.EquationType == Equation::Incompressible ? "Cor1" : "Cor2",
-            settings.PressureUnit == Unit::Bar ? "p_bar" : "p_mbar"};
+            settings.PressureUnit == Unit::Bar ? "p_bar" : "p_mbar",
+            shell.labelsItem};
 }
 
 }  // namespace
@@ -281,7 +321,8 @@ std::string CaptionWithMnemonic(const MenuEntry& entry) {
 }
 
 bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
-    return entry.name != "Veloce" || mode == WorkMode::Graphic;
+    const bool drawing = entry.name == "Veloce" || entry.parent == "Labels";
+    return !drawing || mode == WorkMode::Graphic;
 }
 
 bool IsChecked(const MenuEntry& entry, const Settings& settings, const ShellState& shell) {

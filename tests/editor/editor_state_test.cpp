@@ -36,6 +36,9 @@ TEST(EditorState, FollowsTheClicksThatAlsoHideTheDataLabels) {
         EXPECT_EQ(HintLines(plant.editor)[1], c.hint) << c.script;
         EXPECT_EQ(plant.editor.framesEnabled, c.frames) << c.script;
         EXPECT_FALSE(plant.editor.DataShown) << c.script;
+        Plant other;
+        other.Do("show=flows").Do(c.script);
+        EXPECT_TRUE(other.editor.DataShown) << c.script << " takes away pressures only";
     }
 }
 

@@ -25,10 +25,10 @@ namespace idrova {
 /// A project under the editor's hands, and a short script for a user's actions: "L5,3" and "R5,3"
 /// click left or right on column 5, row 3; "pump" and "loss" choose and arm a component; "delete"
 /// deletes what is selected, "undo" takes a step back; "S5,3" scrolls to that cell; "labels" shows
-/// the data labels; "again" fills the panel, "length=12" edits it, "left" leaves the box,
-/// "length:12" is what should stand in it; "G5,3" is a left click that goes on, "C5,3" a right one
-/// that adds; "selected:3+4" the pipes that should be selected, or the component of a cell
-/// ("c105"). Every question is answered with OK.
+/// the data labels, "show=flows" those of a kind; "again" fills the panel, "length=12" edits it,
+/// "left" leaves the box, "length:12" is what should stand in it; "G5,3" is a left click that goes
+/// on, "C5,3" a right one that adds; "selected:3+4" the pipes that should be selected, or the
+/// component of a cell ("c105"). Every question is answered with OK.
 class Plant {
   public:
     Plant() {
@@ -81,6 +81,10 @@ class Plant {
     RecordedBoxes boxes;
     PipePanel panel;
 
+    const std::map<std::string, LabelKind> kinds = {
+        {"pressures", LabelKind::Pressures},   {"flows", LabelKind::Flows},
+        {"velocities", LabelKind::Velocities}, {"losses", LabelKind::Losses},
+        {"sizes", LabelKind::Sizes},           {"numbers", LabelKind::Numbers}};
     using Edit = std::function<void(const std::string& text)>;
     const std::map<std::string, Edit> edits = {
         {"flow", [&](auto& t) { ChooseFlow(project, panel, t == "given"); }},
@@ -142,6 +146,7 @@ class Plant {
         if (step == "left") return history.EndTyping();
         if (step == "again") return static_cast<void>(panel = ShowPipeData(project, editor));
         if (step == "labels") return static_cast<void>(editor.DataShown = true);
+        if (step.starts_with("show=")) return ShowLabels(step.substr(5));
         const auto sign = step.find_first_of("=:,");
         const std::string before = step.substr(0, sign);
         const std::string after = step.substr(sign + 1);
@@ -153,6 +158,11 @@ class Plant {
         } else {
             At(step[0], std::stoi(before.substr(1)), std::stoi(after));
         }
+    }
+
+    void ShowLabels(const std::string& kind) {
+        editor.labels = kinds.at(kind);
+        editor.DataShown = true;
     }
 
     void At(char what, int column, int row) {

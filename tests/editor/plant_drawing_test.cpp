@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <array>
-#include <set>
+#include <string_view>
 
 #include "editor/drawing_list.h"
 #include "editor/hover_text.h"
@@ -19,10 +19,13 @@ using testing::Contains;
 using testing::IsSupersetOf;
 using Lines = std::vector<std::string>;
 
-const std::pair<Rgb, const char*> kColours[] = {
-    {drawing_colour::kSelectedPipe, "selected "}, {drawing_colour::kRemoved, "removed "},
-    {drawing_colour::kBegunPipe, "begun "},       {drawing_colour::kRefused, "refused "},
-    {drawing_colour::kKnown, "known "},           {drawing_colour::kUnknown, "unknown "}};
+const std::pair<Rgb, const char*> kColours[] = {{drawing_colour::kSelectedPipe, "selected "},
+                                                {drawing_colour::kRemoved, "removed "},
+                                                {drawing_colour::kBegunPipe, "begun "},
+                                                {drawing_colour::kRefused, "refused "},
+                                                {drawing_colour::kKnown, "known "},
+                                                {drawing_colour::kUnknown, "unknown "},
+                                                {drawing_colour::kOld, "old "}};
 
 std::string NameOf(const DrawnElement& element) {
     const std::string number = element.pipe == 0 ? "" : " " + GeneralText(element.pipe);
@@ -177,12 +180,84 @@ TEST(PlantDrawing, ATipTellsOfPipeAndComponent) {
     EXPECT_EQ(HoverFlow(0.5, -0.125), "1800 kg/h, -.13 m/s");
 }
 
-TEST(DataLabels, NeverHideEachOther) {
-    std::set<std::string> corners;
-    for (const std::string& line : Drawn("L3,3 L3,9 L1,6 L3,6 L1,9 L5,9 pump L3,7 labels")) {
-        if (line.starts_with("unknown")) corners.insert(line.substr(line.rfind(' ')));
+struct KindCase {
+    const char* kind;
+    bool old;
+    Lines drawn;
+};
+
+/// Pipe 1 runs to the right, its flow is given; pipe 2 down, its flow up; pipe 3 is not computed.
+const KindCase kKinds[] = {
+    {"flows",
+     false,
+     {"known '1800' 1529,362", "unknown '7.000' 2955,1103", "arrow 1681,708 1820,639",
+      "arrow 1681,570 1820,639", "arrow 2794,1264 2863,1125", "arrow 2932,1264 2863,1125"}},
+    {"velocities", true, {"old '1.250' 1473,362", "old '0.040' 2955,1103"}},
+    {"losses", false, {"unknown '432.1' 1473,362", "unknown '0.000' 2955,1103"}},
+    {"sizes", false, {"known '53.8 mm 12.5 m'", "known '? mm ? m'"}},
+    {"numbers", true, {"known '1'", "known '2'", "known '3'"}},
+};
+
+TEST(DataLabels, ShowAtThePipesWhatWasComputed) {
+    for (const KindCase& c : kKinds) {
+        Plant plant;
+        plant.Do("L1,1 L9,1 L9,1 L9,5 L20,20 L30,20 R5,1 again size=7 length=12.5 R20,9");
+        plant.editor.computed = {{1, {.5, 1.25, 432.1, true}}, {2, {-7. / 3600, .04, 0, false}}};
+        plant.editor.resultsOld = c.old;
+        plant.Do(std::string("show=") + c.kind);
+        const Lines drawn = LinesOf(DrawingOf(plant));
+        for (const std::string& line : c.drawn) {
+            EXPECT_THAT(drawn, Contains(testing::StartsWith(line))) << c.kind;
+        }
+        const bool arrows =
+            std::string_view("flows velocities losses").find(c.kind) != std::string_view::npos;
+        const auto count = [&](const char* what) {
+            return std::ranges::count_if(drawn, [&](const std::string& line) {
+                return line.find(what) != std::string::npos;
+            });
+        };
+        EXPECT_EQ(count("arrow"), arrows ? 4 : 0) << c.kind;
+        EXPECT_EQ(count("'"), arrows ? 2 : 3) << c.kind;
     }
-    EXPECT_EQ(corners.size(), 8U);
+}
+
+struct Box {
+    int left, top, right, bottom;
+};
+
+/// With the size that a label is reckoned to have.
+Box BoxOf(const DrawnElement& element) {
+    const auto [left, right] = std::minmax(element.from.x, element.to.x);
+    const auto [top, bottom] = std::minmax(element.from.y, element.to.y);
+    if (element.kind == ElementKind::PipeLine) return {left, top, right, bottom};
+    const ScreenPoint at = element.from;
+    return {at.x, at.y, at.x + static_cast<int>(element.text.size()) * 111, at.y + 185};
+}
+
+bool Overlap(const Box& one, const Box& other) {
+    return one.left < other.right && other.left < one.right && one.top < other.bottom &&
+           other.top < one.bottom;
+}
+
+TEST(DataLabels, HideNeitherEachOtherNorPipesAndAreSeenWhole) {
+    for (const char* kind : {"pressures", "sizes"}) {
+        Plant plant;
+        plant.Do("L3,3 L3,9 L1,6 L3,6 L1,9 L5,9 pump L3,7 L48,1 L50,1 L50,1 L50,4 L49,50 L50,50");
+        plant.Do(std::string("R20,20 show=") + kind);
+        const DrawingList drawing = DrawingOf(plant);
+        std::vector<Box> taken;
+        for (const DrawnElement& element : drawing.elements) {
+            const bool pipe = element.kind == ElementKind::PipeLine && kind[0] == 's';
+            if (pipe) taken.push_back(BoxOf(element));
+            if (element.kind != ElementKind::TextLabel) continue;
+            const Box box = BoxOf(element);
+            for (const Box& other : taken) EXPECT_FALSE(Overlap(box, other)) << kind;
+            EXPECT_TRUE(box.left >= 222 && box.top >= 222 && box.right <= 14678) << kind;
+            taken.push_back(box);
+        }
+        EXPECT_EQ(taken.size(), kind[0] == 's' ? 16U : 13U);
+        EXPECT_THAT(LinesOf(drawing), Contains(testing::StartsWith("leader")));
+    }
 }
 
 }  // namespace

@@ -23,18 +23,22 @@ Names Checked(const Settings& settings, const ShellState& shell) {
 TEST(MenuTable, CheckMarksAndWhatCanBeChosenFollowTheState) {
     Settings settings;
     EXPECT_EQ(Checked(settings, {}), (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar",
-                                            "Helpslinea", "BarraStrumenti"}));
+                                            "Helpslinea", "BarraStrumenti", "LabelsNone"}));
     settings.Mode = WorkMode::SinglePipe;
     settings.SectionType = Section::Rectangular;
     settings.EquationType = Equation::Compressible;
     settings.PressureUnit = Unit::MilliBar;
     settings.ResultsInSequence = true;
     EXPECT_EQ(
-        Checked(settings, {.HintsShown = false, .ToolBarShown = false, .roughnessItem = "tt"}),
-        (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq"}));
+        Checked(settings, {.HintsShown = false,
+                           .ToolBarShown = false,
+                           .roughnessItem = "tt",
+                           .labelsItem = "LabelsFlows"}),
+        (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq", "LabelsFlows"}));
     for (const MenuEntry& entry : MenuTable()) {
         EXPECT_TRUE(IsEnabled(entry, WorkMode::Graphic));
-        EXPECT_EQ(IsEnabled(entry, WorkMode::Table), entry.name != "Veloce");
+        const bool drawing = entry.name == "Veloce" || entry.parent == "Labels";
+        EXPECT_EQ(IsEnabled(entry, WorkMode::Table), !drawing) << entry.name;
     }
 }
 

@@ -17,6 +17,7 @@
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/frame/run_commands.h"
+#include "ui/frame/view_commands.h"
 #include "ui/kit/child_windows.h"
 #include "ui/kit/desktop_settings.h"
 #include "ui/kit/print_text.h"
@@ -183,6 +184,7 @@ void AttachCommands(MDI& mdi) {
     program.shell.ToolBarShown = DesktopSettings().value(kToolBarKey, true).toBool();
     AttachFileCommands(mdi);
     AttachEditCommands(mdi);
+    AttachViewCommands(mdi);
     AttachModes(mdi);
     AttachSettings(mdi.Menu(), program);
     AttachRunCommands(mdi);

@@ -29,6 +29,7 @@
 #include "ui/frame/settings_bar.h"
 #include "ui/frame/status_line.h"
 #include "ui/frame/tool_bar.h"
+#include "ui/frame/view_commands.h"
 #include "ui/kit/child_window.h"
 #include "ui/kit/child_windows.h"
 #include "ui/kit/controls.h"
@@ -136,9 +137,7 @@ void MDI::OpenModeWindow() {
 
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
-    if (settings.Mode == WorkMode::Graphic) {
-        program_.editor.resultsOld = ShowsOldResults(program_);
-    }
+    ShowView(program_);
     menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);
     toolBar_->setVisible(program_.shell.ToolBarShown);

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/frame/view_commands.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <string_view>
+
+#include "results/network_results.h"
+#include "ui/frame/mdi.h"
+#include "ui/frame/menu_bar.h"
+#include "ui/program.h"
+
+namespace idrova {
+
+namespace {
+
+constexpr std::string_view kNoLabels = "LabelsNone";
+
+struct LabelChoice {
+    std::string_view item;
+    LabelKind kind = LabelKind::Pressures;
+};
+constexpr LabelChoice kLabelChoices[] = {
+    {"LabelsPressures", LabelKind::Pressures},   {"LabelsFlows", LabelKind::Flows},
+    {"LabelsVelocities", LabelKind::Velocities}, {"LabelsLosses", LabelKind::Losses},
+    {"LabelsSizes", LabelKind::Sizes},           {"LabelsNumbers", LabelKind::Numbers}};
+
+std::string_view ItemOf(LabelKind kind) {
+    return std::ranges::find(kLabelChoices, kind, &LabelChoice::kind)->item;
+}
+
+/// Of the pipes that run between the same points still.
+std::map<int, ComputedPipe> ComputedPipes(const Project& project, const RunRecord* record) {
+    std::map<int, ComputedPipe> pipes;
+    if (record == nullptr || !record->results) return pipes;
+    for (const PipeResult& result : PipeResults(record->settings, *record->results)) {
+        const PipeRec& drawn = project.Pipes[result.number];
+        const bool forward = drawn.StartPoint == result.from && drawn.EndPoint == result.to;
+        const bool back = drawn.StartPoint == result.to && drawn.EndPoint == result.from;
+        if (result.number > project.numtubo || (!forward && !back)) continue;
+        pipes[result.number] = {.flow = forward ? result.flow : -result.flow,
+                                .velocity = std::abs(result.velocity),
+                                .lossPerMetre = std::abs(result.dropPerMetre),
+                                .flowGiven = result.flowGiven};
+    }
+    return pipes;
+}
+
+}  // namespace
+
+void AttachViewCommands(MDI& mdi) {
+    Editor& editor = mdi.State().editor;
+    mdi.Menu().Attach(kNoLabels, [&editor] { editor.DataShown = false; });
+    for (const LabelChoice& entry : kLabelChoices) {
+        mdi.Menu().Attach(entry.item, [&editor, kind = entry.kind] {
+            editor.labels = kind;
+            editor.DataShown = true;
+        });
+    }
+}
+
+void ShowView(Program& program) {
+    Editor& editor = program.editor;
+    program.shell.labelsItem = editor.DataShown ? ItemOf(editor.labels) : kNoLabels;
+    if (program.project.settings.Mode != WorkMode::Graphic) return;
+    editor.resultsOld = ShowsOldResults(program);
+    editor.computed = ComputedPipes(program.project, RecordOf(program));
+}
+
+}  // namespace idrova
