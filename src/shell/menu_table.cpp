@@ -128,6 +128,24 @@ constexpr MenuEntry kMenuTable[] = {
      .mnemonic = 6,
      .tip = "Label every pipe with its number"},
 
+    {.name = "ZoomIn",
+     .parent = "View",
+     .caption = "Zoom in",
+     .shortcut = "Ctrl++; Ctrl+=",
+     .tip = "Show the drawing larger; also Ctrl and the mouse wheel",
+     .separated = true},
+    {.name = "ZoomOut",
+     .parent = "View",
+     .caption = "Zoom out",
+     .mnemonic = 5,
+     .shortcut = "Ctrl+-",
+     .tip = "Show the drawing smaller; also Ctrl and the mouse wheel"},
+    {.name = "ZoomFit",
+     .parent = "View",
+     .caption = "Fit",
+     .shortcut = "Ctrl+0",
+     .tip = "Show the whole drawing"},
+
     {.name = "Fluido",
      .parent = "",
      .caption = "Fluid",
@@ -321,7 +339,8 @@ std::string CaptionWithMnemonic(const MenuEntry& entry) {
 }
 
 bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
-    const bool drawing = entry.name == "Veloce" || entry.parent == "Labels";
+    const bool drawing =
+        entry.name == "Veloce" || entry.parent == "Labels" || entry.name.starts_with("Zoom");
     return !drawing || mode == WorkMode::Graphic;
 }
 

@@ -16,7 +16,8 @@ inline QColor ToQt(Rgb colour) {
 namespace drawing_style {
 constexpr QColor kGridLine(0x9A, 0x9A, 0x9A);
 constexpr QColor kCursor(0xC0, 0x40, 0x00);
-constexpr QColor kLeader(0x40, 0x40, 0x40);
+constexpr QColor kLeader(0x00, 0x86, 0x8F);  ///< seen on the cells and beside them in any theme
+constexpr QColor kLabelFrame(0x40, 0x40, 0x40);
 constexpr double kCursorWidth = 30;
 constexpr double kPipeWidth = 45;
 constexpr double kArrowWidth = 30;

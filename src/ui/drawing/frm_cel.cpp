@@ -69,6 +69,11 @@ void FrmCel::ConnectView() {
         program_.changed();
     };
     view_->tip = [this](int place) { return TipOf(place); };
+    // Zoomed, the view has bars of its own at their place.
+    view_->zoomed = [this] {
+        ScrX->setVisible(!view_->IsZoomed());
+        ScrY->setVisible(!view_->IsZoomed());
+    };
 }
 
 void FrmCel::ShowState() {
@@ -80,6 +85,23 @@ void FrmCel::ShowState() {
     DrawPlant(program_.project, program_.editor, drawing);
     DrawBegunPipe(program_.project, program_.editor, HoverCell, drawing);
     scene_->Show(std::move(drawing));
+    RevealSelection();
+}
+
+/// What was selected elsewhere may lie beside the part that is shown.
+void FrmCel::RevealSelection() {
+    const Project& project = program_.project;
+    const Editor& editor = program_.editor;
+    const std::pair selected(project.CurrentPipe, editor.selectedComponent);
+    if (std::exchange(revealed_, selected) == selected) return;
+    const auto at = [](ScreenPoint point) { return QPointF(point.x, point.y); };
+    if (selected.first != 0) {
+        const auto part = ShownPart(project, editor, project.Pipes[selected.first]);
+        if (part) view_->Reveal(QRectF(at(part->from), at(part->to)).normalized());
+    } else if (selected.second != 0) {
+        const QPointF centre = at(Shown(project, editor, CellCentre(project, selected.second)));
+        view_->Reveal({centre, QSizeF()});
+    }
 }
 
 void FrmCel::PressMouse(int place, MouseButton button, HeldKey held) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <utility>
+
 #include "editor/cell_click.h"
 #include "ui/kit/child_window.h"
 
@@ -19,6 +21,8 @@ class FrmCel final : public ChildWindow {
 
     void ShowState() override;
 
+    PlantView& View() { return *view_; }
+
   protected:
     /// After its last control comes the command panel.
     bool focusNextPrevChild(bool next) override;
@@ -32,14 +36,16 @@ class FrmCel final : public ChildWindow {
     void Scrolled();
     void Abort();
     void ShowPlace(int place);
+    void RevealSelection();
 
     Program& program_;
     PlantScene* scene_;
     PlantView* view_;
     QScrollBar* ScrX;
     QScrollBar* ScrY;
-    bool isBegunByPress_ = false;  ///< the last press began a pipe
-    int HoverCell = 0;             ///< cell under the mouse or the cursor; 0 when none
+    bool isBegunByPress_ = false;   ///< the last press began a pipe
+    std::pair<int, int> revealed_;  ///< pipe and component that were selected when last shown
+    int HoverCell = 0;              ///< cell under the mouse or the cursor; 0 when none
 };
 
 }  // namespace idrova

@@ -33,7 +33,7 @@ LabelItem::LabelItem(const QString& text, Rgb background) : text_(text), backgro
 void LabelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
                       QWidget* /*widget*/) {
     painter->setRenderHint(QPainter::Antialiasing, false);
-    painter->setPen(QPen(drawing_style::kLeader, 0));
+    painter->setPen(QPen(drawing_style::kLabelFrame, 0));
     painter->setBrush(ToQt(background_));
     painter->drawRect(box_);
     painter->setPen(Qt::black);

@@ -7,6 +7,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScrollBar>
 #include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
@@ -20,6 +21,10 @@ namespace idrova {
 namespace {
 
 constexpr int kLongStep = 5;  ///< cells
+constexpr double kZoomStep = 1.25;
+constexpr double kLargestZoom = 8;
+constexpr double kWheelNotch = 120;  ///< as Qt counts it
+constexpr double kEdge = 4;          ///< pixels round the whole drawing, as Qt leaves them
 
 HeldKey HeldAt(const QInputEvent& event) {
     if (event.modifiers().testFlag(Qt::ControlModifier)) return HeldKey::Ctrl;
@@ -34,6 +39,8 @@ PlantView::PlantView(QGraphicsScene* scene, const Project& project)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
+    setTransformationAnchor(NoAnchor);
+    setResizeAnchor(AnchorViewCenter);
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName("Plant drawing");
@@ -85,6 +92,10 @@ void PlantView::MoveCursor(int columns, int rows) {
     const int column = std::clamp((cursor_ - 1) % size + 1 + columns, 1, size);
     const int row = std::clamp((cursor_ - 1) / size + 1 + rows, 1, size);
     cursor_ = CellAt(column, row, size);
+    if (IsZoomed()) {
+        const ScreenPoint at = CellCentre(project_, cursor_);
+        ensureVisible({QPointF(at.x, at.y), QSizeF()});
+    }
     moveCursor(cursor_);
     hover(cursor_);
 }
@@ -148,12 +159,64 @@ void PlantView::focusOutEvent(QFocusEvent* event) {
 }
 
 void PlantView::wheelEvent(QWheelEvent* event) {
-    event->ignore();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        const double notches = event->angleDelta().y() / kWheelNotch;
+        Zoom(zoom_ * std::pow(kZoomStep, notches), event->position().toPoint());
+        event->accept();
+    } else if (IsZoomed()) {
+        QGraphicsView::wheelEvent(event);
+    } else {
+        event->ignore();
+    }
 }
 
 void PlantView::resizeEvent(QResizeEvent* event) {
     QGraphicsView::resizeEvent(event);
-    fitInView(sceneRect(), Qt::KeepAspectRatio);
+    ShowZoom();
+}
+
+void PlantView::ZoomIn() {
+    Zoom(zoom_ * kZoomStep, viewport()->rect().center());
+}
+
+void PlantView::ZoomOut() {
+    Zoom(zoom_ / kZoomStep, viewport()->rect().center());
+}
+
+void PlantView::Fit() {
+    Zoom(1, {});
+}
+
+/// What is shown at `fixed` of the viewport stays there.
+void PlantView::Zoom(double zoom, QPoint fixed) {
+    constexpr double nearlyWhole = 1.01;  // steps up and down do not cancel to the last bit
+    const double wanted = zoom < nearlyWhole ? 1 : std::min(zoom, kLargestZoom);
+    if (wanted == zoom_) return;
+    const QPointF at = mapToScene(fixed);
+    zoom_ = wanted;
+    ShowZoom();
+    const QPoint moved = mapFromScene(at) - fixed;
+    horizontalScrollBar()->setValue(horizontalScrollBar()->value() + moved.x());
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + moved.y());
+    zoomed();
+}
+
+void PlantView::ShowZoom() {
+    const auto bars = IsZoomed() ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff;
+    setHorizontalScrollBarPolicy(bars);
+    setVerticalScrollBarPolicy(bars);
+    if (!IsZoomed()) return fitInView(sceneRect(), Qt::KeepAspectRatio);
+    const QSizeF room = maximumViewportSize() - QSize(kEdge, kEdge);
+    const double scale =
+        std::min(room.width() / sceneRect().width(), room.height() / sceneRect().height()) * zoom_;
+    setTransform(QTransform::fromScale(scale, scale));
+}
+
+void PlantView::Reveal(const QRectF& part) {
+    if (!IsZoomed()) return;
+    const QRectF seen = mapToScene(viewport()->rect()).boundingRect();
+    // The rectangle of a straight line is empty, and meets nothing.
+    if (!seen.intersects(part.adjusted(-1, -1, 1, 1))) ensureVisible(part);
 }
 
 }  // namespace idrova

@@ -7,8 +7,11 @@
 #include <string_view>
 
 #include "results/network_results.h"
+#include "ui/drawing/frm_cel.h"
+#include "ui/drawing/plant_view.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
+#include "ui/kit/child_windows.h"
 #include "ui/program.h"
 
 namespace idrova {
@@ -47,6 +50,13 @@ std::map<int, ComputedPipe> ComputedPipes(const Project& project, const RunRecor
     return pipes;
 }
 
+void AttachZoom(MDI& mdi, std::string_view item, void (PlantView::*zoom)()) {
+    mdi.Menu().Attach(item, [&mdi, zoom] {
+        auto* drawing = dynamic_cast<FrmCel*>(mdi.Windows().Find("FrmCel"));
+        if (drawing != nullptr) (drawing->View().*zoom)();
+    });
+}
+
 }  // namespace
 
 void AttachViewCommands(MDI& mdi) {
@@ -58,6 +68,9 @@ void AttachViewCommands(MDI& mdi) {
             editor.DataShown = true;
         });
     }
+    AttachZoom(mdi, "ZoomIn", &PlantView::ZoomIn);
+    AttachZoom(mdi, "ZoomOut", &PlantView::ZoomOut);
+    AttachZoom(mdi, "ZoomFit", &PlantView::Fit);
 }
 
 void ShowView(Program& program) {
