@@ -16,6 +16,7 @@ struct Rgb {
 namespace drawing_colour {
 constexpr Rgb kCell{0xE0, 0xE0, 0xE0};
 constexpr Rgb kPipe{0, 0, 0x80};
+constexpr Rgb kNoValue{0x82, 0x82, 0x82};  ///< a pipe that has none to be coloured by
 constexpr Rgb kSelectedPipe{0xFF, 0, 0xFF};
 constexpr Rgb kRemoved{0xFF, 0x40, 0x40};
 constexpr Rgb kBegunPipe{0x50, 0x70, 0xC0};

@@ -30,11 +30,15 @@ struct Removal {
 /// What the data labels show.
 enum class LabelKind { Pressures, Flows, Velocities, Losses, Sizes, Numbers };
 
+/// What the colours of the pipes show.
+enum class ColourKind { None, Velocities, Losses, Pressures, Flows };
+
 /// What a run found for a pipe.
 struct ComputedPipe {
     double flow = 0;          ///< kg/s, positive from the pipe's start point to its end point
     double velocity = 0;      ///< m/s, never negative
     double lossPerMetre = 0;  ///< Pa/m, never negative
+    double pressure = 0;      ///< Pa, the mean of its ends
     bool flowGiven = false;
     bool operator==(const ComputedPipe&) const = default;
 };
@@ -51,9 +55,11 @@ struct Editor {
     bool framesEnabled = true;  ///< the panel's frames; a left click locks them, a right one opens
     bool DataShown = false;     ///< the data labels are shown on the drawing
     LabelKind labels = LabelKind::Pressures;
-    bool resultsOld = false;               ///< computed values do not belong to the plant as it is
-    std::map<int, ComputedPipe> computed;  ///< by pipe; what the data labels need of the last run
-    int ScrX = 1, ScrY = 1;                ///< column and row that the drawing shows first
+    ColourKind colours = ColourKind::None;
+    bool resultsOld = false;  ///< computed values do not belong to the plant as it is
+    std::map<int, ComputedPipe>
+        computed;            ///< by pipe; what labels and colours need of the last run
+    int ScrX = 1, ScrY = 1;  ///< column and row that the drawing shows first
 
     CellKind componentKind = CellKind::Pump;  ///< `Combo1`
     int componentPosition = -1;               ///< `Combo3`; -1 when its list is empty

@@ -7,6 +7,7 @@
 #include "base/number_text.h"
 #include "editor/data_labels.h"
 #include "editor/grid_view.h"
+#include "editor/pipe_colours.h"
 #include "editor/pipe_ends.h"
 #include "editor/pipe_insertion.h"
 #include "model/drawn_records.h"
@@ -18,20 +19,21 @@ constexpr int kLeader = 300;  ///< reach of a leader line, screen units
 
 enum class Marks { None, Selection };
 
-Rgb ColourOf(const Project& project, const Editor& editor, int pipe) {
+Rgb ColourOf(const Project& project, const Editor& editor, const PipeColours& colours, int pipe) {
     if (editor.removal.pipe == pipe) return drawing_colour::kRemoved;
     const bool selected =
         project.CurrentPipe == pipe || std::ranges::binary_search(editor.alsoSelected, pipe);
-    return selected ? drawing_colour::kSelectedPipe : drawing_colour::kPipe;
+    return selected ? drawing_colour::kSelectedPipe : colours.Of(pipe);
 }
 
 void DrawPipes(const Project& project, const Editor& editor, Marks marks, DrawingSurface& surface) {
+    const PipeColours colours(project, editor);
     for (const auto& [number, pipe] : DrawnPipes(project)) {
         const auto part = ShownPart(project, editor, pipe);
         if (!part) continue;
-        surface.PipeLine(
-            number, part->from, part->to,
-            marks == Marks::None ? drawing_colour::kPipe : ColourOf(project, editor, number));
+        surface.PipeLine(number, part->from, part->to,
+                         marks == Marks::None ? drawing_colour::kPipe
+                                              : ColourOf(project, editor, colours, number));
     }
 }
 

@@ -128,6 +128,32 @@ constexpr MenuEntry kMenuTable[] = {
      .mnemonic = 6,
      .tip = "Label every pipe with its number"},
 
+    {.name = "Colours", .parent = "View", .caption = "Colours", .kind = Menu},
+    {.name = "ColoursNone",
+     .parent = "Colours",
+     .caption = "None",
+     .kind = OneOf,
+     .tip = "Draw all pipes alike"},
+    {.name = "ColoursVelocities",
+     .parent = "Colours",
+     .caption = "Velocities",
+     .kind = OneOf,
+     .tip = "Colour every pipe by its computed velocity"},
+    {.name = "ColoursLosses",
+     .parent = "Colours",
+     .caption = "Losses per metre",
+     .kind = OneOf,
+     .tip = "Colour every pipe by what it loses by friction and fittings per metre"},
+    {.name = "ColoursPressures",
+     .parent = "Colours",
+     .caption = "Pressures",
+     .kind = OneOf,
+     .tip = "Colour every pipe by the mean pressure of its ends"},
+    {.name = "ColoursFlows",
+     .parent = "Colours",
+     .caption = "Flow rates",
+     .kind = OneOf,
+     .tip = "Colour every pipe by its computed flow rate"},
     {.name = "ZoomIn",
      .parent = "View",
      .caption = "Zoom in",
@@ -319,13 +345,14 @@ std::string_view CheckedMode(WorkMode mode) {
 }
 
 /// The checked entry of each group.
-std::array<std::string_view, 6> CheckedEntries(const Settings& settings, const ShellState& shell) {
+std::array<std::string_view, 7> CheckedEntries(const Settings& settings, const ShellState& shell) {
     return {shell.roughnessItem,
             settings.SectionType == Section::Circular ? "Circolare" : "Rettangolare",
             CheckedMode(settings.Mode),
             settings.EquationType == Equation::Incompressible ? "Cor1" : "Cor2",
             settings.PressureUnit == Unit::Bar ? "p_bar" : "p_mbar",
-            shell.labelsItem};
+            shell.labelsItem,
+            shell.coloursItem};
 }
 
 }  // namespace
@@ -339,8 +366,8 @@ std::string CaptionWithMnemonic(const MenuEntry& entry) {
 }
 
 bool IsEnabled(const MenuEntry& entry, WorkMode mode) {
-    const bool drawing =
-        entry.name == "Veloce" || entry.parent == "Labels" || entry.name.starts_with("Zoom");
+    const bool drawing = entry.name == "Veloce" || entry.parent == "Labels" ||
+                         entry.parent == "Colours" || entry.name.starts_with("Zoom");
     return !drawing || mode == WorkMode::Graphic;
 }
 

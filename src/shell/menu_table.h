@@ -35,8 +35,8 @@ std::span<const MenuEntry> MenuTable();
 /// The caption with "&" before its mnemonic.
 std::string CaptionWithMnemonic(const MenuEntry& entry);
 
-/// Whether the entry can be chosen in a mode: fast settings, labels and zoom are for the drawing
-/// alone.
+/// Whether the entry can be chosen in a mode: fast settings, labels, colours and zoom are for the
+/// drawing alone.
 bool IsEnabled(const MenuEntry& entry, WorkMode mode);
 
 /// Whether the entry carries its check mark in the present state.

@@ -15,6 +15,7 @@ struct ShellState {
     bool ComputesAtOnce = false;                 ///< whenever the plant has changed and typing pauses
     std::string_view roughnessItem = "t1";       ///< menu item of the roughness last chosen
     std::string_view labelsItem = "LabelsNone";  ///< menu item of the labels that the drawing shows
+    std::string_view coloursItem = "ColoursNone";  ///< of its colours
 };
 
 /// What a working mode shows and allows.

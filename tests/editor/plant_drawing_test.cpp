@@ -9,6 +9,7 @@
 
 #include "editor/drawing_list.h"
 #include "editor/hover_text.h"
+#include "editor/pipe_colours.h"
 #include "editor/pipe_insertion.h"
 #include "plant.h"
 
@@ -25,7 +26,8 @@ const std::pair<Rgb, const char*> kColours[] = {{drawing_colour::kSelectedPipe, 
                                                 {drawing_colour::kRefused, "refused "},
                                                 {drawing_colour::kKnown, "known "},
                                                 {drawing_colour::kUnknown, "unknown "},
-                                                {drawing_colour::kOld, "old "}};
+                                                {drawing_colour::kOld, "old "},
+                                                {drawing_colour::kNoValue, "no value "}};
 
 std::string NameOf(const DrawnElement& element) {
     const std::string number = element.pipe == 0 ? "" : " " + GeneralText(element.pipe);
@@ -219,6 +221,59 @@ TEST(DataLabels, ShowAtThePipesWhatWasComputed) {
         EXPECT_EQ(count("arrow"), arrows ? 4 : 0) << c.kind;
         EXPECT_EQ(count("'"), arrows ? 2 : 3) << c.kind;
     }
+}
+
+/// Colours by number on the scale, and the legend's steps; `-` is grey.
+std::string ColoursOf(Plant& plant) {
+    std::string text;
+    const PipeColours colours(plant.project, plant.editor);
+    const auto steps = colours.Steps();
+    for (const auto& [number, pipe] : DrawnPipes(plant.project)) {
+        const auto step = std::ranges::find(steps, colours.Of(number), &ColourStep::colour);
+        text += step == steps.end() ? "-" : GeneralText(static_cast<int>(step - steps.begin()));
+    }
+    for (const ColourStep& step : steps) text += "|" + step.text;
+    return text;
+}
+
+struct ColourCase {
+    ColourKind kind;
+    const char* legend;
+    const char* colours;
+};
+const ColourCase kColourCases[] = {
+    {ColourKind::Velocities, "Velocity, m/s", "0023-|below 0.5|0.5 – 1|1 – 1.5|from 1.5"},
+    {ColourKind::Losses, "Losses, Pa/m", "0000-|all alike"},
+    {ColourKind::Pressures, "Pressure, bar", "4210-|below 0|0 – 1|1 – 2|2 – 3|from 3"},
+    {ColourKind::Flows, "Flow rate, kg/h",
+     "0114-|below 10000|10000 – 20000|20000 – 30000|30000 – 40000|from 40000"},
+};
+
+TEST(PipeColours, HaveAFewRoundSteps) {
+    Plant plant;
+    plant.Do("L1,1 L9,1 L1,3 L9,3 L1,5 L9,5 L1,7 L9,7 L1,9 L9,9 R20,20");
+    const double bar = kPascalPerBar;
+    plant.editor.computed = {{1, {1, .04, 50, 3.5 * bar}},
+                             {2, {-3, .49, 50, 1 * bar}},
+                             {3, {4, 1, 50, .9 * bar}},
+                             {4, {-12, 1.9, 50, -.5 * bar}}};
+    EXPECT_EQ(ColoursOf(plant), "-----");
+    EXPECT_EQ(LegendOf(plant.project, plant.editor), Legend{});
+    for (const ColourCase& c : kColourCases) {
+        plant.editor.colours = c.kind;
+        EXPECT_EQ(ColoursOf(plant), c.colours) << c.legend;
+        EXPECT_EQ(LegendOf(plant.project, plant.editor).colours, c.legend);
+    }
+    plant.Do("show=flows");
+    EXPECT_EQ(LegendOf(plant.project, plant.editor).labels, "Labels: flow rate, kg/h");
+    plant.editor.resultsOld = true;
+    EXPECT_EQ(ColoursOf(plant), "-----");
+    const Legend old = LegendOf(plant.project, plant.editor);
+    EXPECT_EQ(old.colours, "Flow rate, kg/h: changed since the computation");
+    EXPECT_EQ(old.labels, "Labels: flow rate, kg/h: changed since the computation");
+    EXPECT_THAT(LinesOf(DrawingOf(plant)), Contains("no value pipe 5 639,2863 2863,2863"));
+    plant.editor.colours = ColourKind::None;
+    EXPECT_THAT(LinesOf(DrawingOf(plant)), Contains("pipe 5 639,2863 2863,2863"));
 }
 
 struct Box {

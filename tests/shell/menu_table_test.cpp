@@ -22,23 +22,25 @@ Names Checked(const Settings& settings, const ShellState& shell) {
 
 TEST(MenuTable, CheckMarksAndWhatCanBeChosenFollowTheState) {
     Settings settings;
-    EXPECT_EQ(Checked(settings, {}), (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar",
-                                            "Helpslinea", "BarraStrumenti", "LabelsNone"}));
+    EXPECT_EQ(Checked(settings, {}),
+              (Names{"t1", "Circolare", "Grafico", "Cor1", "p_bar", "Helpslinea", "BarraStrumenti",
+                     "LabelsNone", "ColoursNone"}));
     settings.Mode = WorkMode::SinglePipe;
     settings.SectionType = Section::Rectangular;
     settings.EquationType = Equation::Compressible;
     settings.PressureUnit = Unit::MilliBar;
     settings.ResultsInSequence = true;
-    EXPECT_EQ(
-        Checked(settings, {.HintsShown = false,
-                           .ToolBarShown = false,
-                           .roughnessItem = "tt",
-                           .labelsItem = "LabelsFlows"}),
-        (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq", "LabelsFlows"}));
+    EXPECT_EQ(Checked(settings, {.HintsShown = false,
+                                 .ToolBarShown = false,
+                                 .roughnessItem = "tt",
+                                 .labelsItem = "LabelsFlows",
+                                 .coloursItem = "ColoursFlows"}),
+              (Names{"tt", "Rettangolare", "sintub", "Cor2", "p_mbar", "Risultatiseq",
+                     "LabelsFlows", "ColoursFlows"}));
     for (const MenuEntry& entry : MenuTable()) {
         EXPECT_TRUE(IsEnabled(entry, WorkMode::Graphic));
-        const bool drawing =
-            entry.name == "Veloce" || entry.parent == "Labels" || entry.name.starts_with("Zoom");
+        const bool drawing = entry.name == "Veloce" || entry.parent == "Labels" ||
+                             entry.parent == "Colours" || entry.name.starts_with("Zoom");
         EXPECT_EQ(IsEnabled(entry, WorkMode::Table), !drawing) << entry.name;
     }
 }

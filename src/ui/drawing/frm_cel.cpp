@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QLabel>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStatusTipEvent>
@@ -11,8 +12,10 @@
 #include "editor/deletion.h"
 #include "editor/grid_view.h"
 #include "editor/hover_text.h"
+#include "editor/pipe_colours.h"
 #include "editor/plant_drawing.h"
 #include "results/report_figures.h"
+#include "ui/drawing/drawing_style.h"
 #include "ui/drawing/plant_scene.h"
 #include "ui/drawing/plant_view.h"
 #include "ui/kit/controls.h"
@@ -21,11 +24,29 @@
 
 namespace idrova {
 
+namespace {
+
+/// One line, each step with a piece of its colour.
+QString LegendText(const Legend& legend) {
+    QString text = "<b>" + ToQt(legend.colours) + "</b>";
+    for (const ColourStep& step : legend.steps) {
+        text += QString(
+                    " &nbsp; <span "
+                    "style='background-color:%1'>&nbsp;&nbsp;&nbsp;&nbsp;&nbsp;</span>&nbsp;%2")
+                    .arg(ToQt(step.colour).name(), ToQt(step.text).replace(' ', "&nbsp;"));
+    }
+    const QString gap = legend.colours.empty() || legend.labels.empty() ? "" : " &nbsp; &nbsp; ";
+    return text + gap + ToQt(legend.labels);
+}
+
+}  // namespace
+
 FrmCel::FrmCel(Program& program)
     : ChildWindow("FrmCel", "Idrova - plant drawing"),
       program_(program),
       scene_(new PlantScene(program.project, program.folder)),
       view_(Named(new PlantView(scene_, program.project), "Drawing")),
+      legend_(Named(new QLabel, "Legend")),
       ScrX(Bar("ScrX", Qt::Horizontal)),
       ScrY(Bar("ScrY", Qt::Vertical)) {
     scene_->setParent(this);
@@ -35,6 +56,12 @@ FrmCel::FrmCel(Program& program)
     grid->addWidget(view_, 0, 0);
     grid->addWidget(ScrY, 0, 1);
     grid->addWidget(ScrX, 1, 0);
+    grid->addWidget(legend_, 2, 0, 1, 2);
+    // On the ground of the cells, as the colours are made for it.
+    legend_->setStyleSheet(QString("background-color: %1; color: black; padding: 3px 8px;")
+                               .arg(ToQt(drawing_colour::kCell).name()));
+    legend_->setTextFormat(Qt::RichText);
+    legend_->setWordWrap(true);
     ScrX->setAccessibleName("First column shown");
     ScrY->setAccessibleName("First row shown");
     setFocusProxy(view_);
@@ -85,7 +112,15 @@ void FrmCel::ShowState() {
     DrawPlant(program_.project, program_.editor, drawing);
     DrawBegunPipe(program_.project, program_.editor, HoverCell, drawing);
     scene_->Show(std::move(drawing));
+    ShowLegend();
     RevealSelection();
+}
+
+void FrmCel::ShowLegend() {
+    const Legend legend = LegendOf(program_.project, program_.editor);
+    legend_->setVisible(legend != Legend{});
+    const QString text = LegendText(legend);
+    if (text != legend_->text()) legend_->setText(text);
 }
 
 /// What was selected elsewhere may lie beside the part that is shown.

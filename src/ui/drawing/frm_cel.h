@@ -6,6 +6,7 @@
 #include "editor/cell_click.h"
 #include "ui/kit/child_window.h"
 
+class QLabel;
 class QScrollBar;
 
 namespace idrova {
@@ -36,11 +37,13 @@ class FrmCel final : public ChildWindow {
     void Scrolled();
     void Abort();
     void ShowPlace(int place);
+    void ShowLegend();
     void RevealSelection();
 
     Program& program_;
     PlantScene* scene_;
     PlantView* view_;
+    QLabel* legend_;
     QScrollBar* ScrX;
     QScrollBar* ScrY;
     bool isBegunByPress_ = false;   ///< the last press began a pipe

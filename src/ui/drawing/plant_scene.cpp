@@ -54,12 +54,18 @@ QPen LeaderPen() {
     return {drawing_style::kLeader, 0};
 }
 
+/// Selected, to be removed, or being drawn.
+bool IsMarked(const DrawnElement& pipe) {
+    return pipe.pipe == 0 || pipe.colour == drawing_colour::kSelectedPipe ||
+           pipe.colour == drawing_colour::kRemoved;
+}
+
 double LayerOf(const DrawnElement& element) {
     switch (element.kind) {
         case ElementKind::CellFill:
             return kFills;
         case ElementKind::PipeLine:
-            return element.colour == drawing_colour::kPipe ? kPipes : kCurrentPipe;
+            return IsMarked(element) ? kCurrentPipe : kPipes;
         case ElementKind::PointMarker:
             return kMarkers;
         case ElementKind::CellIcon:

@@ -29,6 +29,20 @@ constexpr LabelChoice kLabelChoices[] = {
     {"LabelsVelocities", LabelKind::Velocities}, {"LabelsLosses", LabelKind::Losses},
     {"LabelsSizes", LabelKind::Sizes},           {"LabelsNumbers", LabelKind::Numbers}};
 
+struct ColourChoice {
+    std::string_view item;
+    ColourKind kind = ColourKind::None;
+};
+constexpr ColourChoice kColourChoices[] = {{"ColoursNone", ColourKind::None},
+                                           {"ColoursVelocities", ColourKind::Velocities},
+                                           {"ColoursLosses", ColourKind::Losses},
+                                           {"ColoursPressures", ColourKind::Pressures},
+                                           {"ColoursFlows", ColourKind::Flows}};
+
+std::string_view ItemOf(ColourKind kind) {
+    return std::ranges::find(kColourChoices, kind, &ColourChoice::kind)->item;
+}
+
 std::string_view ItemOf(LabelKind kind) {
     return std::ranges::find(kLabelChoices, kind, &LabelChoice::kind)->item;
 }
@@ -37,6 +51,9 @@ std::string_view ItemOf(LabelKind kind) {
 std::map<int, ComputedPipe> ComputedPipes(const Project& project, const RunRecord* record) {
     std::map<int, ComputedPipe> pipes;
     if (record == nullptr || !record->results) return pipes;
+    const auto pressure = [&](int point) {
+        return double{record->results->WorkPoints[point].Pressure};
+    };
     for (const PipeResult& result : PipeResults(record->settings, *record->results)) {
         const PipeRec& drawn = project.Pipes[result.number];
         const bool forward = drawn.StartPoint == result.from && drawn.EndPoint == result.to;
@@ -45,6 +62,7 @@ std::map<int, ComputedPipe> ComputedPipes(const Project& project, const RunRecor
         pipes[result.number] = {.flow = forward ? result.flow : -result.flow,
                                 .velocity = std::abs(result.velocity),
                                 .lossPerMetre = std::abs(result.dropPerMetre),
+                                .pressure = (pressure(result.from) + pressure(result.to)) / 2,
                                 .flowGiven = result.flowGiven};
     }
     return pipes;
@@ -68,6 +86,9 @@ void AttachViewCommands(MDI& mdi) {
             editor.DataShown = true;
         });
     }
+    for (const ColourChoice& entry : kColourChoices) {
+        mdi.Menu().Attach(entry.item, [&editor, kind = entry.kind] { editor.colours = kind; });
+    }
     AttachZoom(mdi, "ZoomIn", &PlantView::ZoomIn);
     AttachZoom(mdi, "ZoomOut", &PlantView::ZoomOut);
     AttachZoom(mdi, "ZoomFit", &PlantView::Fit);
@@ -76,6 +97,7 @@ void AttachViewCommands(MDI& mdi) {
 void ShowView(Program& program) {
     Editor& editor = program.editor;
     program.shell.labelsItem = editor.DataShown ? ItemOf(editor.labels) : kNoLabels;
+    program.shell.coloursItem = ItemOf(editor.colours);
     if (program.project.settings.Mode != WorkMode::Graphic) return;
     editor.resultsOld = ShowsOldResults(program);
     editor.computed = ComputedPipes(program.project, RecordOf(program));
