@@ -13,7 +13,7 @@ namespace {
 /// Dark enough for thin lines on the cells; blue and orange stay apart for every eye.
 constexpr std::array<Rgb, 5> kScale = {{{0x00, 0x38, 0x98},
                                         {0x2E, 0x7F, 0xC8},
-                                        {0x6A, 0x6A, 0x6A},
+                                        {0x8A, 0x4F, 0xA8},
                                         {0xD0, 0x62, 0x00},
                                         {0x8C, 0x10, 0x08}}};
 constexpr std::size_t kMostBounds = kScale.size() - 1;
@@ -113,17 +113,16 @@ Rgb PipeColours::Of(int pipe) const {
 }
 
 std::vector<ColourStep> PipeColours::Steps() const {
-    std::vector<ColourStep> steps;
-    if (!hasValues_) return steps;
-    for (std::size_t i = 0; i <= bounds_.size(); ++i) {
-        const std::string low = i == 0 ? "" : PlainText(bounds_[i - 1]);
-        const std::string high = i == bounds_.size() ? "" : PlainText(bounds_[i]);
-        std::string text = low + " \u2013 " + high;
-        if (low.empty()) text = "below " + high;
-        if (high.empty()) text = "from " + low;
-        if (bounds_.empty()) text = "all alike";
-        steps.push_back({text, kScale[bounds_.empty() ? 0 : i * kMostBounds / bounds_.size()]});
+    if (!hasValues_) return {};
+    if (bounds_.empty()) return {{"all alike", kScale[0]}};
+    std::vector<ColourStep> steps = {{"below " + PlainText(bounds_.front()), kScale[0]}};
+    for (std::size_t i = 1; i < bounds_.size(); ++i) {
+        std::string text = PlainText(bounds_[i - 1]);
+        text += " \u2013 ";
+        text += PlainText(bounds_[i]);
+        steps.push_back({text, kScale[i * kMostBounds / bounds_.size()]});
     }
+    steps.push_back({"from " + PlainText(bounds_.back()), kScale.back()});
     return steps;
 }
 

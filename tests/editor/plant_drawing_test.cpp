@@ -204,7 +204,9 @@ TEST(DataLabels, ShowAtThePipesWhatWasComputed) {
     for (const KindCase& c : kKinds) {
         Plant plant;
         plant.Do("L1,1 L9,1 L9,1 L9,5 L20,20 L30,20 R5,1 again size=7 length=12.5 R20,9");
-        plant.editor.computed = {{1, {.5, 1.25, 432.1, true}}, {2, {-7. / 3600, .04, 0, false}}};
+        plant.editor.computed = {
+            {1, {.flow = .5, .velocity = 1.25, .lossPerMetre = 432.1, .flowGiven = true}},
+            {2, {.flow = -7. / 3600, .velocity = .04}}};
         plant.editor.resultsOld = c.old;
         plant.Do(std::string("show=") + c.kind);
         const Lines drawn = LinesOf(DrawingOf(plant));

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include <QScrollBar>
+#include <cmath>
 
 #include "drawing_window.h"
+#include "editor/find_element.h"
 #include "editor/messages.h"
 #include "projectfile/messages.h"
 
@@ -97,6 +99,40 @@ TEST_F(DrawingWindow, AComponentIsHintedAndShowsWithoutItsIcon) {
     Do("Annulla");
     EXPECT_EQ(pixel(), before);
     Walk("Tabella # enabled Annulla #");
+}
+
+TEST_F(DrawingWindow, ZoomedItStillTakesClicksAndShowsWhatIsSelected) {
+    Draw(2, 5, 8, 5);
+    const QTransform whole = View().transform();
+    Choose("ZoomIn");
+    Choose("ZoomIn");
+    const QPoint at = PlaceOf(25, 25);
+    QWheelEvent wheel(at, View().viewport()->mapToGlobal(at), {}, {0, 240}, Qt::NoButton,
+                      Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(View().viewport(), &wheel);
+    EXPECT_NEAR(View().transform().m11() / whole.m11(), std::pow(1.25, 4), 0.02);
+    EXPECT_LE((PlaceOf(25, 25) - at).manhattanLength(), 3);
+    Draw(24, 25, 27, 25);
+    EXPECT_EQ(CellsOf(project, 2), (std::pair{CellAt(24, 25, 50), CellAt(27, 25, 50)}));
+    const auto seen = [&](int column, int row) {
+        return View().viewport()->rect().contains(PlaceOf(column, row));
+    };
+    EXPECT_FALSE(seen(5, 5));
+    ASSERT_TRUE(FindElement(project, program->editor, "1"));
+    program->changed();
+    EXPECT_TRUE(seen(2, 5) || seen(8, 5));
+    Choose("ZoomFit");
+    EXPECT_EQ(View().transform(), whole);
+    EXPECT_TRUE(seen(1, 1) && seen(50, 50));
+}
+
+TEST_F(DrawingWindow, TheMenuViewChoosesLabelsAndColours) {
+    Walk(R"(
+        L2,5;L8,5;Command4 # LabelsPressures Legend? # 1|0
+        LabelsNumbers;R20,20 # LabelsNumbers LabelsNone # 1|0 # only pressures go with a click
+        Command4 # LabelsNumbers LabelsNone # 0|1
+        ColoursFlows # ColoursFlows ColoursNone Legend? # 1|0|1)");
+    EXPECT_TRUE(Shown("Legend").contains("Flow rate, kg/h: not computed yet"));
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ constexpr int kLongStep = 5;  ///< cells
 constexpr double kZoomStep = 1.25;
 constexpr double kLargestZoom = 8;
 constexpr double kWheelNotch = 120;  ///< as Qt counts it
-constexpr double kEdge = 4;          ///< pixels round the whole drawing, as Qt leaves them
+constexpr int kEdge = 4;             ///< pixels round the whole drawing, as Qt leaves them
 
 HeldKey HeldAt(const QInputEvent& event) {
     if (event.modifiers().testFlag(Qt::ControlModifier)) return HeldKey::Ctrl;
