@@ -213,6 +213,15 @@ void TakeDrawing(const fs::path& data, const fs::path& output) {
     studio.SaveMainWindow("plant.png");
 }
 
+void TakeColours(const fs::path& data, const fs::path& output) {
+    Studio studio(data, output);
+    studio.OpenSample("ring-main.iv");
+    studio.Compute();
+    studio.Choose("LabelsFlows");
+    studio.Choose("ColoursVelocities");
+    studio.SaveWindow("FrmCel", "colours.png");
+}
+
 void TakeDataWindows(const fs::path& data, const fs::path& output) {
     Studio studio(data, output);
     studio.Choose("Fluido");
@@ -272,8 +281,8 @@ int main(int argc, char* argv[]) {
     QApplication::setWindowIcon(idrova::LogoIcon());
     try {
         for (const auto take :
-             {idrova::TakeFirstPlant, idrova::TakeDrawing, idrova::TakeDataWindows,
-              idrova::TakeTable, idrova::TakeSinglePipe}) {
+             {idrova::TakeFirstPlant, idrova::TakeDrawing, idrova::TakeColours,
+              idrova::TakeDataWindows, idrova::TakeTable, idrova::TakeSinglePipe}) {
             take(argv[1], argv[2]);
         }
     } catch (const std::exception& error) {

@@ -15,6 +15,7 @@
 #include "physdata/pump_constants.h"
 #include "physdata/settings_file.h"
 #include "projectfile/project_file.h"
+#include "results/limit_notes.h"
 #include "results/messages.h"
 #include "shell/run_command.h"
 
@@ -76,6 +77,7 @@ class ProjectRun {
         }
         UseSettings(**stored, project_->settings);
         roughnessItem_ = (*stored)->roughnessItem;
+        limits_ = (*stored)->limits;
         return true;
     }
 
@@ -147,6 +149,7 @@ class ProjectRun {
         };
         run_ = RunNetwork(*project_, texts, *work_,
                           {.boxes = boxes_, .writeReport = writeReport, .seed = options_.seed});
+        run_.outcome = HeldAgainst(limits_, run_);
     }
 
     void PrintNotes() {
@@ -160,7 +163,8 @@ class ProjectRun {
     bool Save() {
         if (options_.save.empty() || !run_.results) return true;
         Status saved = WriteProject(*project_, options_.save);
-        if (saved) saved = WriteSettingsOf(options_.save, {project_->settings, roughnessItem_});
+        if (saved)
+            saved = WriteSettingsOf(options_.save, {project_->settings, roughnessItem_, limits_});
         return Told(saved, kSaveTitle);
     }
 
@@ -211,6 +215,7 @@ class ProjectRun {
     std::unique_ptr<WorkNetwork> work_ = std::make_unique<WorkNetwork>();
     RunRecord run_;
     std::string_view roughnessItem_ = kRoughnessPresets[0].item;
+    Limits limits_;
     std::string report_;
     bool reportFailed_ = false;
 };

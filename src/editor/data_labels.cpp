@@ -18,9 +18,14 @@ std::string LabelText(const Project& project, int number) {
     return "P" + GeneralText(number) + "=" + FormatNumber(shown, "##.###");
 }
 
-Rgb GroundOf(const Editor& editor, bool computed) {
-    if (!computed) return drawing_colour::kKnown;
-    return editor.resultsOld ? drawing_colour::kOld : drawing_colour::kUnknown;
+Rgb GroundOf(const Project& project, const Editor& editor, int point) {
+    const bool computed = project.PressureUnknown[point];
+    if (computed && editor.resultsOld) return drawing_colour::kOld;
+    const bool held = !editor.resultsOld && !editor.computed.empty();
+    if (held && IsBeyond(editor.limits, project.Points[point].Pressure)) {
+        return drawing_colour::kBeyondLimit;
+    }
+    return computed ? drawing_colour::kUnknown : drawing_colour::kKnown;
 }
 
 void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& surface) {
@@ -35,8 +40,7 @@ void LabelPoints(const Project& project, const Editor& editor, DrawingSurface& s
         if (const auto end = places.LeaderEnd(point, corner, text.size())) {
             surface.LeaderLine(from, Shown(project, editor, *end));
         }
-        surface.TextLabel(Shown(project, editor, corner), text,
-                          GroundOf(editor, project.PressureUnknown[number]));
+        surface.TextLabel(Shown(project, editor, corner), text, GroundOf(project, editor, number));
     }
 }
 

@@ -24,8 +24,14 @@ constexpr Rgb kRefused{0xD0, 0, 0};
 constexpr Rgb kArrow = kPipe;
 constexpr Rgb kKnown{0xFF, 0xFF, 0xFF};
 constexpr Rgb kUnknown{0xFF, 0x80, 0x80};
-constexpr Rgb kOld{0xB8, 0xB8, 0xB8};  ///< computed, of a plant that has changed since
+constexpr Rgb kBeyondLimit{0xB8, 0, 0};  ///< under white letters
+constexpr Rgb kOld{0xB8, 0xB8, 0xB8};    ///< computed, of a plant that has changed since
 }  // namespace drawing_colour
+
+/// The letters of a label on this ground.
+constexpr Rgb InkOn(Rgb ground) {
+    return ground == drawing_colour::kBeyondLimit ? Rgb{0xFF, 0xFF, 0xFF} : Rgb{};
+}
 
 /// What the plant is drawn with. Positions are screen units, 15 to a pixel at scale 1, as shown:
 /// already scrolled and cut to the grid.

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "model/limits.h"
 #include "model/project.h"
 #include "physdata/component_lists.h"
 
@@ -59,6 +60,7 @@ struct Editor {
     bool resultsOld = false;  ///< computed values do not belong to the plant as it is
     std::map<int, ComputedPipe>
         computed;            ///< by pipe; what labels and colours need of the last run
+    Limits limits;           ///< that the labels are held against
     int ScrX = 1, ScrY = 1;  ///< column and row that the drawing shows first
 
     CellKind componentKind = CellKind::Pump;  ///< `Combo1`

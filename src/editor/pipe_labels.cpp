@@ -37,6 +37,13 @@ double FigureOf(LabelKind kind, const ComputedPipe& pipe) {
     return kind == LabelKind::Velocities ? pipe.velocity : pipe.lossPerMetre;
 }
 
+bool IsBeyondLimit(const Editor& editor, const ComputedPipe& pipe) {
+    if (editor.labels == LabelKind::Velocities) {
+        return IsAbove(pipe.velocity, editor.limits.velocity);
+    }
+    return editor.labels == LabelKind::Losses && IsAbove(pipe.lossPerMetre, editor.limits.loss);
+}
+
 struct PipeLabel {
     std::string text;  ///< empty without a label
     Rgb ground = drawing_colour::kKnown;
@@ -52,6 +59,7 @@ PipeLabel LabelOf(const Project& project, const Editor& editor, int number) {
     PipeLabel label{ShortText(FigureOf(editor.labels, computed->second))};
     const bool given = editor.labels == LabelKind::Flows && computed->second.flowGiven;
     if (!given) label.ground = drawing_colour::kUnknown;
+    if (IsBeyondLimit(editor, computed->second)) label.ground = drawing_colour::kBeyondLimit;
     if (editor.resultsOld) label.ground = drawing_colour::kOld;
     return label;
 }

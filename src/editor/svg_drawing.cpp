@@ -86,7 +86,11 @@ class SvgSurface final : public DrawingSurface {
                  Attribute("width", width) + Attribute("height", height) +
                  Attribute("fill", ColourText(background)) + " stroke=\"none\"/>";
         body_ += "<text" + Attribute("x", corner.x + width / 2.0) +
-                 Attribute("y", corner.y + height * 0.78) + ">" + MarkupText(text) + "</text>\n";
+                 Attribute("y", corner.y + height * 0.78) +
+                 (InkOn(background) == Rgb{}
+                      ? ""
+                      : Attribute("style", "fill:" + ColourText(InkOn(background)))) +
+                 ">" + MarkupText(text) + "</text>\n";
     }
 
     void LeaderLine(ScreenPoint from, ScreenPoint to) override {

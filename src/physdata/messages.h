@@ -52,6 +52,9 @@ constexpr FixedMessage kTooManyPumps{"Max number of pumps reached", "New pump",
                                      BoxIcon::Information};
 constexpr FixedMessage kNoPumpToDelete{"Select a pump", "Pump deleting", BoxIcon::Information};
 
+constexpr FixedMessage kLimitIsNoNumber{"A limit is a number, or empty for none", "Limits",
+                                        BoxIcon::Information};
+
 constexpr FixedMessage kZeroCoefficient{"Zero coefficient", "New concentrated drop",
                                         BoxIcon::Question};
 constexpr FixedMessage kAskSaveLoss{"Do you want to save the new concentrated drop ?",

@@ -7,6 +7,7 @@
 #include "base/file.h"
 #include "base/number_text.h"
 #include "physdata/fluids.h"
+#include "physdata/limit_texts.h"
 #include "physdata/messages.h"
 #include "physdata/pipe_settings.h"
 
@@ -67,6 +68,12 @@ class Reader {
         return 0;
     }
 
+    /// Nothing when there is no such key.
+    std::optional<double> OptionalNumber(const char* group, const char* key) {
+        if (Find(group, key) == nullptr) return std::nullopt;
+        return Number(group, key, std::numeric_limits<double>::lowest());
+    }
+
     /// The one of two values whose name stands there.
     template <typename Value>
     Value OneOf(const char* key, Value one, Value other, std::string_view (*nameOf)(Value)) {
@@ -116,6 +123,30 @@ Settings ReadSettings(Reader& reader) {
     return settings;
 }
 
+struct LimitKey {
+    const char* key = "";
+    std::optional<double> Limits::*limit = nullptr;
+};
+constexpr const char* kLimitsGroup = "limits";
+constexpr LimitKey kLimitKeys[] = {{"velocity_m_s", &Limits::velocity},
+                                   {"loss_Pa_m", &Limits::loss},
+                                   {"lowest_pressure_Pa", &Limits::lowestPressure},
+                                   {"highest_pressure_Pa", &Limits::highestPressure}};
+
+Limits ReadLimits(Reader& reader) {
+    Limits limits;
+    for (const auto& [key, limit] : kLimitKeys) {
+        limits.*limit = reader.OptionalNumber(kLimitsGroup, key);
+    }
+    return limits;
+}
+
+void AddLimits(const Limits& limits, Json& json) {
+    for (const auto& [key, limit] : kLimitKeys) {
+        if (limits.*limit) json[kLimitsGroup][key] = *(limits.*limit);
+    }
+}
+
 bool SameFluid(const Settings& one, const Settings& other) {
     return PlainFluidName(one.FluidName) == PlainFluidName(other.FluidName) &&
            one.FluidDensity == other.FluidDensity && one.FluidViscosity == other.FluidViscosity &&
@@ -136,20 +167,20 @@ std::filesystem::path SettingsFileOf(const std::filesystem::path& project) {
 
 std::string SettingsText(const StoredSettings& stored) {
     const Settings& settings = stored.settings;
-    const Json json = {
-        {"idrova_settings", kVersion},
-        {"fluid",
-         {{"name", PlainFluidName(settings.FluidName)},
-          {"density_kg_m3", settings.FluidDensity},
-          {"viscosity_Pa_s", settings.FluidViscosity},
-          {"compressibility", settings.FluidCompressibility}}},
-        {"roughness",
-         {{"name", RoughnessName(stored.roughnessItem)}, {"value_m", settings.Roughness}}},
-        {"section", SectionName(settings.SectionType)},
-        {"equation", EquationName(settings.EquationType)},
-        {"temperature_C", DecimalDouble(settings.FluidTemperature)},
-        {"base_pressure_Pa", DecimalDouble(settings.BasePressure)},
-        {"pressure_unit", UnitName(settings.PressureUnit)}};
+    Json json = {{"idrova_settings", kVersion},
+                 {"fluid",
+                  {{"name", PlainFluidName(settings.FluidName)},
+                   {"density_kg_m3", settings.FluidDensity},
+                   {"viscosity_Pa_s", settings.FluidViscosity},
+                   {"compressibility", settings.FluidCompressibility}}},
+                 {"roughness",
+                  {{"name", RoughnessName(stored.roughnessItem)}, {"value_m", settings.Roughness}}},
+                 {"section", SectionName(settings.SectionType)},
+                 {"equation", EquationName(settings.EquationType)},
+                 {"temperature_C", DecimalDouble(settings.FluidTemperature)},
+                 {"base_pressure_Pa", DecimalDouble(settings.BasePressure)},
+                 {"pressure_unit", UnitName(settings.PressureUnit)}};
+    AddLimits(stored.limits, json);
     return json.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
@@ -159,8 +190,8 @@ Result<StoredSettings> ParseSettings(std::string_view text) {
     Reader reader(json);
     const double version = reader.Number("", "idrova_settings", 1);
     if (version > kVersion) return Failure{std::string(kSettingsNewer)};
-    const StoredSettings stored{ReadSettings(reader),
-                                RoughnessItem(reader.Text("roughness", "name"))};
+    const StoredSettings stored{
+        ReadSettings(reader), RoughnessItem(reader.Text("roughness", "name")), ReadLimits(reader)};
     if (!reader.Fault().empty()) return Failure{SettingsFault(reader.Fault())};
     return stored;
 }
@@ -187,14 +218,15 @@ void UseSettings(const StoredSettings& stored, Settings& settings) {
 }
 
 std::string SettingsOffer(const std::optional<Result<StoredSettings>>& stored,
-                          const Settings& settings) {
+                          const StoredSettings& present) {
     if (!stored) return {};
     if (!*stored) return SettingsUnread(stored->Error());
-    const std::string difference = SettingsDifference(**stored, settings);
+    const std::string difference = SettingsDifference(**stored, present);
     return difference.empty() ? difference : SettingsDiffer(difference);
 }
 
-std::string SettingsDifference(const StoredSettings& stored, const Settings& settings) {
+std::string SettingsDifference(const StoredSettings& stored, const StoredSettings& present) {
+    const Settings& settings = present.settings;
     const Settings& other = stored.settings;
     std::string words;
     const auto add = [&words](bool differs, const std::string& what) {
@@ -213,6 +245,7 @@ std::string SettingsDifference(const StoredSettings& stored, const Settings& set
         "base pressure " + GeneralText(other.BasePressure / kPascalPerBar) + " bar");
     add(other.PressureUnit != settings.PressureUnit,
         "pressures in " + std::string(UnitName(other.PressureUnit)));
+    add(stored.limits != present.limits, "limits: " + LimitWords(stored.limits));
     return words;
 }
 

@@ -7,18 +7,20 @@
 #include <string_view>
 
 #include "base/result.h"
+#include "model/limits.h"
 #include "model/settings.h"
 
 namespace idrova {
 
 /// The settings that travel with a project, in a file beside it: fluid, roughness, section,
-/// equation, temperature, base pressure and pressure unit. The working mode and whether reports are
-/// collected are no such settings.
+/// equation, temperature, base pressure, pressure unit and limits. The working mode and whether
+/// reports are collected are no such settings.
 
 /// A set of such settings; those that do not travel have their start values.
 struct StoredSettings {
     Settings settings;
     std::string_view roughnessItem;  ///< menu item of the roughness
+    Limits limits{};
 
     bool operator==(const StoredSettings&) const = default;
 };
@@ -44,10 +46,10 @@ void UseSettings(const StoredSettings& stored, Settings& settings);
 /// What a user is told of the settings beside a project when they could not be read, or differ from
 /// the present ones; empty when there is nothing to tell.
 std::string SettingsOffer(const std::optional<Result<StoredSettings>>& stored,
-                          const Settings& settings);
+                          const StoredSettings& present);
 
-/// What `stored` has other than `settings`, as "fluid Air, equation compressible"; empty when
+/// What `stored` has other than `present`, as "fluid Air, equation compressible"; empty when
 /// nothing. A fluid differs by its values or its name, without the number of its record.
-std::string SettingsDifference(const StoredSettings& stored, const Settings& settings);
+std::string SettingsDifference(const StoredSettings& stored, const StoredSettings& present);
 
 }  // namespace idrova

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -27,6 +28,7 @@ struct ResultColumn {
 struct ResultRow {
     int number = 0;  ///< of the pipe or point, or the component's cell
     std::vector<ResultCell> cells;
+    std::vector<std::size_t> beyond{};  ///< columns whose value is beyond a limit
 };
 
 struct ResultTable {

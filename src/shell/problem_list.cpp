@@ -6,6 +6,7 @@
 
 #include "hydraulics/problems.h"
 #include "hydraulics/work_network.h"
+#include "results/limit_notes.h"
 #include "results/result_age.h"
 #include "table/table_columns.h"
 #include "table/table_network.h"
@@ -41,10 +42,12 @@ Note OnRow(const Project& project, Note note) {
 
 }  // namespace
 
-ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last) {
+ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last,
+                         const Limits& limits) {
     ProblemView view;
     if (IsUpToDate(last, project)) {
-        view = {OutcomeLine(last->outcome), last->outcome.notes};
+        Outcome outcome = HeldAgainst(limits, *last);
+        view = {OutcomeLine(outcome), std::move(outcome.notes)};
     } else {
         view.notes = PresentProblems(project, texts);
         view.caption = view.notes.empty() ? "Not yet computed" : "Cannot be computed yet";

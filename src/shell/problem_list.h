@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "hydraulics/note.h"
+#include "model/limits.h"
 #include "model/project.h"
 #include "results/run_record.h"
 #include "table/table_texts.h"
@@ -19,8 +20,10 @@ struct ProblemView {
     bool operator==(const ProblemView&) const = default;
 };
 
-/// The notes of the last run while they belong to the plant, else what keeps the plant from being
-/// computed now. `last` is null when nothing was computed in this mode. Recounts `numins`.
-ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last);
+/// The notes of the last run, limits included, while they belong to the plant, else what keeps the
+/// plant from being computed now. `last` is null when nothing was computed in this mode. Recounts
+/// `numins`.
+ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRecord* last,
+                         const Limits& limits);
 
 }  // namespace idrova

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/table_results.h"
 
+#include <cmath>
+
 #include "base/number_text.h"
 #include "results/network_results.h"
 #include "results/result_age.h"
@@ -14,7 +16,7 @@ bool HaveSamePoints(const TableRowRec& one, const TableRowRec& other) {
 
 }  // namespace
 
-RowResults ShowRowResults(const Project& project, const RunRecord* record) {
+RowResults ShowRowResults(const Project& project, const RunRecord* record, const Limits& limits) {
     RowResults shown;
     if (record == nullptr || !record->results) return shown;
     shown.isEmpty = false;
@@ -33,6 +35,12 @@ RowResults ShowRowResults(const Project& project, const RunRecord* record) {
         shown.texts[row] = {FixedText(found.flow * kSecondsPerHour, 1),
                             FixedText(found.velocity, 3), FixedText(found.dropPerMetre, 2),
                             pressure(data.StartPoint), pressure(data.EndPoint)};
+        const auto isBeyond = [&](int point) {
+            return IsBeyond(limits, results.WorkPoints[point].Pressure);
+        };
+        shown.beyond[row] = {false, IsAbove(std::abs(found.velocity), limits.velocity),
+                             IsAbove(std::abs(found.dropPerMetre), limits.loss),
+                             isBeyond(data.StartPoint), isBeyond(data.EndPoint)};
     }
     return shown;
 }

@@ -20,6 +20,10 @@ bool ShowsOldResults(const Program& program) {
     return !HasCurrentResults(RecordOf(program), program.project);
 }
 
+StoredSettings PresentSettings(const Program& program) {
+    return {program.project.settings, program.shell.roughnessItem, program.limits};
+}
+
 void RereadComponents(Program& program) {
     LoadComponentDatabases(program.components, program.folder, program.boxes);
     RefreshComponentChoice(program.editor, program.components);

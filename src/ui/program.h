@@ -40,6 +40,7 @@ struct Program {
     std::string titleName = kNewProject;  ///< of the project, as the main window's title shows it
     /// The settings beside the open project, until the user takes or leaves them.
     std::optional<Result<StoredSettings>> offered;
+    Limits limits;  ///< that results are held against
     WorkNetwork work;
     TableTexts table;
     TableModel tableModel{project, table};  ///< holds the edits that can be undone
@@ -70,6 +71,9 @@ bool ResultsAreOld(const Program& program);
 /// True when computed values that the project shows are not of a run of the plant as it is: it has
 /// changed since, or the last run found none.
 bool ShowsOldResults(const Program& program);
+
+/// The settings that are saved with the project.
+StoredSettings PresentSettings(const Program& program);
 
 /// Reads the pump and loss databases again, and finds the chosen component in them.
 void RereadComponents(Program& program);

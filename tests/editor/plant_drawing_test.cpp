@@ -27,6 +27,7 @@ const std::pair<Rgb, const char*> kColours[] = {{drawing_colour::kSelectedPipe, 
                                                 {drawing_colour::kKnown, "known "},
                                                 {drawing_colour::kUnknown, "unknown "},
                                                 {drawing_colour::kOld, "old "},
+                                                {drawing_colour::kBeyondLimit, "beyond "},
                                                 {drawing_colour::kNoValue, "no value "}};
 
 std::string NameOf(const DrawnElement& element) {
@@ -195,7 +196,7 @@ const KindCase kKinds[] = {
      {"known '1800' 1529,362", "unknown '7.000' 2955,1103", "arrow 1681,708 1820,639",
       "arrow 1681,570 1820,639", "arrow 2794,1264 2863,1125", "arrow 2932,1264 2863,1125"}},
     {"velocities", true, {"old '1.250' 1473,362", "old '0.040' 2955,1103"}},
-    {"losses", false, {"unknown '432.1' 1473,362", "unknown '0.000' 2955,1103"}},
+    {"losses", false, {"beyond '432.1' 1473,362", "unknown '0.000' 2955,1103"}},
     {"sizes", false, {"known '53.8 mm 12.5 m'", "known '? mm ? m'"}},
     {"numbers", true, {"known '1'", "known '2'", "known '3'"}},
 };
@@ -207,6 +208,7 @@ TEST(DataLabels, ShowAtThePipesWhatWasComputed) {
         plant.editor.computed = {
             {1, {.flow = .5, .velocity = 1.25, .lossPerMetre = 432.1, .flowGiven = true}},
             {2, {.flow = -7. / 3600, .velocity = .04}}};
+        plant.editor.limits = {.velocity = 1, .loss = 400, .lowestPressure = 1};
         plant.editor.resultsOld = c.old;
         plant.Do(std::string("show=") + c.kind);
         const Lines drawn = LinesOf(DrawingOf(plant));
@@ -222,6 +224,9 @@ TEST(DataLabels, ShowAtThePipesWhatWasComputed) {
         };
         EXPECT_EQ(count("arrow"), arrows ? 4 : 0) << c.kind;
         EXPECT_EQ(count("'"), arrows ? 2 : 3) << c.kind;
+        plant.Do("show=pressures");
+        EXPECT_THAT(LinesOf(DrawingOf(plant)),
+                    Contains(testing::StartsWith(c.old ? "old 'P1" : "beyond 'P1")));
     }
 }
 

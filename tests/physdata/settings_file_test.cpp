@@ -5,6 +5,8 @@
 
 #include <cmath>
 
+#include "base/number_text.h"
+#include "physdata/limit_texts.h"
 #include "support/temp_folder.h"
 
 namespace idrova {
@@ -14,7 +16,8 @@ using testing::HasSubstr;
 
 /// Differs from the start values in everything.
 StoredSettings AirSettings() {
-    StoredSettings stored{{}, "t4"};
+    const double bar = kPascalPerBar;
+    StoredSettings stored{{}, "t4", {2.5, 300, -.5 * bar, 6 * bar}};
     Settings& settings = stored.settings;
     settings.FluidName = "[3] Air, \"dry\"";
     settings.FluidDensity = 1.2929;
@@ -44,11 +47,16 @@ TEST(SettingsFile, ComesBackBesideItsProject) {
     Settings settings;
     settings.Mode = WorkMode::Table;
     settings.ResultsInSequence = true;
-    EXPECT_EQ(SettingsDifference(stored, settings),
+    EXPECT_EQ(SettingsDifference(stored, {settings, ""}),
               "fluid Air, \"dry\", roughness 2 mm, section rectangular, equation compressible, "
-              "temperature -10.1 \u00B0C, base pressure 2 bar, pressures in mbar");
+              "temperature -10.1 \u00B0C, base pressure 2 bar, pressures in mbar, limits: velocity "
+              "2.5 m/s, "
+              "losses 300 Pa/m, lowest pressure -0.5 bar, highest pressure 6 bar");
     UseSettings(AirSettings(), settings);
-    EXPECT_EQ(SettingsDifference(stored, settings), "") << "the number of a fluid's record is none";
+    EXPECT_EQ(SettingsDifference(stored, {settings, "", stored.limits}), "")
+        << "the number of a fluid's record is none";
+    EXPECT_EQ(SettingsDifference({settings, ""}, {settings, "", stored.limits}), "limits: none");
+    EXPECT_EQ(SettingsText({settings, ""}).find("limits"), std::string::npos);
     EXPECT_TRUE(settings.Mode == WorkMode::Table && settings.ResultsInSequence) << "do not travel";
 }
 
@@ -68,6 +76,9 @@ TEST(SettingsFile, DamageIsToldAndNeverComputedWith) {
             }
             EXPECT_GE(settings.FluidTemperature, -273.15F) << damaged;
             EXPECT_TRUE(std::isfinite(settings.BasePressure)) << damaged;
+            for (const auto& limit : {read->limits.velocity, read->limits.highestPressure}) {
+                EXPECT_TRUE(!limit || std::isfinite(*limit)) << damaged;
+            }
         }
     }
     const auto faultOf = [&](std::string_view from, std::string_view to) {
@@ -78,6 +89,18 @@ TEST(SettingsFile, DamageIsToldAndNeverComputedWith) {
     EXPECT_THAT(faultOf("section", "selection"), HasSubstr("damaged at \"section\""));
     EXPECT_THAT(faultOf("rectangular", "round"), HasSubstr("damaged at \"section\""));
     EXPECT_THAT(faultOf("0.98", "\"0.98\""), HasSubstr("damaged at \"compressibility\""));
+}
+
+TEST(LimitTexts, AreNumbersOrEmptyInTheUnitShown) {
+    const double millibar = DecimalDouble(kPascalPerMilliBar);
+    const auto limits = ReadLimits({"2", " ", "-.5", "3000"}, millibar);
+    ASSERT_TRUE(limits);
+    EXPECT_EQ(*limits, (Limits{2, {}, -.5 * millibar, 3000 * millibar}));
+    const LimitTexts shown = ShowLimits(*limits, kPascalPerBar);
+    EXPECT_EQ(shown.velocity + "|" + shown.loss + "|" + shown.lowestPressure + "|" +
+                  shown.highestPressure,
+              "2||-.0005|3");
+    EXPECT_FALSE(ReadLimits({"2", "", "", "3 bar"}, kPascalPerBar));
 }
 
 }  // namespace

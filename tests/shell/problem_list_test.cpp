@@ -3,16 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/table_results.h"
 #include "support/networks.h"
 
 namespace idrova {
 namespace {
 
 /// The caption and the rows or elements of the notes.
-std::string Shown(Project& project, const RunRecord* last) {
+std::string Shown(Project& project, const RunRecord* last, const Limits& limits = {}) {
     TableTexts texts;
     FillTable(project, texts);
-    const ProblemView view = ShowProblems(project, texts, last);
+    const ProblemView view = ShowProblems(project, texts, last, limits);
     std::string text = view.caption;
     for (const Note& note : view.notes) {
         text += (note.on == NoteOn::Row ? "; row " : "; ") + std::to_string(note.number);
@@ -40,6 +41,12 @@ TEST(ProblemList, ShowsTheRunWhileItIsCurrentElseWhatIsMissing) {
         << "no length, and an open end";
     last.inputs = InputsOf(*network);
     EXPECT_EQ(Shown(*network, &last), "Computed, 1 note; row 2");
+    CopyNetwork(*network, last.results.emplace());
+    const Limits limits{.highestPressure = 2.5e5};
+    EXPECT_EQ(Shown(*network, &last, limits), "Computed, 2 notes; row 2; row 1");
+    const RowResults rows = ShowRowResults(*network, &last, limits);
+    EXPECT_TRUE(rows.IsBeyond(2, kTableColumns + 3) && !rows.IsBeyond(3, kTableColumns + 4));
+    last.results.reset();
     network->TableRows[3].EndPoint = 7;
     EXPECT_EQ(Shown(*network, &last), "Cannot be computed yet; row 2");
     network->settings.Mode = WorkMode::SinglePipe;

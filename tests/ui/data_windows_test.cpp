@@ -4,6 +4,7 @@
 #include <set>
 
 #include "main_window.h"
+#include "physdata/messages.h"
 #include "results/messages.h"
 #include "table/messages.h"
 
@@ -35,6 +36,7 @@ TEST_F(MainWindow, DataWindowOpensOnceIsUsedByKeyboardAndClosesByEscape) {
                    {"Veloce", "FrmVel", "Idrova - fast data", ""},
                    {"Editor", "FrmCon", "Idrova - Configuration", "Command1"},
                    {"Temperatura", "FrmPMin", "Idrova - calculation data", "Command1"},
+                   {"Limits", "FrmLim", "Idrova - limits", "Command1"},
                    {"PresMini", "FrmPMin", "Idrova - calculation data", "Command1"}};
     for (const auto& c : windows) {
         SCOPED_TRACE(c.item);
@@ -81,6 +83,11 @@ TEST_F(MainWindow, TypedSettingsAreTaken) {
             Text1=3;Text2=cold;Command1)");
     EXPECT_EQ(project.settings.BasePressure, 303975);
     EXPECT_EQ(project.settings.FluidTemperature, 0);
+
+    boxes.Expect(kLimitIsNoNumber);
+    Walk(R"(Limits>FrmLim;Text1=2;Text4=high;Command1 # Text4 # high
+            Text4=3;Command1 # FrmLim #)");
+    EXPECT_EQ(program->limits, (Limits{.velocity = 2, .highestPressure = 303975}));
 
     project.numtubo = project.CurrentPipe = 1;
     boxes.Expect(kCancelLengths, Answer::No);

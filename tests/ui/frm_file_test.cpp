@@ -136,13 +136,13 @@ TEST_F(FileWindow, AnotherProjectTakesThePlaceOfTheOpenOne) {
 
 TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
     ASSERT_TRUE(WriteProject(project, folder / "gas.iv"));
-    StoredSettings stored{project.settings, "t4"};
+    StoredSettings stored{project.settings, "t4", {.velocity = 2}};
     stored.settings.FluidTemperature = 20;
     stored.settings.Roughness = .002;
     ASSERT_TRUE(WriteSettingsOf(folder / "gas.iv", stored));
     const auto open = [&] { OpenFile(*mdi, folder / "gas.iv"); };
     open();
-    EXPECT_TRUE(Shown("SettingsOffer").endsWith("roughness 2 mm, temperature 20 °C"));
+    EXPECT_TRUE(Shown("SettingsOffer").endsWith("2 mm, temperature 20 °C, limits: velocity 2 m/s"));
     EXPECT_EQ(project.settings.FluidTemperature, 0);
     boxes.Expect(kOverwriteFile, Answer::Yes);
     Walk(R"(Salva # SettingsBar? # 1
@@ -150,7 +150,7 @@ TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
     open();
     Walk(R"(# SettingsBar? # 1 # a save before the choice has left them alone
             SettingsUse # SettingsBar? RoughnessLabel # 0|partially rusty...  2.00E-3)");
-    EXPECT_EQ(project.settings, stored.settings);
+    EXPECT_EQ(PresentSettings(*program), stored);
     boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kLeaveProject, Answer::Ok);
     Do("Rettangolare;Salva");
     EXPECT_EQ((*ReadSettingsOf(folder / "gas.iv"))->settings.SectionType, Section::Rectangular);

@@ -36,7 +36,7 @@ void LabelItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*optio
     painter->setPen(QPen(drawing_style::kLabelFrame, 0));
     painter->setBrush(ToQt(background_));
     painter->drawRect(box_);
-    painter->setPen(Qt::black);
+    painter->setPen(ToQt(InkOn(background_)));
     painter->setFont(LabelFont());
     painter->drawStaticText(QPointF(kPadding, 0), text_);
 }

@@ -26,6 +26,7 @@
 #include "ui/program.h"
 #include "ui/windows/frm_con.h"
 #include "ui/windows/frm_flu.h"
+#include "ui/windows/frm_lim.h"
 #include "ui/windows/frm_logo.h"
 #include "ui/windows/frm_percon.h"
 #include "ui/windows/frm_pmin.h"
@@ -144,6 +145,7 @@ void AttachDataWindows(MDI& mdi) {
     AttachWindow<FrmRug>(mdi, "tt", "FrmRug");
     AttachWindow<FrmVel>(mdi, "Veloce", "FrmVel");
     AttachWindow<FrmCon>(mdi, "Editor", "FrmCon");
+    AttachWindow<FrmLim>(mdi, "Limits", "FrmLim");
     AttachWindow<FrmPMin>(mdi, "PresMini", "FrmPMin");
     mdi.Menu().Attach("Temperatura", [&mdi] {
         ChildWindow* window =

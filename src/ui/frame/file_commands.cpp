@@ -71,7 +71,7 @@ void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folde
         mdi.Recent().Add(program.project.ProjectName);
     }
     program.offered = ReadSettingsOf(program.project.ProjectName);
-    if (SettingsOffer(program.offered, program.project.settings).empty()) program.offered.reset();
+    if (SettingsOffer(program.offered, PresentSettings(program)).empty()) program.offered.reset();
 }
 
 /// Puts the settings beside the project that was saved. While others are on offer they stay.
@@ -79,8 +79,7 @@ void FinishSaving(MDI& mdi) {
     Program& program = mdi.State();
     mdi.Recent().Add(program.project.ProjectName);
     if (program.offered) return;
-    const Status written = WriteSettingsOf(program.project.ProjectName,
-                                           {program.project.settings, program.shell.roughnessItem});
+    const Status written = WriteSettingsOf(program.project.ProjectName, PresentSettings(program));
     if (!written) program.boxes.Show(SaveFailed(written.Error()));
 }
 

@@ -18,6 +18,7 @@
 #include "model/version.h"
 #include "physdata/fluids.h"
 #include "projectfile/unsaved_copy.h"
+#include "results/limit_notes.h"
 #include "shell/messages.h"
 #include "ui/drawing/frm_cel.h"
 #include "ui/frame/commands.h"
@@ -156,7 +157,7 @@ void MDI::ShowState() {
 void MDI::ShowOutcome() {
     const RunRecord* record = RecordOf(program_);
     if (record == nullptr) return statusLine_->HideOutcome();
-    statusLine_->ShowOutcome(record->outcome,
+    statusLine_->ShowOutcome(HeldAgainst(program_.limits, *record),
                              ResultsAreOld(program_) ? ResultAge::OutOfDate : ResultAge::Current);
 }
 

@@ -30,7 +30,7 @@ SettingsBar::SettingsBar(Program& program)
 }
 
 void SettingsBar::ShowState() {
-    const std::string words = SettingsOffer(program_.offered, program_.project.settings);
+    const std::string words = SettingsOffer(program_.offered, PresentSettings(program_));
     offer_->setText(ToQt(words));
     use_->setVisible(program_.offered && *program_.offered);
     setVisible(!words.empty());
@@ -42,6 +42,7 @@ void SettingsBar::Use() {
     program_.offered.reset();
     UseSettings(stored, program_.project.settings);
     program_.shell.roughnessItem = stored.roughnessItem;
+    program_.limits = stored.limits;
     FillTable(program_.project, program_.table);  // its pressures have a unit
     program_.changed();
 }

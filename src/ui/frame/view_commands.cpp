@@ -100,6 +100,7 @@ void ShowView(Program& program) {
     program.shell.coloursItem = ItemOf(editor.colours);
     if (program.project.settings.Mode != WorkMode::Graphic) return;
     editor.resultsOld = ShowsOldResults(program);
+    editor.limits = program.limits;
     editor.computed = ComputedPipes(program.project, RecordOf(program));
 }
 

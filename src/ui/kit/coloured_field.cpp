@@ -32,6 +32,10 @@ QColor GroundColour(const QPalette& theme, FieldGround ground) {
 
 }  // namespace
 
+QColor BeyondLimitColour() {
+    return IsDark(QApplication::palette()) ? QColor(0xFF, 0x7A, 0x70) : QColor(0xC0, 0, 0);
+}
+
 QColor OldResultColour(const QColor& text, const QColor& ground) {
     return {(text.red() + ground.red()) / 2, (text.green() + ground.green()) / 2,
             (text.blue() + ground.blue()) / 2};

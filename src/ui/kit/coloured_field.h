@@ -38,6 +38,9 @@ class ComputedField : public ColouredField {
     void Show(const std::string& text, bool old);
 };
 
+/// Of a value beyond a limit, in the theme of the program.
+QColor BeyondLimitColour();
+
 /// Half way from the text's colour to that of its ground.
 QColor OldResultColour(const QColor& text, const QColor& ground);
 

@@ -35,7 +35,8 @@ void FrmTable::ShowState() {
     program_.tableModel.ShowState();
     const auto record = program_.records.find(WorkMode::Table);
     const RowResults results = ShowRowResults(
-        program_.project, record == program_.records.end() ? nullptr : &record->second);
+        program_.project, record == program_.records.end() ? nullptr : &record->second,
+        program_.limits);
     TxtTab->ShowResultColumns(!results.isEmpty);
     program_.tableModel.ShowResults(results);
     gap_->ShowGap(NoteOfGap(program_.project, program_.table));

@@ -7,6 +7,7 @@
 
 #include "table/table_edit.h"
 #include "table/table_rows.h"
+#include "ui/kit/coloured_field.h"
 #include "ui/kit/qt_text.h"
 
 namespace idrova {
@@ -95,7 +96,8 @@ QVariant TableModel::Result(int row, int column, int role) const {
         case Qt::DisplayRole:
             return ToQt(results_.At(row, column));
         case Qt::ForegroundRole:
-            return results_.outOfDate ? QVariant(kOutOfDate) : QVariant();
+            if (results_.outOfDate) return kOutOfDate;
+            return results_.IsBeyond(row, column) ? QVariant(BeyondLimitColour()) : QVariant();
         case Qt::BackgroundRole:
             return kResultGround;
         case Qt::TextAlignmentRole:

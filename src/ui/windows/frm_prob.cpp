@@ -44,7 +44,8 @@ void FrmProb::Open() {
 
 void FrmProb::ShowState() {
     if (isHidden()) return;
-    const ProblemView view = ShowProblems(program_.project, program_.table, RecordOf(program_));
+    const ProblemView view =
+        ShowProblems(program_.project, program_.table, RecordOf(program_), program_.limits);
     if (view == shown_) return;
     shown_ = view;
     caption_->setText(ToQt(view.caption));

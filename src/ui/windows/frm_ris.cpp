@@ -10,6 +10,7 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include "results/limit_notes.h"
 #include "shell/outcome_notes.h"
 #include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
@@ -25,9 +26,11 @@ namespace {
 
 constexpr std::array<const char*, 3> kTabs = {"Pipes", "Points", "Components"};
 
-QString StateText(const RunRecord* record, bool old) {
+QString StateText(const RunRecord* record, const Limits& limits, bool old) {
     if (record == nullptr) return "Not computed yet";
-    return ToQt(ShowOutcome(record->outcome, old ? ResultAge::OutOfDate : ResultAge::Current).text);
+    return ToQt(
+        ShowOutcome(HeldAgainst(limits, *record), old ? ResultAge::OutOfDate : ResultAge::Current)
+            .text);
 }
 
 }  // namespace
@@ -82,16 +85,18 @@ void FrmRis::ShowState() {
 void FrmRis::ShowTables() {
     const RunRecord* record = RecordOf(program_);
     const bool old = ResultsAreOld(program_);
-    state_->setText(StateText(record, old));
+    state_->setText(StateText(record, program_.limits, old));
     if (record == nullptr || !record->results) {
         for (Tab& tab : tables_) tab.model.Show({}, old);
         return;
     }
     const WorkNetwork& results = *record->results;
     const Settings& settings = record->settings;
-    tables_[0].model.Show(PipeTable(settings, results), old);
-    tables_[1].model.Show(PointTable(settings, results, program_.project.settings.PressureUnit),
-                          old);
+    ResultTable pipes = PipeTable(settings, results);
+    ResultTable points = PointTable(settings, results, program_.project.settings.PressureUnit);
+    for (ResultTable* table : {&pipes, &points}) MarkBeyond(program_.limits, *table);
+    tables_[0].model.Show(std::move(pipes), old);
+    tables_[1].model.Show(std::move(points), old);
     tables_[2].model.Show(ComponentTable(results), old);
 }
 

@@ -29,7 +29,8 @@ bool LookAlike(const ResultTable& one, const ResultTable& other) {
         return a == b || (IsNoNumber(a) && IsNoNumber(b));
     };
     const auto sameRow = [&](const ResultRow& a, const ResultRow& b) {
-        return a.number == b.number && std::ranges::equal(a.cells, b.cells, sameCell);
+        return a.number == b.number && a.beyond == b.beyond &&
+               std::ranges::equal(a.cells, b.cells, sameCell);
     };
     return std::ranges::equal(one.columns, other.columns, sameColumn) &&
            std::ranges::equal(one.rows, other.rows, sameRow);
@@ -80,14 +81,22 @@ QVariant ResultModel::data(const QModelIndex& index, int role) const {
         case Qt::TextAlignmentRole:
             return int(Qt::AlignVCenter |
                        (std::holds_alternative<double>(cell) ? Qt::AlignRight : Qt::AlignLeft));
-        case Qt::ForegroundRole: {
-            if (!old_) return {};
-            const QPalette theme = QApplication::palette();
-            return OldResultColour(theme.color(QPalette::Text), theme.color(QPalette::Base));
-        }
+        case Qt::ForegroundRole:
+            return Colour(index);
         default:
             return {};
     }
+}
+
+QVariant ResultModel::Colour(const QModelIndex& index) const {
+    if (old_) {
+        const QPalette theme = QApplication::palette();
+        return OldResultColour(theme.color(QPalette::Text), theme.color(QPalette::Base));
+    }
+    const auto& beyond = table_.rows[static_cast<std::size_t>(index.row())].beyond;
+    const auto column = static_cast<std::size_t>(index.column());
+    if (std::ranges::find(beyond, column) == beyond.end()) return {};
+    return BeyondLimitColour();
 }
 
 QVariant ResultModel::headerData(int section, Qt::Orientation orientation, int role) const {

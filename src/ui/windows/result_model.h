@@ -13,7 +13,7 @@ class ResultModel : public QAbstractTableModel {
     static constexpr int kSortRole = Qt::UserRole;
 
     /// A table equal to the one that is shown changes nothing, so that views keep place and
-    /// selection. Old results are grey.
+    /// selection. Old results are grey, those beyond a limit red.
     void Show(ResultTable table, bool old);
 
     NoteOn About() const { return table_.about; }
@@ -28,6 +28,8 @@ class ResultModel : public QAbstractTableModel {
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   private:
+    QVariant Colour(const QModelIndex& index) const;
+
     ResultTable table_;
     bool old_ = false;
 };
