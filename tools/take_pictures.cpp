@@ -114,7 +114,7 @@ class Studio {
 
     void Click(int column, int row, MouseButton button = MouseButton::Left) {
         Find<PlantView>("Drawing").press(CellAt(column, row, program_->project.GridSize), button,
-                                         false);
+                                         HeldKey::None);
     }
 
     /// The right click on an empty cell gives the panel its frames back.
