@@ -51,7 +51,9 @@ TEST_F(DrawingWindow, IsUsedByKeyboardToo) {
     boxes.Expect(AskDeletePipe(1));
     keys("Del Home Return End Return");
     EXPECT_EQ(CellsOf(project, 2), (std::pair{101, 150}));
-    keys("Home Menu Ctrl+Menu");
+    keys("Down");
+    EXPECT_EQ(Shown("message"), "Column 50, row 4 (cell 200)");
+    keys("Up Home Menu Ctrl+Menu");
     EXPECT_EQ(project.CurrentPipe, 0) << "taken out of the selection";
     Do("L9,9");  // the mouse takes the cursor along
     keys("Down Return");

@@ -21,7 +21,9 @@ class CommandPanel : public DrawingWindow {
 
 TEST_F(CommandPanel, EveryBoxReachesItsFieldAndMayBeRefused) {
     Walk(R"(Rettangolare # LabelSideA Combo2? # a [mm]|0
-            Option6_1;Option1_1;Option2_1;Text12:3600)");
+            Option6_1 # enabled Text12 Text13 Text10 Text9 # Text12 Text13
+            Option1_1;Option2_1 # enabled Text10 Text9 # Text10 Text9
+            Text12:3600)");
     EXPECT_EQ(pipe.FlowRate, 1);
     Walk(R"(
         LossSum:.75;Text13:1.8;Text6:12.5;Text7:500;Text8:250;Text5:3;Text11:4;Text10:2;Text9:1

@@ -44,7 +44,7 @@ TEST_F(FileWindow, SavesUnderTheTypedNameAndSavesThereAgain) {
     boxes.Expect(kNameNotAllowed)
         .Expect(SaveFailed((folder / "taken.iv").string() + " is a folder"));
     Walk(R"(
-        Salva>FrmFile # FrmFile # Idrova - Save project
+        Salva>FrmFile # FrmFile Command1 # Idrova - Save project|Save
         Text3=a/ # Text3 #
         Text3=taken;Text4=two loops;Text4!;Salva2 # Text3 Text4 # taken|two loops # all stays
         Text3=plant # Text2 # )" +
