@@ -96,7 +96,7 @@ TEST_F(TableWindow, IsASoundModelTypedWithTabAndEnter) {
     EXPECT_EQ(project.TableRows[3].StartPressure, 151987.5F) << "as row 2 has it";
     Keys(2, kLossSum, "\t");
     EXPECT_EQ(Shown("cursor"), "3.1");
-    Keys(100, kLossSum, "\t");
+    Keys(100, kLossSum, "5\t");
     EXPECT_EQ(Shown("cursor"), "100.11") << "there is no cell behind it";
     Keys(2, kEndPressure, "#5\n");
     EXPECT_EQ(Shown("2.4"), "5") << "F2 edits the cell";
