@@ -2,6 +2,7 @@
 #include "editor/panel_edits.h"
 
 #include "base/number_text.h"
+#include "base/typed_size.h"
 #include "editor/messages.h"
 #include "model/pipe_sizes.h"
 
@@ -22,13 +23,10 @@ PointPanel& PanelOf(PipePanel& panel, PipeEnd end) {
     return end == PipeEnd::Start ? panel.start : panel.end;
 }
 
-/// Takes `text` into a box that allows no negative number; returns the number. A negative one
-/// becomes "0", and so does what is typed on behind that.
+/// Takes `text` into a box that allows no negative number; returns the number.
 double TakeSize(PipePanel& panel, std::string& box, std::string_view text) {
-    const double value = ReadNumber(text);
-    panel.negative = value < 0 || (panel.negative && text.starts_with('0'));
-    box = panel.negative ? "0" : text;
-    return panel.negative ? 0 : value;
+    box = TypedSize(text, panel.negative);
+    return ReadNumber(box);
 }
 
 /// Nothing was typed yet where the record still holds 0.

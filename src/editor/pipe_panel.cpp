@@ -100,6 +100,8 @@ void ShowHeights(const Project& project, PipePanel& panel) {
 PipePanel ShowPipeData(const Project& project, const Editor& editor) {
     PipePanel panel;
     panel.caption = "Pipe";
+    panel.start.heightLabel = "Z1 [m]";
+    panel.end.heightLabel = "Z2 [m]";
     panel.unitLabel = PressureUnitLabel(project.settings.PressureUnit);
     panel.section = DisplayOf(project.settings.SectionType);
     if (project.settings.Mode == WorkMode::Graphic) panel.pipes = SelectedPipes(project, editor);

@@ -43,8 +43,4 @@ void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxe
     }
 }
 
-std::string FastSizeText(std::string_view text) {
-    return ReadNumber(text) < 0 ? "0" : std::string(text);
-}
-
 }  // namespace idrova

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string>
 #include <string_view>
 
 #include "base/message_boxes.h"
@@ -18,9 +17,5 @@ void SetAllFlowRates(Project& project, std::string_view text, MessageBoxes& boxe
 void SetAllLengths(Project& project, std::string_view text, MessageBoxes& boxes);
 /// `text` in mm; the outside size stays.
 void SetAllDiameters(Project& project, std::string_view text, MessageBoxes& boxes);
-
-/// What the length or diameter field shows once `text` was typed: "0" in the place of a negative
-/// number.
-std::string FastSizeText(std::string_view text);
 
 }  // namespace idrova

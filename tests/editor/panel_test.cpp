@@ -67,8 +67,8 @@ TEST(Panel, IsEmptyWithoutAPipe) {
     PipePlant plant;
     plant.Do("R9,9 again");
     EXPECT_EQ(plant.panel.caption, "Pipe");
-    EXPECT_EQ(plant.panel.innerSize + plant.panel.start.caption + plant.panel.computedKgPerHour,
-              "");
+    EXPECT_EQ(plant.panel.innerSize + plant.panel.start.caption + plant.panel.start.heightLabel,
+              "Z1 [m]");
     const PipePanel empty = plant.panel;
     const std::string before = ProjectFileText(plant.project);
     for (const auto& [name, edit] : plant.edits) edit("1");

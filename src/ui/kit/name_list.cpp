@@ -4,7 +4,9 @@
 #include <QLineEdit>
 #include <QSignalBlocker>
 
+#include "base/number_text.h"
 #include "model/pipe_sizes.h"
+#include "model/settings.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/qt_text.h"
 #include "ui/kit/text_field.h"
@@ -43,6 +45,14 @@ QComboBox* SizeList(const char* name, QWidget* parent) {
     auto* list = Named(new QComboBox(parent), name);
     AddSizes(*list);
     return list;
+}
+
+void ShowSizeOf(const QLineEdit& diameter, QComboBox& sizes) {
+    QObject::connect(&diameter, &QLineEdit::textChanged, &sizes, [&sizes](const QString& text) {
+        const QSignalBlocker silent(sizes);
+        const double millimetres = ReadNumber(FromQt(text));
+        sizes.setCurrentIndex(NominalSizeOf(ToSingle(millimetres / kMillimetresPerMetre)) - 1);
+    });
 }
 
 void OnChosen(QComboBox& list, const std::function<void(int)>& chosen) {

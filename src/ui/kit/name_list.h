@@ -26,6 +26,9 @@ void AddSizes(QComboBox& list);
 /// A list of the nominal sizes, none chosen.
 QComboBox* SizeList(const char* name, QWidget* parent = nullptr);
 
+/// From now on the list shows the nominal size of the diameter (mm) that stands in the field.
+void ShowSizeOf(const QLineEdit& diameter, QComboBox& sizes);
+
 /// Calls `chosen` with the position of an entry each time one is chosen, also when it is the one
 /// that was chosen before. May call it twice for one choice.
 void OnChosen(QComboBox& list, const std::function<void(int)>& chosen);

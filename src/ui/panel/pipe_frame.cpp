@@ -30,8 +30,8 @@ PipeFrame::PipeFrame(PanelContext& context)
       nominalLabel_(Named(LabelFor(sizes_, "Diameter \""), "LabelNominal")),
       firstSideLabel_(Named(LabelFor(innerSize_, "Diameter [mm]"), "LabelSideA")),
       secondSideLabel_(Named(LabelFor(outerSize_, "b [mm]"), "LabelSideB")),
-      startHeightLabel_(LabelFor(startHeight_, "Z1 [m]")),
-      endHeightLabel_(LabelFor(endHeight_, "Z2 [m]")) {
+      startHeightLabel_(LabelFor(startHeight_, {})),
+      endHeightLabel_(LabelFor(endHeight_, {})) {
     Named(this, "Frame3");
     OnChosen(*sizes_, [this](int position) {
         ChoosePipeSize(context_.program.project, context_.panel, position + 1);
@@ -80,10 +80,8 @@ void PipeFrame::Show() {
     lossSum_->Show(panel.lossSum);
     startHeight_->Show(panel.start.height);
     endHeight_->Show(panel.end.height);
-    if (!panel.pipes.empty()) {
-        startHeightLabel_->setText(ToQt(panel.start.heightLabel));
-        endHeightLabel_->setText(ToQt(panel.end.heightLabel));
-    }
+    startHeightLabel_->setText(ToQt(panel.start.heightLabel));
+    endHeightLabel_->setText(ToQt(panel.end.heightLabel));
     const QSignalBlocker silent(sizes_);
     sizes_->setCurrentIndex(panel.nominalSize - 1);
     ShowSection();

@@ -33,12 +33,10 @@ int HeaderMargin(const QHeaderView& header) {
 }
 
 /// The width of a column, given in screen units. Where a word of its header is wider than that,
-/// as "diameter" is in most fonts, the column is just wide enough for the word. Results have the
-/// widths of flow rates and pressures.
+/// as "diameter" is in most fonts, the column is just wide enough for the word. Results are as wide
+/// as a flow rate.
 int ColumnWidth(const QHeaderView& header, int column, const QString& words) {
-    const int result =
-        column == kTableColumns ? table_column::kFlowRate : table_column::kStartPressure;
-    const int listed = column < kTableColumns ? column : result;
+    const int listed = column < kTableColumns ? column : table_column::kFlowRate;
     int widest = 0;
     for (const QString& word : words.split(' ')) {
         widest = std::max(widest, header.fontMetrics().horizontalAdvance(word));

@@ -116,6 +116,7 @@ void FrmSin::LayOut() {
     AddComputed(*grid, 6, "losses [Pa/m]", dropPerMetre_);
     AddDiameterList(*grid, 7);
     AddQuantity(*grid, 8, PipeQuantity::Diameter);
+    ShowSizeOf(*Of(PipeQuantity::Diameter).box, *sizes_);
     grid->addWidget(LabelFor(lossSum_, "ΣK of fittings"), 9, kCaption);
     grid->addWidget(FittingRow(lossSum_, [this] { PickLosses(); }), 9, kBox);
     connect(lossSum_, &QLineEdit::textChanged, this, [this] { TakeLossSum(); });

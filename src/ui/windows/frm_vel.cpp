@@ -7,23 +7,38 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/typed_size.h"
 #include "model/pipe_sizes.h"
 #include "table/fast_settings.h"
 #include "ui/kit/controls.h"
 #include "ui/kit/form_parts.h"
 #include "ui/kit/name_list.h"
 #include "ui/kit/qt_text.h"
+#include "ui/kit/text_field.h"
 #include "ui/program.h"
 
 namespace idrova {
 
 namespace {
 
-void Tidy(QLineEdit& box) {
-    const QString text = ToQt(FastSizeText(FromQt(box.text())));
-    // The same text put again would take the cursor to its end and forget what can be undone.
-    if (text != box.text()) box.setText(text);
-}
+/// A box that takes no negative number.
+class SizeField : public SelectingField {
+  public:
+    explicit SizeField(const char* name) {
+        Named(this, name);
+        connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { Take(text); });
+        connect(this, &QLineEdit::editingFinished, this, [this] { negative_ = false; });
+    }
+
+  private:
+    void Take(const QString& text) {
+        const QString shown = ToQt(TypedSize(FromQt(text), negative_));
+        // The same text put again would take the cursor to its end and forget what can be undone.
+        if (shown != text) setText(shown);
+    }
+
+    bool negative_ = false;
+};
 
 }  // namespace
 
@@ -31,16 +46,14 @@ FrmVel::FrmVel(Program& program)
     : ChildWindow("FrmVel", "Idrova - fast data"),
       program_(program),
       flow_(TextField("Text1")),
-      length_(TextField("Text2")),
+      length_(new SizeField("Text2")),
       sizes_(SizeList("Combo2")),
-      diameter_(TextField("Text3")) {
+      diameter_(new SizeField("Text3")) {
     auto* column = new QVBoxLayout(this);
     column->addLayout(Rows());
     column->addStretch(1);
+    ShowSizeOf(*diameter_, *sizes_);
     OnChosen(*sizes_, [this](int position) { ChooseSize(position); });
-    for (QLineEdit* box : {length_, diameter_}) {
-        connect(box, &QLineEdit::textChanged, this, [box] { Tidy(*box); });
-    }
     setFocusProxy(flow_);
 }
 
