@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QGraphicsItem>
 #include <QGraphicsScene>
 #include <QGraphicsView>
+#include <algorithm>
 
 #include "main_window.h"
 #include "model/grid.h"
 #include "physdata/record_db.h"
+#include "ui/drawing/plant_scene.h"
 #include "ui/panel/frm_com.h"
 
 namespace idrova {
@@ -54,13 +55,10 @@ class DrawingWindow : public MainWindow {
 
     void Select(int column, int row) { Click(column, row, Qt::RightButton); }
 
-    /// Pipe lines on the scene.
     int LinesDrawn() {
-        int lines = 0;
-        for (const QGraphicsItem* item : View().scene()->items()) {
-            lines += static_cast<int>(item->data(0).isValid());
-        }
-        return lines;
+        const auto& scene = dynamic_cast<const PlantScene&>(*View().scene());
+        return static_cast<int>(
+            std::ranges::count(scene.Shown().elements, ElementKind::PipeLine, &DrawnElement::kind));
     }
 };
 

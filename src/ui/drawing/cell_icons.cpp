@@ -61,9 +61,4 @@ void CellIcons::Paint(QPainter& painter, const QRectF& place, const std::string&
     painter.restore();
 }
 
-void IconItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
-                     QWidget* /*widget*/) {
-    icons_.Paint(*painter, place_, file_);
-}
-
 }  // namespace idrova

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QGraphicsItem>
 #include <QIcon>
 #include <QRectF>
 #include <filesystem>
 #include <map>
 #include <string>
-#include <string_view>
 
 class QPainter;
 
@@ -28,21 +26,6 @@ class CellIcons {
 
     const std::filesystem::path folder_;
     std::map<std::string, QIcon> icons_;
-};
-
-/// One component on the drawing.
-class IconItem : public QGraphicsItem {
-  public:
-    IconItem(CellIcons& icons, const QRectF& place, std::string_view file)
-        : icons_(icons), place_(place), file_(file) {}
-
-    QRectF boundingRect() const override { return place_; }
-    void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
-
-  private:
-    CellIcons& icons_;
-    const QRectF place_;
-    const std::string file_;
 };
 
 }  // namespace idrova
