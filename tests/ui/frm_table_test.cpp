@@ -25,7 +25,7 @@ class TableWindow : public MainWindow {
     /// "5.2=1.5" puts a text into row 5, column 2, "5.2" and "5.2-6.4" select cells, "Fill down"
     /// runs this command of the table.
     void Take(const QString& step) override {
-        static const QRegularExpression form("^(\\d+)\\.(\\d+)(?:-(\\d+)\\.(\\d+))?(=.*)?$");
+        static const QRegularExpression form(R"(^(\d+)\.(\d+)(?:-(\d+)\.(\d+))?(=.*)?$)");
         if (Window("FrmTable") == nullptr) return MainWindow::Take(step);
         for (QAction* action : View().actions()) {
             if (action->text().remove('&') == step) return action->trigger();
@@ -43,7 +43,7 @@ class TableWindow : public MainWindow {
 
     /// Of "5.2" the text in row 5, column 2; of "cursor" where it stands.
     QString TextOf(const QString& name) override {
-        static const QRegularExpression form("^(\\d+)\\.(\\d+)$");
+        static const QRegularExpression form(R"(^(\d+)\.(\d+)$)");
         const QRegularExpressionMatch part = form.match(name);
         const QModelIndex at = View().currentIndex();
         if (name == "cursor") return QString("%1.%2").arg(at.row() + 2).arg(at.column());
