@@ -8,8 +8,8 @@ namespace idrova {
 /// True when the record of the last run, null for none, was made of the project as it is.
 bool IsUpToDate(const RunRecord* record, const Project& project);
 
-/// True when the computed values that the project holds are those of an up-to-date record. Without
-/// a record, as after a file was opened, nothing tells what they were computed from.
-bool HasCurrentResults(const RunRecord* record, const Project& project);
+/// True when computed values of the project are not those of an up-to-date record. Without a
+/// record, as after a file was opened, nothing tells what they were computed from.
+bool HoldsOldResults(const RunRecord* record, const Project& project);
 
 }  // namespace idrova

@@ -17,7 +17,7 @@ bool ResultsAreOld(const Program& program) {
 }
 
 bool ShowsOldResults(const Program& program) {
-    return !HasCurrentResults(RecordOf(program), program.project);
+    return HoldsOldResults(RecordOf(program), program.project);
 }
 
 StoredSettings PresentSettings(const Program& program) {

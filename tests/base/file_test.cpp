@@ -46,6 +46,7 @@ TEST(WriteWholeFile, KeepsTheOldFileOnAFullDiskAndWithoutPermission) {
         ASSERT_FALSE(SavesInChild(path, fresh, limit)) << limit;
         ASSERT_EQ(FileBytes(path), "old") << limit;
     }
+    EXPECT_TRUE(SavesInChild(path, "x"));
     EXPECT_TRUE(SavesInChild(path, fresh, fresh.size()));
     fs::permissions(path, fs::perms{0444});
     EXPECT_FALSE(SavesInChild(path, "new"));

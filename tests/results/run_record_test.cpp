@@ -64,10 +64,22 @@ TEST(RunRecord, ResultsAreOutOfDateWhenWhatTheyDependOnDiffers) {
         record.inputs = InputsOf(*network);
         c.change(*network);
         EXPECT_EQ(IsUpToDate(&record, *network), !c.outOfDate) << c.what;
-        EXPECT_FALSE(HasCurrentResults(&record, *network)) << "a run without results";
+        EXPECT_TRUE(HoldsOldResults(&record, *network)) << "a run without results";
         record.results.emplace();
-        EXPECT_EQ(HasCurrentResults(&record, *network), !c.outOfDate) << c.what;
-        EXPECT_FALSE(HasCurrentResults(nullptr, *network)) << "opened, not computed";
+        EXPECT_EQ(HoldsOldResults(&record, *network), c.outOfDate) << c.what;
+    }
+}
+
+TEST(RunRecord, ResultsWithoutARecordAreOld) {
+    NetworkBuilder network(3);
+    network.SetFlow(network.AddPipe(1, 2), 1);
+    network.AddPipe(2, 3);
+    network.SetPressure(1, 1e5F);
+    EXPECT_FALSE(HoldsOldResults(nullptr, *network)) << "drawn, not yet computed";
+    for (float* value : {&network->Pipes[2].FlowRate, &network->Points[2].Pressure}) {
+        *value = -5;
+        EXPECT_TRUE(HoldsOldResults(nullptr, *network)) << "opened";
+        *value = 0;
     }
 }
 
