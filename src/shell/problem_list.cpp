@@ -8,13 +8,14 @@
 #include "hydraulics/work_network.h"
 #include "results/limit_notes.h"
 #include "results/result_age.h"
+#include "table/table_checks.h"
 #include "table/table_columns.h"
 #include "table/table_network.h"
 
 namespace idrova {
 namespace {
 
-std::vector<Note> PresentProblems(Project& project, const TableTexts& texts) {
+std::vector<Note> WhatIsMissing(Project& project, const TableTexts& texts) {
     if (project.settings.Mode == WorkMode::SinglePipe) return {};
     const auto work = std::make_unique<WorkNetwork>();
     if (project.settings.Mode == WorkMode::Graphic) {
@@ -23,6 +24,15 @@ std::vector<Note> PresentProblems(Project& project, const TableTexts& texts) {
         return std::move(refusal->notes);
     }
     return ProblemsOf(project.settings, *work);
+}
+
+ProblemView PresentProblems(Project& project, const TableTexts& texts) {
+    ProblemView view{"Not yet computed", WhatIsMissing(project, texts)};
+    if (!view.notes.empty()) view.caption = "Cannot be computed yet";
+    if (project.settings.Mode == WorkMode::Table) {
+        for (Note& note : TableNotes(project, texts)) view.notes.push_back(std::move(note));
+    }
+    return view;
 }
 
 int FirstRowOf(const Project& project, int point) {
@@ -49,8 +59,7 @@ ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRec
         Outcome outcome = HeldAgainst(limits, *last);
         view = {OutcomeLine(outcome), std::move(outcome.notes)};
     } else {
-        view.notes = PresentProblems(project, texts);
-        view.caption = view.notes.empty() ? "Not yet computed" : "Cannot be computed yet";
+        view = PresentProblems(project, texts);
     }
     if (project.settings.Mode != WorkMode::Table) return view;
     for (Note& note : view.notes) note = OnRow(project, std::move(note));
