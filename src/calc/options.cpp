@@ -2,6 +2,8 @@
 #include "calc/options.h"
 
 #include <CLI/CLI.hpp>
+#include <set>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -151,6 +153,16 @@ void CheckFiles(const Options& options) {
     }
 }
 
+/// Each project's tables have its name.
+void CheckTables(const Options& options) {
+    std::set<std::filesystem::path> names;
+    for (const std::filesystem::path& project : options.projects) {
+        if (names.insert(project.stem()).second || options.csvFolder.empty()) continue;
+        throw CLI::ValidationError(
+            "--csv", "two projects are called " + project.stem().string() + ": one folder each");
+    }
+}
+
 }  // namespace
 
 std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::ostream& out,
@@ -172,6 +184,7 @@ std::variant<Options, int> ParseOptions(int argc, const char* const* argv, std::
     try {
         app.parse(argc, argv);
         CheckFiles(options);
+        CheckTables(options);
     } catch (const CLI::ParseError& error) {
         const bool fine = app.exit(error, out, err) == 0;
         return static_cast<int>(fine ? ExitStatus::Settled : ExitStatus::WrongUse);

@@ -38,11 +38,12 @@ ExitStatus Worse(ExitStatus one, ExitStatus other) {
 
 class ProjectRun {
   public:
-    /// The reports of all but the first project follow those before.
-    ProjectRun(const Options& options, std::size_t index, std::ostream& out, std::ostream& err)
+    /// `follows` adds the report to the results file.
+    ProjectRun(const Options& options, std::size_t index, bool follows, std::ostream& out,
+               std::ostream& err)
         : options_(options),
           path_(options.projects[index]),
-          follows_(options.append || index > 0),
+          follows_(follows),
           out_(out),
           err_(err),
           boxes_(err) {}
@@ -56,6 +57,8 @@ class ProjectRun {
         return ready && saved && printed && !reportFailed_ ? StatusOf(run_.outcome.end)
                                                            : ExitStatus::WrongUse;
     }
+
+    bool IsReported() const { return run_.results && !options_.noReport && !reportFailed_; }
 
   private:
     bool Prepare() {
@@ -224,8 +227,11 @@ class ProjectRun {
 
 ExitStatus RunProjects(const Options& options, std::ostream& out, std::ostream& err) {
     ExitStatus worst = ExitStatus::Settled;
+    bool follows = options.append;  // otherwise the first report replaces what there was
     for (std::size_t i = 0; i < options.projects.size(); ++i) {
-        worst = Worse(worst, ProjectRun(options, i, out, err).Do());
+        ProjectRun run(options, i, follows, out, err);
+        worst = Worse(worst, run.Do());
+        follows = follows || run.IsReported();
     }
     return worst;
 }

@@ -32,7 +32,7 @@ void Put(Project& project, int number, const std::optional<Plan::Pipe>& to) {
     bool& unknown = project.FlowUnknown[number];
     const Plan::Pipe wanted = to.value_or(Plan::Pipe{});
     float computed = pipe.IsDrawn() && unknown && wanted.unknown ? pipe.FlowRate : 0;
-    if (pipe.FlowFromPoint != wanted.record.FlowFromPoint) computed = 0 - computed;
+    if (pipe.DirectionSign() != wanted.record.DirectionSign()) computed = 0 - computed;
     pipe = wanted.record;
     unknown = wanted.unknown;
     if (unknown) pipe.FlowRate = computed;

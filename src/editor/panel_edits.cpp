@@ -97,6 +97,14 @@ void TypeLossSum(Project& project, PipePanel& panel, std::string_view text) {
     StoreInAll(project, panel, &PipeRec::LossSum, ToSingle(TakeSize(panel, panel.lossSum, text)));
 }
 
+void AddLosses(Project& project, PipePanel& panel, double sum) {
+    for (const int number : panel.pipes) {
+        float& lossSum = project.Pipes[number].LossSum;
+        lossSum = ToSingle(DecimalDouble(lossSum) + sum);
+    }
+    ShowLossSum(project, panel);
+}
+
 void ChoosePipeSize(Project& project, PipePanel& panel, int size) {
     if (panel.pipes.empty() || size < 1 || size > kNominalSizes) return;
     for (const int number : panel.pipes) SetNominalSize(project.Pipes[number], size);

@@ -35,6 +35,9 @@ void TypeOuterSize(Project& project, PipePanel& panel, std::string_view text);
 /// The sum of the loss coefficients of the pipe's own fittings.
 void TypeLossSum(Project& project, PipePanel& panel, std::string_view text);
 
+/// Adds to the loss sum of each of the pipes.
+void AddLosses(Project& project, PipePanel& panel, double sum);
+
 /// `Combo2`: a nominal size (1 .. 12); fills both diameters.
 void ChoosePipeSize(Project& project, PipePanel& panel, int size);
 

@@ -37,7 +37,7 @@ void ShowSizes(const Project& project, PipePanel& panel) {
     panel.length = common(&PipeRec::Length, 1);
     panel.innerSize = common(&PipeRec::Diameter, kMillimetresPerMetre);
     panel.outerSize = common(&PipeRec::OuterSize, kMillimetresPerMetre);
-    panel.lossSum = common(&PipeRec::LossSum, 1);
+    ShowLossSum(project, panel);
     if (!panel.section.nominalSizes) return;
     panel.nominalSize =
         Common(project, panel, [](const PipeRec& pipe) { return NominalSizeOf(pipe.Diameter); });
@@ -63,6 +63,12 @@ std::string CubicMetresText(const Project& project, double kgPerHour) {
     return GeneralText(ToSingle(kgPerHour / project.settings.FluidDensity));
 }
 
+void ShowLossSum(const Project& project, PipePanel& panel) {
+    if (panel.pipes.empty()) return;
+    panel.lossSum =
+        Common(project, panel, [](const PipeRec& pipe) { return ScaledText(pipe.LossSum, 1); });
+}
+
 void ShowFlow(const Project& project, PipePanel& panel) {
     const float flow = project.Pipes[panel.OnlyPipe()].FlowRate;
     panel.flowKnown = !project.FlowUnknown[panel.OnlyPipe()];
@@ -86,6 +92,13 @@ void ShowPressure(const Project& project, int point, PointPanel& panel) {
     panel.given.clear();
     panel.computed.clear();
     (panel.known ? panel.given : panel.computed) = FormatNumber(shown, "####.###");
+}
+
+void TakeComputed(const PipePanel& now, PipePanel& panel) {
+    panel.computedKgPerHour = now.computedKgPerHour;
+    panel.computedCubicMetresPerHour = now.computedCubicMetresPerHour;
+    panel.start.computed = now.start.computed;
+    panel.end.computed = now.end.computed;
 }
 
 void ShowHeights(const Project& project, PipePanel& panel) {

@@ -57,6 +57,12 @@ PipePanel ShowPipeData(const Project& project, const Editor& editor);
 /// The flow frame alone: flow rate of the panel's only pipe as given or computed.
 void ShowFlow(const Project& project, PipePanel& panel);
 
+/// What is computed, from `now`; what the boxes were given stays as it was typed.
+void TakeComputed(const PipePanel& now, PipePanel& panel);
+
+/// The box of the loss sum alone.
+void ShowLossSum(const Project& project, PipePanel& panel);
+
 /// The boxes of the heights alone.
 void ShowHeights(const Project& project, PipePanel& panel);
 

@@ -206,7 +206,10 @@ std::optional<Result<StoredSettings>> ReadSettingsOf(const std::filesystem::path
 }
 
 Status WriteSettingsOf(const std::filesystem::path& project, const StoredSettings& stored) {
-    return WriteWholeFile(SettingsFileOf(project), SettingsText(stored));
+    const auto before = ReadSettingsOf(project);
+    const bool unread = before && !*before;  // by a newer version, perhaps
+    return WriteWholeFile(SettingsFileOf(project), SettingsText(stored),
+                          unread ? OldFile::KeptBeside : OldFile::Dropped);
 }
 
 void UseSettings(const StoredSettings& stored, Settings& settings) {

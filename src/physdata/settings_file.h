@@ -38,6 +38,7 @@ Result<StoredSettings> ParseSettings(std::string_view text);
 /// The settings beside a project; nothing when there is no such file.
 std::optional<Result<StoredSettings>> ReadSettingsOf(const std::filesystem::path& project);
 
+/// A file that could not be read is kept beside, as "NAME.settings.json~".
 Status WriteSettingsOf(const std::filesystem::path& project, const StoredSettings& stored);
 
 /// Replaces the settings that travel.

@@ -177,6 +177,11 @@ std::string Coordinates(const EpanetNetwork& network) {
     return text;
 }
 
+/// Behind a word of ours: at the start of a line a bracket would open a section.
+std::string DescriptionLine(std::string_view description) {
+    return description.empty() ? "" : "\n Description: " + OneLine(description);
+}
+
 }  // namespace
 
 Result<std::string> EpanetInput(const RunRecord& run, std::string_view name,
@@ -186,7 +191,7 @@ Result<std::string> EpanetInput(const RunRecord& run, std::string_view name,
         return Failure{std::string(kNoGasInEpanet)};
     }
     const EpanetNetwork network = EpanetNetworkOf(run);
-    return "[TITLE]\n Project: " + OneLine(name) + "\n " + OneLine(description) +
+    return "[TITLE]\n Project: " + OneLine(name) + DescriptionLine(description) +
            "\n Written by Idrova " + VersionText() + "\n" + Nodes(network) + Pipes(network) +
            Links(network) + Options(network.settings) + Coordinates(network) + "\n[END]\n";
 }

@@ -70,6 +70,7 @@ PipeResult ResultOfPipe(const Settings& settings, const WorkNetwork& results, in
     result.diameter = DecimalDouble(pipe.Diameter);
     result.sideB = rectangular ? DecimalDouble(pipe.OuterSize) : 0;
     result.length = DecimalDouble(pipe.Length);
+    result.lossSum = DecimalDouble(pipe.LossSum);
 
     const double from = PressureAt(results, result.from);
     const double to = PressureAt(results, result.to);

@@ -27,6 +27,7 @@ struct PipeResult {
     double diameter = 0;      ///< m; side a of a rectangular section
     double sideB = 0;         ///< m; 0 in a circular section
     double length = 0;        ///< m
+    double lossSum = 0;       ///< of its own fittings
 };
 
 struct PointResult {

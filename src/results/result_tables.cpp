@@ -36,15 +36,16 @@ ResultTable PipeTable(const Settings& settings, const WorkNetwork& results) {
                        {"drop_Pa", "Drop", "Pa", 1},
                        {"friction_Pa_m", "Friction", "Pa/m", 2},
                        {"diameter_mm", rectangular ? "Side a" : "Diameter", "mm", 1},
-                       {"length_m", "Length", "m", 2}},
+                       {"length_m", "Length", "m", 2},
+                       {"loss_sum", "ΣK", "", 2}},
                       {}};
     if (rectangular) table.columns.push_back({"side_b_mm", "Side b", "mm", 1});
     for (const PipeResult& pipe : PipeResults(settings, results)) {
-        ResultRow row{
-            pipe.number,
-            {double(pipe.number), double(pipe.from), double(pipe.to), PerHour(pipe.flow),
-             PerHour(pipe.volumeFlow), GivenText(pipe.flowGiven), pipe.velocity, pipe.reynolds,
-             pipe.drop, pipe.dropPerMetre, pipe.diameter * kMillimetresPerMetre, pipe.length}};
+        ResultRow row{pipe.number,
+                      {double(pipe.number), double(pipe.from), double(pipe.to), PerHour(pipe.flow),
+                       PerHour(pipe.volumeFlow), GivenText(pipe.flowGiven), pipe.velocity,
+                       pipe.reynolds, pipe.drop, pipe.dropPerMetre,
+                       pipe.diameter * kMillimetresPerMetre, pipe.length, pipe.lossSum}};
         if (rectangular) row.cells.emplace_back(pipe.sideB * kMillimetresPerMetre);
         table.rows.push_back(std::move(row));
     }

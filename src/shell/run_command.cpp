@@ -86,6 +86,13 @@ RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& wor
     return record;
 }
 
+void RestoreResults(const RunRecord& record, Project& project) {
+    const bool drawn = project.settings.Mode == WorkMode::Graphic;
+    if (drawn && record.results && record.inputs == InputsOf(project)) {
+        StoreIntoProject(*record.results, project);
+    }
+}
+
 bool IsToCompute(const Project& project, const RunRecord* last) {
     const WorkMode mode = project.settings.Mode;
     if (mode == WorkMode::SinglePipe) return false;

@@ -37,6 +37,9 @@ struct RunHost {
 RunRecord RunNetwork(Project& project, const TableTexts& texts, WorkNetwork& work,
                      const RunHost& host);
 
+/// Puts the results of a run into the drawing that it was made of; nothing where that has changed.
+void RestoreResults(const RunRecord& record, Project& project);
+
 /// True when the drawing or the table has pipes and is not as it was when `last` was computed; null
 /// for never. The single pipe is always computed at once.
 bool IsToCompute(const Project& project, const RunRecord* last);

@@ -3,6 +3,7 @@
 
 #include "editor/component_insertion.h"
 #include "results/result_age.h"
+#include "shell/run_command.h"
 
 namespace idrova {
 
@@ -22,6 +23,15 @@ bool ShowsOldResults(const Program& program) {
 
 StoredSettings PresentSettings(const Program& program) {
     return {program.project.settings, program.shell.roughnessItem, program.limits};
+}
+
+std::function<Status(const Settings&, const WorkNetwork&)> StoredReport(Program& program) {
+    return [&program](const Settings& settings, const WorkNetwork& work) {
+        Status stored =
+            ReportWriter(program.project, program.folder, program.report)(settings, work);
+        program.reportStored = static_cast<bool>(stored);
+        return stored;
+    };
 }
 
 void RereadComponents(Program& program) {

@@ -40,7 +40,8 @@ struct Program {
     std::string titleName = kNewProject;  ///< of the project, as the main window's title shows it
     /// The settings beside the open project, until the user takes or leaves them.
     std::optional<Result<StoredSettings>> offered;
-    Limits limits;  ///< that results are held against
+    Limits limits;               ///< that results are held against
+    StoredSettings whenOffered;  ///< the settings in use at that time
     WorkNetwork work;
     TableTexts table;
     TableModel tableModel{project, table};  ///< holds the edits that can be undone
@@ -74,6 +75,9 @@ bool ShowsOldResults(const Program& program);
 
 /// The settings that are saved with the project.
 StoredSettings PresentSettings(const Program& program);
+
+/// Keeps the report of a run as the last one, and puts it into the results file.
+std::function<Status(const Settings&, const WorkNetwork&)> StoredReport(Program& program);
 
 /// Reads the pump and loss databases again, and finds the chosen component in them.
 void RereadComponents(Program& program);

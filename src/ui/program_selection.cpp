@@ -17,6 +17,7 @@ int PipeAt(const Project& project, int point) {
     return 0;
 }
 
+/// Right of and below the first cell shown, all of the grid is in sight.
 void BringIntoView(Program& program, ScreenPoint at) {
     if (IsOnGrid(program.project, Shown(program.project, program.editor, at))) return;
     ScrollDrawing(program.project, program.editor, 1, 1);
@@ -31,6 +32,13 @@ void SelectDrawnPipe(Program& program, int number) {
     BringIntoView(program, {pipe.X1, pipe.Y1});
 }
 
+void ShowPoint(Program& program, int number) {
+    if (number < 1 || number > program.project.npres) return;
+    SelectDrawnPipe(program, PipeAt(program.project, number));
+    const PointRec& point = program.project.Points[number];
+    if (point.IsDrawn()) BringIntoView(program, {point.X, point.Y});
+}
+
 void SelectComponent(Program& program, int cell) {
     Project& project = program.project;
     if (cell < 1 || cell > project.CellCount() || !project.Cells[cell].Placed) return;
@@ -41,15 +49,18 @@ void SelectComponent(Program& program, int cell) {
 
 }  // namespace
 
+bool IsShownBeside(const Program& program, NoteOn kind) {
+    const WorkMode mode = program.project.settings.Mode;
+    return mode == WorkMode::Graphic || (mode == WorkMode::Table && kind == NoteOn::Pipe);
+}
+
 void SelectElement(Program& program, const Element& element) {
     if (program.project.settings.Mode == WorkMode::Table && element.kind == NoteOn::Pipe) {
         program.tablePlace.line = element.number - 1;
     }
     if (program.project.settings.Mode != WorkMode::Graphic) return;
     if (element.kind == NoteOn::Pipe) SelectDrawnPipe(program, element.number);
-    if (element.kind == NoteOn::Point) {
-        SelectDrawnPipe(program, PipeAt(program.project, element.number));
-    }
+    if (element.kind == NoteOn::Point) ShowPoint(program, element.number);
     if (element.kind == NoteOn::Cell) SelectComponent(program, element.number);
 }
 

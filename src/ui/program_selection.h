@@ -13,6 +13,9 @@ struct Element {
     int number = 0;
 };
 
+/// True where the working mode shows such elements: the drawing all, the table pipes.
+bool IsShownBeside(const Program& program, NoteOn kind);
+
 /// Selects it in the drawing, scrolled so that it is seen, or its row in the table. A point is
 /// shown by a pipe that ends there. Nothing happens when it is not there.
 void SelectElement(Program& program, const Element& element);

@@ -138,6 +138,7 @@ TEST_F(Calc, SeveralProjectsGiveALineEachAndTheWorstStatus) {
     }
     EXPECT_EQ(outcomes, "plant.iv settled;open.iv refused;missing.iv refused;plant.iv settled;");
     EXPECT_EQ(Run("open.iv plant.iv").status, 1);
+    EXPECT_EQ(Run("missing.iv plant.iv").out, FileBytes(folder / "out.dat")) << "its alone";
     const CalcResult reports = Run("plant.iv plant.iv");
     EXPECT_EQ(reports.status, 0);
     EXPECT_EQ(FileBytes(folder / "out.dat"), reports.out) << "one after the other";
@@ -313,7 +314,7 @@ TEST_F(Calc, WrongUseAndUnusableFilesEndWithTwoAndChangeNothing) {
 --set pipe:1:length_m=0 plant.iv;--set pipe:1:length_m=x plant.iv;--set pipe:1:width_m=1 plant.iv;
 --set point:1:length_m=1 plant.iv;--set pipe:x:length_m=1 plant.iv;--set pipe:1:length_m plant.iv;
 --html nowhere/r.html plant.iv;--csv plant.iv/x plant.iv;--svg . plant.iv;
---mode table --svg d.svg plant.iv;--inp plant.iv plant.iv;--html r.html plant.iv plant.iv;
+--mode table --svg d.svg plant.iv;--inp plant.iv plant.iv;--csv t plant.iv plant.iv;--html r.html plant.iv plant.iv;
 --save s.iv plant.iv plant.iv;--fluid 3 --equation compressible --inp n.inp plant.iv;)");
     for (std::string arguments; std::getline(wrong >> std::ws, arguments, ';');) {
         const CalcResult run = Run(arguments);

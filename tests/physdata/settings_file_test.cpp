@@ -41,6 +41,9 @@ TEST(SettingsFile, ComesBackBesideItsProject) {
     ASSERT_TRUE(WriteSettingsOf(project, stored));
     EXPECT_THAT(FileBytes(folder / "plant.v2.settings.json"),
                 HasSubstr("\"temperature_C\": -10.1,"));
+    PutFile(folder / "plant.v2.settings.json", "{");
+    ASSERT_TRUE(WriteSettingsOf(project, stored));
+    EXPECT_EQ(FileBytes(folder / "plant.v2.settings.json~"), "{") << "by a newer version, perhaps";
     stored.settings.FluidName = "Air, \"dry\"";
     EXPECT_EQ(**ReadSettingsOf(project), stored);
 

@@ -83,13 +83,13 @@ TEST(Exports, CsvFilesHoldTheTablesWhole) {
     };
     EXPECT_EQ(
         file("pipes"),
-        R"(pipe,from,to,flow_kg_h,flow_m3_h,flow_is,velocity_m_s,reynolds,drop_Pa,friction_Pa_m,diameter_mm,length_m
-1,1,2,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50
-2,3,4,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50
-3,5,6,18000,18,computed,0.9947478,39789.91,0,0,80,50
-4,6,7,-7200,-7.2,given,-1.018622,25465.54,245250,4316.4,50,50
-6,6,11,-10800,-10.8,computed,-1.527932,38198.31,98100,1962,50,50
-7,10,9,-10800,-10.8,computed,-1.527932,38198.31,9810,588.6,50,50
+        R"(pipe,from,to,flow_kg_h,flow_m3_h,flow_is,velocity_m_s,reynolds,drop_Pa,friction_Pa_m,diameter_mm,length_m,loss_sum
+1,1,2,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50,0
+2,3,4,18000,18,computed,0.6366385,31831.93,9810,196.2,100,50,0
+3,5,6,18000,18,computed,0.9947478,39789.91,0,0,80,50,0
+4,6,7,-7200,-7.2,given,-1.018622,25465.54,245250,4316.4,50,50,0
+6,6,11,-10800,-10.8,computed,-1.527932,38198.31,98100,1962,50,50,0
+7,10,9,-10800,-10.8,computed,-1.527932,38198.31,9810,588.6,50,50,0
 )");
     EXPECT_EQ(file("points"), R"(point,pressure_Pa,pressure_bar,pressure_is,height_m,head_m
 1,98100,0.9681717,given,0,10
@@ -182,7 +182,7 @@ TEST(Exports, EpanetInputIsTheNetwork) {
     RunRecord run = Plant();
     EXPECT_EQ(*EpanetInput(run, "a\n[PIPES]", "Größe"), R"([TITLE]
  Project: a [PIPES]
- Größe
+ Description: Größe
  Written by Idrova 2.6.3
 
 [JUNCTIONS]

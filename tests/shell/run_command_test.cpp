@@ -94,8 +94,14 @@ TEST_F(RunCommand, StoresReportsThenChecksPumpsThenPressures) {
     EXPECT_EQ(network->Pipes[2].FlowRate, work->WorkPipes[2].FlowRate);
     EXPECT_NEAR(network->Pipes[2].FlowRate, 1, 1e-6);
 
+    network->Pipes[2].FlowRate = 0;
+    RestoreResults(record, *network);
+    EXPECT_EQ(network->Pipes[2].FlowRate, work->WorkPipes[2].FlowRate);
     host->report = Failure{"full"};
     Pump().MinFlow = 0;
+    network->Pipes[2].FlowRate = 0;
+    RestoreResults(record, *network);
+    EXPECT_EQ(network->Pipes[2].FlowRate, 0) << "of another pump";
     network.SetPressure(4, 5e5F);
     EXPECT_EQ(Run(), "progress;report;end;Results;") << "what is in range is not told";
     EXPECT_GT(network->Points[1].Pressure, 4e5F);

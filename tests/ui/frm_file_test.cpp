@@ -151,9 +151,13 @@ TEST_F(FileWindow, SettingsOfTheProjectAreOfferedAndTakenOnlyWhenAsked) {
     Walk(R"(# SettingsBar? # 1 # a save before the choice has left them alone
             SettingsUse # SettingsBar? RoughnessLabel # 0|partially rusty...  2.00E-3)");
     EXPECT_EQ(PresentSettings(*program), stored);
-    boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kLeaveProject, Answer::Ok);
-    Do("Rettangolare;Salva");
+    boxes.Expect(kOverwriteFile, Answer::Yes);
+    Do("Rettangolare;Salva;Circolare");
     EXPECT_EQ((*ReadSettingsOf(folder / "gas.iv"))->settings.SectionType, Section::Rectangular);
+    open();
+    boxes.Expect(kOverwriteFile, Answer::Yes).Expect(kLeaveProject, Answer::Ok);
+    Walk("t2;Salva # SettingsBar? # 0 # a setting changed by hand is a choice");
+    EXPECT_EQ((*ReadSettingsOf(folder / "gas.iv"))->settings, project.settings);
     open();
     Walk("# SettingsBar? # 0 # they are the present ones");
     PutFile(folder / "gas.settings.json", "{");

@@ -53,6 +53,10 @@ TEST_F(Run, AtOnceFollowsEveryChangeAndAsksNothing) {
     EXPECT_EQ(outcome.text(), "Changed since the computation");
     EXPECT_TRUE(QTest::qWaitFor(computed));
     EXPECT_GT(project.Pipes[1].FlowRate, 2 * before);
+    Do("Text6=1.");
+    EXPECT_TRUE(QTest::qWaitFor(computed));
+    QTest::keyClick(&Child<QLineEdit>("Text6"), Qt::Key_5);
+    EXPECT_EQ(Shown("Text6"), "1.5") << "what is being typed is left alone";
     EXPECT_EQ(Stored(), "") << "until somebody asks for it";
     boxes.Expect(kConfigureEditor);
     Choose("Risultati");
@@ -92,7 +96,7 @@ TEST_F(Run, OfTheDrawingIsReportedKeptInSequenceAndDeleted) {
         EXPECT_EQ(project.Pipes[1].FlowRate, flow);
     }
     Do("Annulla");
-    EXPECT_EQ(project.Pipes[1].FlowRate, -2) << "as it was counted before";
+    EXPECT_GT(project.Pipes[1].FlowRate, 3) << "counted as before, and what the run has found";
 
     boxes.Expect(kAskDeleteResults, Answer::Ok);
     Do("Elris");

@@ -14,7 +14,7 @@
 #include "editor/hover_text.h"
 #include "editor/pipe_colours.h"
 #include "editor/plant_drawing.h"
-#include "results/report_figures.h"
+#include "results/network_results.h"
 #include "ui/drawing/drawing_style.h"
 #include "ui/drawing/plant_scene.h"
 #include "ui/drawing/plant_view.h"
@@ -163,8 +163,8 @@ QString FrmCel::TipOf(int place) const {
         const WorkNetwork& results = *run->second.results;
         const PipeRec& computed = results.WorkPipes[pipe];
         if (pipe <= results.WorkPipeCount && computed.IsDrawn()) {
-            const double speed = FiguresOf(computed, results, run->second.settings).speed;
-            text += "\n" + HoverFlow(computed.FlowRate, speed);
+            const PipeResult found = ResultOfPipe(run->second.settings, results, pipe);
+            text += "\n" + HoverFlow(found.flow, found.velocity);
             if (program_.editor.resultsOld) text += " (changed since the computation)";
         }
     }

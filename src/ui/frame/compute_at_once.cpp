@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <chrono>
+#include <utility>
 
 #include "results/report.h"
 #include "shell/run_command.h"
@@ -21,15 +22,17 @@ class UnansweredBoxes final : public MessageBoxes {
     }
 };
 
-/// A question is open, or a mouse button held down.
+/// A question or a list is open, or a mouse button held down.
 bool IsUserBusy() {
     return QApplication::activeModalWidget() != nullptr ||
+           QApplication::activePopupWidget() != nullptr ||
            QApplication::mouseButtons() != Qt::NoButton;
 }
 
 }  // namespace
 
-ComputeAtOnce::ComputeAtOnce(Program& program) : program_(program) {
+ComputeAtOnce::ComputeAtOnce(Program& program, std::function<void()> computed)
+    : program_(program), computed_(std::move(computed)) {
     pause_.setSingleShot(true);
     pause_.setInterval(kPause);
     QObject::connect(&pause_, &QTimer::timeout, [this] { Compute(); });
@@ -55,7 +58,7 @@ void ComputeAtOnce::Compute() {
     program_.records[project.settings.Mode] =
         RunNetwork(program_.project, program_.table, program_.work,
                    {.boxes = boxes, .writeReport = keepReport});
-    program_.changed();
+    computed_();
 }
 
 }  // namespace idrova

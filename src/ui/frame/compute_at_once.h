@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTimer>
+#include <functional>
 
 namespace idrova {
 
@@ -12,7 +13,8 @@ struct Program;
 /// kept for the results window and the printer; the results file is left alone.
 class ComputeAtOnce {
   public:
-    explicit ComputeAtOnce(Program& program);
+    /// `computed` shows what was found, and leaves alone what is being typed.
+    ComputeAtOnce(Program& program, std::function<void()> computed);
 
     /// The state has changed.
     void ShowState();
@@ -21,6 +23,7 @@ class ComputeAtOnce {
     void Compute();
 
     Program& program_;
+    std::function<void()> computed_;
     QTimer pause_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "editor/find_element.h"
 #include "editor/messages.h"
+#include "shell/run_command.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/menu_bar.h"
 #include "ui/kit/qt_text.h"
@@ -56,7 +57,9 @@ void AttachEditCommands(MDI& mdi) {
             if (IsTable(program)) return (program.tableModel.Undo().*tableStep)();
             (program.history.*step)(program.project, program.editor);
             const auto record = program.records.find(WorkMode::Graphic);
-            if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
+            if (record == program.records.end()) return;
+            TurnFlowsWith(program.project, record->second);
+            RestoreResults(record->second, program.project);
         });
     };
     attach("Annulla", &EditHistory::Undo, &QUndoStack::undo);

@@ -27,6 +27,7 @@ void TakeDrawing(MDI& mdi) {
     RedrawProject(program.project, program.editor);
     program.history.StartAnew(program.project, program.editor);
     program.records.erase(WorkMode::Graphic);
+    program.reportStored = true;     // a report of the network before
     mdi.Windows().Close("FrmFile");  // it shows name and description of the network before
     const std::string_view window = ViewOf(program.project.settings.Mode).window;
     if (mdi.Windows().Find(window) == nullptr) mdi.OpenModeWindow();
@@ -71,15 +72,25 @@ void Take(MDI& mdi, const FileChange& change, const std::filesystem::path& folde
         mdi.Recent().Add(program.project.ProjectName);
     }
     program.offered = ReadSettingsOf(program.project.ProjectName);
-    if (SettingsOffer(program.offered, PresentSettings(program)).empty()) program.offered.reset();
+    program.whenOffered = PresentSettings(program);
+    if (SettingsOffer(program.offered, program.whenOffered).empty()) program.offered.reset();
 }
 
-/// Puts the settings beside the project that was saved. While others are on offer they stay.
-void FinishSaving(MDI& mdi) {
+/// True while the settings beside the project are on offer and those in use have not been changed.
+bool AreAsOffered(const Program& program) {
+    return program.offered &&
+           SettingsDifference(program.whenOffered, PresentSettings(program)).empty();
+}
+
+/// Puts the settings beside the project that was saved. Others there, which are still on offer,
+/// stay as long as the user has changed none by hand.
+void FinishSaving(MDI& mdi, const std::string& nameBefore) {
     Program& program = mdi.State();
-    mdi.Recent().Add(program.project.ProjectName);
-    if (program.offered) return;
-    const Status written = WriteSettingsOf(program.project.ProjectName, PresentSettings(program));
+    const std::string& name = program.project.ProjectName;
+    mdi.Recent().Add(name);
+    if (name == nameBefore && AreAsOffered(program)) return;
+    program.offered.reset();
+    const Status written = WriteSettingsOf(name, PresentSettings(program));
     if (!written) program.boxes.Show(SaveFailed(written.Error()));
 }
 
@@ -87,10 +98,11 @@ void FinishSaving(MDI& mdi) {
 bool Confirm(MDI& mdi, const FileForm& form) {
     Program& program = mdi.State();
     const auto unsaved = UnsavedText(program.project);
+    const std::string nameBefore = program.project.ProjectName;
     const FileChange change = ConfirmFileForm(form, program.project, program.boxes);
     if (!change.done) return false;
     Take(mdi, change, form.folder);
-    if (form.purpose == FilePurpose::Save) FinishSaving(mdi);
+    if (form.purpose == FilePurpose::Save) FinishSaving(mdi, nameBefore);
     if (form.purpose == FilePurpose::Open) SayOpened(mdi, Kept(mdi, unsaved));
     mdi.ShowState();
     return true;
@@ -116,7 +128,7 @@ void Save(MDI& mdi) {
     }
     const auto saved = SaveToOwnFile(program.project, program.boxes);
     if (!saved) ShowFileWindow(mdi, FilePurpose::Save);
-    if (saved == SaveOutcome::Saved) FinishSaving(mdi);
+    if (saved == SaveOutcome::Saved) FinishSaving(mdi, program.project.ProjectName);
 }
 
 /// A new project keeps the rows of the table, so its texts and its edits stay as well.

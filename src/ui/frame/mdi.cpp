@@ -67,6 +67,12 @@ ChildWindow* MakeModeWindow(WorkMode mode, Program& program) {
     return new FrmCel(program);
 }
 
+/// The flows of the record are counted as the drawing now counts them.
+void ShowRunOfDrawing(Program& program) {
+    const auto record = program.records.find(WorkMode::Graphic);
+    if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
+}
+
 /// The project file in what is being dragged; empty when there is none.
 std::filesystem::path DraggedProject(const QMimeData& data) {
     for (const QUrl& url : data.urls()) {
@@ -92,7 +98,7 @@ MDI::MDI(Program& program)
       panel_(new FrmCom(program, this)),
       hints_(new FrmHelp(program, this)),
       problems_(new FrmProb(program, this)),
-      atOnce_(std::make_unique<ComputeAtOnce>(program)) {
+      atOnce_(std::make_unique<ComputeAtOnce>(program, [this] { panel_->ShowComputed(); })) {
     Named(this, "MDI");
     setAcceptDrops(true);
     // The menu of docks would show the hint window behind the back of its menu item.
@@ -138,6 +144,7 @@ void MDI::OpenModeWindow() {
 
 void MDI::ShowState() {
     const Settings& settings = program_.project.settings;
+    ShowRunOfDrawing(program_);
     ShowView(program_);
     menu_->ShowState(settings, program_.shell);
     ShowSteps(*this);

@@ -25,7 +25,7 @@ RunRecord Compute(MDI& mdi) {
     };
     return RunNetwork(program.project, program.table, program.work,
                       {.boxes = program.boxes,
-                       .writeReport = ReportWriter(program.project, program.folder, program.report),
+                       .writeReport = StoredReport(program),
                        .showProgress = showProgress,
                        .endProgress = [&progress] { progress.reset(); }});
 }
@@ -34,7 +34,6 @@ void Calculate(MDI& mdi) {
     mdi.TakeEdits();
     Program& program = mdi.State();
     program.records[program.project.settings.Mode] = Compute(mdi);
-    program.reportStored = true;
     mdi.ShowState();
 }
 
@@ -47,11 +46,8 @@ void AttachRunCommands(MDI& mdi) {
         program.shell.ComputesAtOnce = !program.shell.ComputesAtOnce;
         if (program.shell.ComputesAtOnce) mdi.ShowProblems();
     });
-    mdi.Menu().Attach("Ordina", [&program] {
-        if (!MakeFlowRatesPositive(program.project, program.boxes)) return;
-        const auto record = program.records.find(WorkMode::Graphic);
-        if (record != program.records.end()) TurnFlowsWith(program.project, record->second);
-    });
+    mdi.Menu().Attach("Ordina",
+                      [&program] { MakeFlowRatesPositive(program.project, program.boxes); });
 }
 
 }  // namespace idrova

@@ -77,16 +77,16 @@ QWidget* FittingPicker::Counts() {
 
 void FittingPicker::ShowSum() {
     list_->setText(ToQt(ListText(fittings_)));
-    const QString added = SumText(SumOf(fittings_));
-    sum_->setText(before_ == 0
-                      ? "Sum: " + added
-                      : QString("Sum: %1 + %2 = %3").arg(SumText(before_), added, SumText(Sum())));
+    const QString added = SumText(Picked());
+    sum_->setText(before_ == 0 ? "Sum: " + added
+                               : QString("Sum: %1 + %2 = %3")
+                                     .arg(SumText(before_), added, SumText(before_ + Picked())));
 }
 
 std::optional<double> PickFittings(const LossDb& losses, double before, QWidget* parent) {
     FittingPicker picker(FittingsOf(losses), before, parent);
     if (picker.exec() != QDialog::Accepted) return std::nullopt;
-    return picker.Sum();
+    return picker.Picked();
 }
 
 QWidget* FittingRow(QLineEdit* field, const std::function<void()>& pick) {

@@ -20,7 +20,8 @@ class FittingPicker : public QDialog {
   public:
     FittingPicker(std::vector<FittingCount> fittings, double before, QWidget* parent);
 
-    double Sum() const { return before_ + SumOf(fittings_); }
+    /// Of the fittings counted here.
+    double Picked() const { return SumOf(fittings_); }
 
   private:
     QWidget* Counts();
@@ -32,7 +33,8 @@ class FittingPicker : public QDialog {
     QLabel* sum_;
 };
 
-/// The sum that the user has picked; nothing when the window was cancelled.
+/// The sum of the fittings that the user has counted, to be added to `before`; nothing when the
+/// window was cancelled.
 std::optional<double> PickFittings(const LossDb& losses, double before, QWidget* parent);
 
 /// The field with a button behind it that picks its fittings.

@@ -134,6 +134,11 @@ void FrmCom::ShowEdited() {
     program_.changed();
 }
 
+void FrmCom::ShowComputed() {
+    TakeComputed(ShowPipeData(program_.project, program_.editor), context_.panel);
+    ShowEdited();
+}
+
 void FrmCom::TakeFocus(bool backwards) {
     const auto step = [backwards](const QWidget* from) {
         return backwards ? from->previousInFocusChain() : from->nextInFocusChain();

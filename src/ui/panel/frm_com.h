@@ -28,6 +28,9 @@ class FrmCom : public QDockWidget {
     /// Everything that the panel shows, as settings, project and editor now stand.
     void ShowState();
 
+    /// Shows everywhere what was computed while something may be typed here, which stays as it is.
+    void ShowComputed();
+
     /// Gives the keyboard to the first control that takes it or, backwards, to the last.
     void TakeFocus(bool backwards);
 

@@ -88,9 +88,12 @@ void PipeFrame::Show() {
 }
 
 void PipeFrame::PickLosses() {
-    const double before = ReadNumber(context_.panel.lossSum);
-    const auto sum = PickFittings(context_.program.components.losses, before, this);
-    if (sum) lossSum_->setText(ToQt(GeneralText(ToSingle(*sum))));
+    Program& program = context_.program;
+    const auto picked =
+        PickFittings(program.components.losses, ReadNumber(context_.panel.lossSum), this);
+    if (!picked || *picked == 0) return;
+    AddLosses(program.project, context_.panel, *picked);
+    context_.edited();
 }
 
 void PipeFrame::ShowSection() {

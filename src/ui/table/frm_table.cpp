@@ -20,6 +20,8 @@ FrmTable::FrmTable(Program& program)
     FillTable(program.project, program.table);
     StayOnEscape();
     connect(&program.tableModel, &TableModel::dataChanged, this, [&program] { program.changed(); });
+    connect(&program.tableModel.Undo(), &QUndoStack::indexChanged, this,
+            [&program] { program.changed(); });
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

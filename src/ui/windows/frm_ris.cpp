@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 
 #include "results/limit_notes.h"
+#include "results/report.h"
 #include "shell/outcome_notes.h"
 #include "ui/kit/coloured_field.h"
 #include "ui/kit/controls.h"
@@ -101,7 +102,13 @@ void FrmRis::ShowTables() {
 }
 
 void FrmRis::ShowReport() {
-    const QString report = ToQt(program_.report).remove('\r');
+    const RunRecord* record = RecordOf(program_);
+    QString report;
+    if (record != nullptr && record->results) {
+        report = ToQt(ReportText(record->settings, program_.project.ProjectName, *record->results,
+                                 record->time))
+                     .remove('\r');
+    }
     if (report != report_->toPlainText()) report_->setPlainText(report);
     QPalette shown = palette();
     if (ShowsOldResults(program_)) {
@@ -113,6 +120,7 @@ void FrmRis::ShowReport() {
 
 void FrmRis::ShowSelection() {
     for (const Tab& tab : tables_) {
+        if (!IsShownBeside(program_, tab.model.About())) continue;
         // A point is shown by a pipe that ends there: either end of it may have been meant.
         if (IsSelected(program_, {tab.model.About(), tab.view->SelectedNumber()})) continue;
         tab.view->SelectNumber(SelectedNumber(program_, tab.model.About()));
@@ -121,7 +129,7 @@ void FrmRis::ShowSelection() {
 
 void FrmRis::Select(const Tab& tab) {
     const int number = tab.view->SelectedNumber();
-    if (showsSelection_ || number == 0) return;
+    if (showsSelection_ || number == 0 || !IsShownBeside(program_, tab.model.About())) return;
     SelectElement(program_, {tab.model.About(), number});
     program_.changed();
 }

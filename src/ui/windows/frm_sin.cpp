@@ -241,8 +241,8 @@ void FrmSin::TakeLossSum() {
 }
 
 void FrmSin::PickLosses() {
-    const auto sum = PickFittings(program_.components.losses, pipe_.lossSum, this);
-    if (sum) lossSum_->setText(ToQt(GeneralText(ToSingle(*sum))));
+    const auto picked = PickFittings(program_.components.losses, pipe_.lossSum, this);
+    if (picked) lossSum_->setText(ToQt(GeneralText(ToSingle(pipe_.lossSum + *picked))));
 }
 
 void FrmSin::Turn() {
@@ -294,7 +294,7 @@ void FrmSin::Tell() {
     const auto record = program_.records.find(WorkMode::SinglePipe);
     if (isTold_ || record == program_.records.end()) return;
     isTold_ = true;
-    const auto write = ReportWriter(program_.project, program_.folder, program_.report);
+    const auto write = StoredReport(program_);
     const auto writeReport = [&](const Settings& settings, const WorkNetwork& work) {
         return FirstFailure(write(settings, work));
     };

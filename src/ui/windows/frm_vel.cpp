@@ -78,6 +78,7 @@ void FrmVel::AddSetting(FieldGrid& rows, const QString& caption, QLineEdit* fiel
 
 void FrmVel::SetFlowRates() {
     SetAllFlowRates(program_.project, FromQt(flow_->text()), program_.boxes);
+    program_.records.erase(WorkMode::Graphic);  // the flows that are shown are not those of a run
     program_.changed();
 }
 

@@ -63,6 +63,7 @@ void ResultView::keyPressEvent(QKeyEvent* event) {
 
 void ResultView::Copy() const {
     QModelIndexList rows = selectionModel()->selectedRows();
+    if (rows.isEmpty()) return;  // what was copied before stays
     std::ranges::sort(rows, {}, [](const QModelIndex& index) { return index.row(); });
     QString text;
     for (const QModelIndex& row : rows) {
