@@ -91,7 +91,7 @@ TEST_F(MainWindow, TypedSettingsAreTaken) {
 
     project.numtubo = project.CurrentPipe = 1;
     boxes.Expect(kCancelLengths, Answer::No);
-    Walk(R"(Veloce>FrmVel;Command2;Text1=3600;Text2=-5 # Text2 # 0
+    Walk(R"(Veloce>FrmVel;Command2;Text1=3600;Text2=-25 # Text2 # 0
             Text2=100;Combo2#3;Text2!;Text3!;Text1!)");
     EXPECT_EQ(project.Pipes[1].FlowRate, 1);
     window = mdi->findChild<QWidget*>("FrmCom");

@@ -28,6 +28,7 @@ TEST_F(SinglePipeWindow, ComputesTheFlowAtEveryChangeAndReportsWhenTypingPauses)
     project.Pipes[1].FlowRate = 7;
     project.settings.SectionType = Section::Rectangular;  // of the drawing: a single pipe is round
     Walk(R"(Text2=2;Text3=1;Text1=100 # Text4 Velocity # | # there is no diameter yet
+            Combo2#5;Text5=60 # Combo2 #
             Combo2#6 # StatusOutcome # Computed)");
     project.settings.SectionType = Section::Circular;
     const double flow = Value("Text4") / 3600;
