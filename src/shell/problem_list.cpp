@@ -26,8 +26,9 @@ std::vector<Note> WhatIsMissing(Project& project, const TableTexts& texts) {
     return ProblemsOf(project.settings, *work);
 }
 
-ProblemView PresentProblems(Project& project, const TableTexts& texts) {
-    ProblemView view{"Not yet computed", WhatIsMissing(project, texts)};
+ProblemView PresentProblems(Project& project, const TableTexts& texts, bool isChanged) {
+    ProblemView view{isChanged ? "Changed since the computation" : "Not yet computed",
+                     WhatIsMissing(project, texts)};
     if (!view.notes.empty()) view.caption = "Cannot be computed yet";
     if (project.settings.Mode == WorkMode::Table) {
         for (Note& note : TableNotes(project, texts)) view.notes.push_back(std::move(note));
@@ -59,7 +60,7 @@ ProblemView ShowProblems(Project& project, const TableTexts& texts, const RunRec
         Outcome outcome = HeldAgainst(limits, *last);
         view = {OutcomeLine(outcome), std::move(outcome.notes)};
     } else {
-        view = PresentProblems(project, texts);
+        view = PresentProblems(project, texts, last != nullptr);
     }
     if (project.settings.Mode != WorkMode::Table) return view;
     for (Note& note : view.notes) note = OnRow(project, std::move(note));

@@ -34,7 +34,7 @@ TEST(ProblemList, ShowsTheRunWhileItIsCurrentElseWhatIsMissing) {
     last.outcome = {.end = RunEnd::Settled, .notes = {{"x", NoteOn::Point, 3}}};
     EXPECT_EQ(Shown(*network, &last), "Computed, 1 note; 3");
     network->Pipes[2].Length = 10;
-    EXPECT_EQ(Shown(*network, &last), "Not yet computed");
+    EXPECT_EQ(Shown(*network, &last), "Changed since the computation");
 
     network->settings.Mode = WorkMode::Table;
     EXPECT_EQ(Shown(*network, &last), "Cannot be computed yet; row 2; row 2")

@@ -12,7 +12,7 @@ namespace idrova {
 namespace {
 
 constexpr QRgb kUnknown = 0xFFFFC0;      ///< light yellow
-constexpr QRgb kUnknownDark = 0x5A5528;  ///< its counterpart in a dark theme
+constexpr QRgb kUnknownDark = 0x454118;  ///< its counterpart in a dark theme
 
 bool IsDark(const QPalette& theme) {
     return theme.color(QPalette::Base).lightness() < theme.color(QPalette::Text).lightness();
@@ -60,7 +60,8 @@ void ColouredField::SetOld(bool old) {
 }
 
 bool ColouredField::event(QEvent* event) {
-    if (event->type() == QEvent::ApplicationPaletteChange) Colour();
+    // The desktop may change its theme at any time.
+    if (event->type() == QEvent::PaletteChange) Colour();
     return SelectingField::event(event);
 }
 
