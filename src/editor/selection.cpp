@@ -48,6 +48,12 @@ void CompleteSize(const Settings& settings, PipeRec& pipe) {
     if (size != 0) SetNominalSize(pipe, size);
 }
 
+void AddPipe(Project& project, Editor& editor, int number) {
+    auto& others = editor.alsoSelected;
+    others.insert(std::ranges::upper_bound(others, number), number);
+    CompleteSize(project.settings, project.Pipes[number]);
+}
+
 }  // namespace
 
 void SelectPipe(Project& project, Editor& editor, int number) {
@@ -56,6 +62,11 @@ void SelectPipe(Project& project, Editor& editor, int number) {
     editor.alsoSelected.clear();
     project.CurrentPipe = number;
     if (number != 0) CompleteSize(project.settings, project.Pipes[number]);
+}
+
+void SelectPipes(Project& project, Editor& editor, const std::vector<int>& numbers) {
+    SelectPipe(project, editor, numbers.empty() ? 0 : numbers.front());
+    for (std::size_t i = 1; i < numbers.size(); ++i) AddPipe(project, editor, numbers[i]);
 }
 
 std::vector<int> SelectedPipes(const Project& project, const Editor& editor) {
@@ -75,9 +86,7 @@ void ExtendSelection(Project& project, Editor& editor, int cell) {
     } else if (selected.empty()) {
         SelectPipe(project, editor, *added);
     } else {
-        auto& others = editor.alsoSelected;
-        others.insert(std::ranges::upper_bound(others, *added), *added);
-        CompleteSize(project.settings, project.Pipes[*added]);
+        AddPipe(project, editor, *added);
     }
 }
 

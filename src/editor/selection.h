@@ -17,6 +17,9 @@ void SelectCell(Project& project, Editor& editor, int cell);
 /// in full.
 void SelectPipe(Project& project, Editor& editor, int number);
 
+/// Selects drawn pipes together, the first as the current one.
+void SelectPipes(Project& project, Editor& editor, const std::vector<int>& numbers);
+
 /// The current pipe and those selected with it, the current one first.
 std::vector<int> SelectedPipes(const Project& project, const Editor& editor);
 

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/program_selection.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "editor/grid_view.h"
 #include "editor/selection.h"
 #include "model/drawn_records.h"
@@ -62,6 +65,26 @@ void SelectElement(Program& program, const Element& element) {
     if (element.kind == NoteOn::Pipe) SelectDrawnPipe(program, element.number);
     if (element.kind == NoteOn::Point) ShowPoint(program, element.number);
     if (element.kind == NoteOn::Cell) SelectComponent(program, element.number);
+}
+
+void SelectPipes(Program& program, const std::vector<int>& numbers) {
+    Project& project = program.project;
+    if (project.settings.Mode != WorkMode::Graphic) return;
+    std::vector<int> drawn;
+    std::ranges::copy_if(numbers, std::back_inserter(drawn), [&](int number) {
+        return number <= project.numtubo && project.Pipes[number].IsDrawn();
+    });
+    SelectPipes(project, program.editor, drawn);
+    program.editor.framesEnabled = true;
+}
+
+std::vector<int> SelectedPipes(const Program& program) {
+    const int only = SelectedNumber(program, NoteOn::Pipe);
+    if (only == 0) return {};
+    if (program.project.settings.Mode != WorkMode::Graphic) return {only};
+    std::vector<int> pipes = SelectedPipes(program.project, program.editor);
+    std::ranges::sort(pipes);
+    return pipes;
 }
 
 int SelectedNumber(const Program& program, NoteOn kind) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <vector>
+
 #include "hydraulics/note.h"
 
 namespace idrova {
@@ -19,6 +21,12 @@ bool IsShownBeside(const Program& program, NoteOn kind);
 /// Selects it in the drawing, scrolled so that it is seen, or its row in the table. A point is
 /// shown by a pipe that ends there. Nothing happens when it is not there.
 void SelectElement(Program& program, const Element& element);
+
+/// Selects pipes of the drawing together; in the other modes nothing.
+void SelectPipes(Program& program, const std::vector<int>& numbers);
+
+/// The numbers of the pipes that are selected together, ascending.
+std::vector<int> SelectedPipes(const Program& program);
 
 /// The number of the selected pipe or component, or of the point that the selected pipe starts in;
 /// 0 when none is selected.

@@ -27,7 +27,9 @@ class ResultsWindow : public DrawingWindow {
 
     QString Selected(const char* name) {
         const auto rows = Child<QTableView>(name).selectionModel()->selectedRows();
-        return rows.isEmpty() ? QString() : rows.front().data().toString();
+        QString numbers;
+        for (const auto& row : rows) numbers += row.data().toString();
+        return numbers;
     }
 };
 
@@ -41,6 +43,14 @@ TEST_F(ResultsWindow, TablesAreSortedFilteredCopiedAndSelectWhatTheDrawingSelect
     EXPECT_EQ(Shown("Pipes*") + Selected("Pipes"), "2 11");
     pipes.selectRow(0);
     EXPECT_EQ(project.CurrentPipe, 2);
+    pipes.selectAll();
+    EXPECT_EQ(mdi->findChild<QGroupBox*>("Frame3")->title(), "2 pipes");
+    Do("R5,5");
+    EXPECT_EQ(Selected("Pipes"), "1");
+    Do("C11,5");
+    EXPECT_EQ(Selected("Pipes").size(), 2);
+    Do("R11,5");
+    EXPECT_EQ(Selected("Pipes"), "2");
     Child<QTabWidget>("ResultTabs").setCurrentIndex(1);
     Child<QTableView>("Points").selectRow(0);
     EXPECT_EQ(Selected("Pipes"), "1") << "the pipe of point 1";

@@ -121,16 +121,29 @@ void FrmRis::ShowReport() {
 void FrmRis::ShowSelection() {
     for (const Tab& tab : tables_) {
         if (!IsShownBeside(program_, tab.model.About())) continue;
+        const NoteOn about = tab.model.About();
+        const std::vector<int> shown = tab.view->SelectedNumbers();
+        const std::vector<int> wanted = about == NoteOn::Pipe
+                                            ? SelectedPipes(program_)
+                                            : std::vector{SelectedNumber(program_, about)};
         // A point is shown by a pipe that ends there: either end of it may have been meant.
-        if (IsSelected(program_, {tab.model.About(), tab.view->SelectedNumber()})) continue;
-        tab.view->SelectNumber(SelectedNumber(program_, tab.model.About()));
+        const bool one = shown.size() == 1 && wanted.size() == 1;
+        if (shown == wanted || (one && IsSelected(program_, {about, shown.front()}))) continue;
+        tab.view->SelectNumbers(wanted);
     }
 }
 
 void FrmRis::Select(const Tab& tab) {
-    const int number = tab.view->SelectedNumber();
-    if (showsSelection_ || number == 0 || !IsShownBeside(program_, tab.model.About())) return;
-    SelectElement(program_, {tab.model.About(), number});
+    const std::vector<int> numbers = tab.view->SelectedNumbers();
+    if (showsSelection_ || numbers.empty() || !IsShownBeside(program_, tab.model.About())) return;
+    if (numbers.size() == 1) {
+        SelectElement(program_, {tab.model.About(), numbers.front()});
+    } else if (tab.model.About() == NoteOn::Pipe &&
+               program_.project.settings.Mode == WorkMode::Graphic) {
+        SelectPipes(program_, numbers);
+    } else {
+        return;
+    }
     program_.changed();
 }
 

@@ -38,22 +38,29 @@ void ResultView::Filter(const QString& text) {
     sorted_->setFilterFixedString(text);
 }
 
-int ResultView::SelectedNumber() const {
-    const QModelIndexList rows = selectionModel()->selectedRows();
-    if (rows.size() != 1) return 0;
-    return model_.NumberAt(sorted_->mapToSource(rows.front()).row());
+std::vector<int> ResultView::SelectedNumbers() const {
+    std::vector<int> numbers;
+    for (const QModelIndex& row : selectionModel()->selectedRows()) {
+        numbers.push_back(model_.NumberAt(sorted_->mapToSource(row).row()));
+    }
+    std::ranges::sort(numbers);
+    return numbers;
 }
 
-void ResultView::SelectNumber(int number) {
-    if (number != 0 && number == SelectedNumber()) return;
-    const int row = model_.RowOf(number);
-    const QModelIndex shown =
-        row < 0 ? QModelIndex() : sorted_->mapFromSource(model_.index(row, 0));
-    if (!shown.isValid()) return clearSelection();
-    // Whatever keys are down, this one row is selected.
-    selectionModel()->setCurrentIndex(
-        shown, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    scrollTo(shown);
+void ResultView::SelectNumbers(const std::vector<int>& numbers) {
+    QItemSelection rows;
+    for (const int number : numbers) {
+        const int row = model_.RowOf(number);
+        if (row < 0) continue;
+        const QModelIndex shown = sorted_->mapFromSource(model_.index(row, 0));
+        if (shown.isValid()) rows.select(shown, shown);
+    }
+    if (rows.isEmpty()) return clearSelection();
+    const QModelIndex first = rows.front().topLeft();
+    selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+    // Whatever keys are down, these rows are selected.
+    selectionModel()->select(rows, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    scrollTo(first);
 }
 
 void ResultView::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTableView>
+#include <vector>
 
 class QSortFilterProxyModel;
 
@@ -19,9 +20,9 @@ class ResultView : public QTableView {
     void Filter(const QString& text);
 
     /// The pipe, point or cell of the row that the user has selected; 0 for none.
-    int SelectedNumber() const;
-    /// Selects its row and brings it into view; 0, and what has no row, selects nothing.
-    void SelectNumber(int number);
+    std::vector<int> SelectedNumbers() const;
+    /// Selects their rows and brings the first into view; what has no row is passed over.
+    void SelectNumbers(const std::vector<int>& numbers);
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
