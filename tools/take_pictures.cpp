@@ -220,6 +220,8 @@ void TakeColours(const fs::path& data, const fs::path& output) {
     studio.Choose("LabelsFlows");
     studio.Choose("ColoursVelocities");
     studio.SaveWindow("FrmCel", "colours.png");
+    studio.Choose("TabRisultati");
+    studio.SaveWindow("FrmRis", "results.png", {1080, 330});
 }
 
 void TakeDataWindows(const fs::path& data, const fs::path& output) {

@@ -54,6 +54,9 @@ TEST_F(ResultsWindow, TablesAreSortedFilteredCopiedAndSelectWhatTheDrawingSelect
     Child<QTabWidget>("ResultTabs").setCurrentIndex(1);
     Child<QTableView>("Points").selectRow(0);
     EXPECT_EQ(Selected("Pipes"), "1") << "the pipe of point 1";
+    Child<QTableView>("Points").selectRow(2);
+    Do("R5,5");
+    EXPECT_EQ(Selected("Points"), "1") << "where the selected pipe starts";
     Walk("Pipes!Ctrl+C;Filter=given # Pipes* Points* # |1 3");
     EXPECT_TRUE(QApplication::clipboard()->text().startsWith("1\t1\t2\t"));
     EXPECT_TRUE(Child<QPlainTextEdit>("Report").toPlainText().contains("RESULTS CALCULATION"));

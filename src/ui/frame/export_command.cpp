@@ -5,10 +5,12 @@
 #include <algorithm>
 #include <filesystem>
 #include <iterator>
+#include <optional>
 #include <vector>
 
 #include "editor/svg_drawing.h"
 #include "results/export_results.h"
+#include "results/limit_notes.h"
 #include "results/messages.h"
 #include "ui/frame/mdi.h"
 #include "ui/frame/messages.h"
@@ -22,12 +24,21 @@ namespace {
 
 namespace fs = std::filesystem;
 
-Exported ExportedOf(const Program& program) {
+/// The last computation as the windows show it: with the notes on the limits.
+std::optional<RunRecord> ShownRun(const Program& program) {
+    const RunRecord* record = RecordOf(program);
+    if (record == nullptr) return std::nullopt;
+    RunRecord shown = *record;
+    shown.outcome = HeldAgainst(program.limits, *record);
+    return shown;
+}
+
+Exported ExportedOf(const Program& program, const std::optional<RunRecord>& run) {
     const Project& project = program.project;
     const bool drawn = project.settings.Mode == WorkMode::Graphic && project.numtubo > 0;
     return {
         .subject = {project.ProjectName, project.ProjectDescription, project.settings.PressureUnit},
-        .run = RecordOf(program),
+        .run = run ? &*run : nullptr,
         .outOfDate = ResultsAreOld(program),
         .drawing = drawn ? SvgDrawing(project, program.editor) : ""};
 }
@@ -93,7 +104,8 @@ void ExportFromWindow(MDI& mdi) {
     const fs::path file = AskFile(mdi);
     const auto form = ExportFormOf(file);
     if (!form) return;
-    const Exported exported = ExportedOf(program);
+    const std::optional<RunRecord> run = ShownRun(program);
+    const Exported exported = ExportedOf(program, run);
     const std::vector<fs::path> files = ExportFiles(*form, file);
     Status done = MayExport(*form, exported);
     if (done && !MayOverwrite(files, program.boxes)) return;

@@ -135,7 +135,9 @@ Qt::ItemFlags TableModel::flags(const QModelIndex& index) const {
 
 bool TableModel::setData(const QModelIndex& index, const QVariant& value, int role) {
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable)) return false;
-    Apply("cell", [&] {
+    const std::string_view header = kTableColumnList[index.column()].header;
+    const QString column = ToQt(std::string(header.substr(0, header.find(" ["))));
+    Apply(column + QString(" of row %1").arg(ShownRow(RowOf(index))), [&] {
         ChangeCell(project_, texts_, RowOf(index), index.column(), FromQt(value.toString()));
     });
     return true;
@@ -157,8 +159,8 @@ void TableModel::FillDown(const TableBlock& block) {
     Apply("fill down", [&] { idrova::FillDown(project_, texts_, block); });
 }
 
-void TableModel::Clear(const TableBlock& block) {
-    Apply("delete", [&] { ClearBlock(project_, texts_, block); });
+void TableModel::Clear(const TableBlock& block, const QString& name) {
+    Apply(name, [&] { ClearBlock(project_, texts_, block); });
 }
 
 bool TableModel::InsertRows(int row, int count) {

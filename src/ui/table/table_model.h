@@ -33,7 +33,7 @@ class TableModel : public QAbstractTableModel {
     std::string Copy(const TableBlock& block) const;
     void Paste(const TableBlock& block, const std::string& text);
     void FillDown(const TableBlock& block);
-    void Clear(const TableBlock& block);
+    void Clear(const TableBlock& block, const QString& name);
 
     /// Whole rows. False when the table has no room for more.
     bool InsertRows(int row, int count);

@@ -184,7 +184,7 @@ std::optional<TableBlock> TableView::Selected() const {
 
 void TableView::Cut() {
     Copy();
-    Delete();
+    if (const auto block = Selected()) model_.Clear(*block, "cut");
 }
 
 void TableView::Copy() {
@@ -207,7 +207,7 @@ void TableView::FillDown() {
 }
 
 void TableView::Delete() {
-    if (const auto block = Selected()) model_.Clear(*block);
+    if (const auto block = Selected()) model_.Clear(*block, "delete");
 }
 
 void TableView::InsertRows() {
