@@ -12,8 +12,8 @@ namespace idrova {
 struct ShellState {
     bool HintsShown = true;  ///< the hint window is open
     bool ToolBarShown = true;
-    bool ComputesAtOnce = false;                 ///< whenever the plant has changed and typing pauses
-    std::string_view roughnessItem = "t1";       ///< menu item of the roughness last chosen
+    bool ComputesAtOnce = false;            ///< whenever the plant has changed and typing pauses
+    std::string_view roughnessItem = "t1";  ///< menu item of the roughness last chosen
     std::string_view labelsItem = "LabelsNone";  ///< menu item of the labels that the drawing shows
     std::string_view coloursItem = "ColoursNone";  ///< of its colours
 };
