@@ -166,7 +166,7 @@ MapPlace PlaceOf(const EpanetNetwork& network, int point) {
 
 /// Only a drawing has places.
 std::string Coordinates(const EpanetNetwork& network) {
-    std::string text = "\n[COORDINATES]\n;node column row\n";
+    std::string text = "\n[COORDINATES]\n;node x y\n";
     if (network.settings.Mode != WorkMode::Graphic) return text;
     for (const auto& [number, point] : DrawnPoints(network.work)) {
         if (network.node[number] != number) continue;
@@ -192,8 +192,9 @@ Result<std::string> EpanetInput(const RunRecord& run, std::string_view name,
     }
     const EpanetNetwork network = EpanetNetworkOf(run);
     return "[TITLE]\n Project: " + OneLine(name) + DescriptionLine(description) +
-           "\n Written by Idrova " + VersionText() + "\n" + Nodes(network) + Pipes(network) +
-           Links(network) + Options(network.settings) + Coordinates(network) + "\n[END]\n";
+           "\n Computation: " + OutcomeLine(run.outcome) + "\n Written by Idrova " + VersionText() +
+           "\n" + Nodes(network) + Pipes(network) + Links(network) + Options(network.settings) +
+           Coordinates(network) + "\n[END]\n";
 }
 
 }  // namespace idrova

@@ -310,7 +310,7 @@ TEST_F(Calc, WrongUseAndUnusableFilesEndWithTwoAndChangeNothing) {
 --fluid 1 --density 1 --viscosity 1 plant.iv;--data broken plant.iv;
 --data nopumps --density 1 --viscosity 1e-5 plant.iv;
 --data blocked --density 1 --viscosity 1e-5 plant.iv;--save nowhere/x.iv plant.iv;
---set pipe:3:length_m=1 plant.iv;--mode table --set point:4:pressure_Pa=1 plant.iv;
+--set pipe:3:length_m=1 plant.iv;--set pipe:0:length_m=1 plant.iv;--mode table --set point:4:pressure_Pa=1 plant.iv;
 --set pipe:1:length_m=0 plant.iv;--set pipe:1:length_m=x plant.iv;--set pipe:1:width_m=1 plant.iv;
 --set point:1:length_m=1 plant.iv;--set pipe:x:length_m=1 plant.iv;--set pipe:1:length_m plant.iv;
 --html nowhere/r.html plant.iv;--csv plant.iv/x plant.iv;--svg . plant.iv;

@@ -64,6 +64,7 @@ RunRecord Plant() {
     network->settings.FluidViscosity = 2e-3;
     network->settings.FluidName = "Wasser <60 °C>";
     RunRecord run{{}, {}, network->settings, {}, {"2026-11-22", "21:55:26"}};
+    run.outcome.end = RunEnd::Settled;
     CopyNetwork(*network, run.results.emplace());
     return run;
 }
@@ -153,7 +154,6 @@ TEST(Exports, APumpIsInItsRangeOrOutside) {
 
 TEST(Exports, HtmlIsWellFormedAndTellsAll) {
     RunRecord run = Plant();
-    run.outcome.end = RunEnd::Settled;
     run.outcome.notes = {{"Pipe 4 is < 3 & odd"}};
     const std::string page = HtmlReport({kName, "a\x01\"b\"", Unit::MilliBar}, run, "<svg></svg>");
     EXPECT_EQ(MarkupFault(page), "");
@@ -183,6 +183,7 @@ TEST(Exports, EpanetInputIsTheNetwork) {
     EXPECT_EQ(*EpanetInput(run, "a\n[PIPES]", "Größe"), R"([TITLE]
  Project: a [PIPES]
  Description: Größe
+ Computation: Computed
  Written by Idrova 2.6.3
 
 [JUNCTIONS]
@@ -244,7 +245,7 @@ TEST(Exports, EpanetInputIsTheNetwork) {
  Links All
 
 [COORDINATES]
-;node column row
+;node x y
  P1 3.298561 -21.29856
  P2 5.998561 -21.29856
  P3 6.598561 -21.29856
