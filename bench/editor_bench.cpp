@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QGraphicsView>
 #include <QLineEdit>
+#include <QTableView>
 #include <QTest>
 #include <memory>
 
@@ -79,6 +80,13 @@ class Plant {
 
     void CloseWindow(const char* name) {
         mdi_.Windows().Close(name);
+        QApplication::processEvents();
+    }
+
+    /// Sorts the results by flow, in the window that is open.
+    void SortResults(bool rising) {
+        auto* pipes = mdi_.Windows().Find("FrmRis")->findChild<QTableView*>("Pipes");
+        pipes->sortByColumn(3, rising ? Qt::AscendingOrder : Qt::DescendingOrder);
         QApplication::processEvents();
     }
 
@@ -219,6 +227,18 @@ void SwitchColours(benchmark::State& state) {
     }
 }
 BENCHMARK(SwitchColours)->Unit(benchmark::kMillisecond);
+
+void SortResults(benchmark::State& state) {
+    Plant plant(kMaxPipes);
+    plant.Compute();
+    plant.Choose("TabRisultati");
+    bool rising = true;
+    for (auto _ : state) {
+        plant.SortResults(rising);
+        rising = !rising;
+    }
+}
+BENCHMARK(SortResults)->Unit(benchmark::kMillisecond);
 
 void MainWindowOpens(benchmark::State& state) {
     for (auto _ : state) {
