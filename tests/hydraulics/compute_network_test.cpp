@@ -133,6 +133,21 @@ TEST(RunChecks, CoherentIsWhatAgreesToATenThousandth) {
     }
 }
 
+TEST(ComputeNetwork, LosesInThePipesOwnFittingsWhatItLosesInTheSameOnesBesideIt) {
+    for (const bool gas : {false, true}) {
+        const auto flow = [gas](float beside, float own) {
+            NetworkBuilder network =
+                CutPipe({100, 0.1F}, CellKind::Loss, {beside}, {50, 0.08F}, gas ? 1e4F : 1e5F);
+            network->Pipes[1].LossSum = own;
+            if (gas) MakeAir(*network);
+            return NetworkRun(network).work->WorkPipes[1].FlowRate;
+        };
+        EXPECT_GT(flow(1, 0), 1.01F * flow(10, 0));
+        // The gas of the pipe has the mean density of its ends, that of the component its own.
+        EXPECT_NEAR(flow(1, 9) / flow(10, 0), 1, gas ? 5e-3 : 1e-6);
+    }
+}
+
 /// In the first stage, at its end, and in the closing stage.
 TEST(ComputeNetwork, StopsBetweenPasses) {
     const NetworkBuilder network = LoopedNetwork(3, 2);
